@@ -1,0 +1,42 @@
+// A role that a party may hold in an operation, and the roles of an item.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+struct clsRol
+{
+    bool ParicipaImpuesto = false;  ///< the party bears the tax; the name is spelled so
+    bool CargaOblig_SM = false;
+    bool Requerido = false;
+    bool Permite_CuitEnTramite = false;
+    QString SSUBAtributo;
+    QString SSUBAtributo_valor;
+    QString SSUBAtributo_tabla;
+    qint32 IdRol = 0;
+    QString Descripcion;
+};
+
+class colRoles
+{
+public:
+    void Add(const clsRol& rol) { roles_.append(rol); }
+    /// The first role with exactly this description, case included, or null.
+    [[nodiscard]] const clsRol* FindItem(const QString& descripcion) const
+    {
+        for (const clsRol& rol : roles_)
+            if (rol.Descripcion == descripcion)
+                return &rol;
+        return nullptr;
+    }
+    /// By position, from 1.
+    [[nodiscard]] const clsRol& Item(qsizetype posicion) const { return roles_.at(posicion - 1); }
+    [[nodiscard]] qsizetype Count() const { return roles_.size(); }
+    void Remove(qsizetype posicion) { roles_.removeAt(posicion - 1); }
+
+    [[nodiscard]] auto begin() const { return roles_.begin(); }
+    [[nodiscard]] auto end() const { return roles_.end(); }
+
+private:
+    QList<clsRol> roles_;
+};

@@ -1,0 +1,47 @@
+#include "core/aplicacion.h"
+
+#include "core/mensajes.h"
+#include "core/modGlobales.h"
+
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+
+Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
+{
+    setApplicationName(QStringLiteral("VEDRA-RTN"));
+    setApplicationVersion(QStringLiteral(RTN_VERSION));
+    setWindowIcon(QIcon(QStringLiteral(":/iconos/programa.svg")));
+    auto* traductor = new QTranslator(this);
+    if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        installTranslator(traductor);
+}
+
+bool Aplicacion::notify(QObject* objeto, QEvent* evento)
+{
+    try {
+        return QApplication::notify(objeto, evento);
+    } catch (const ErrorAlmacen& e) {
+        terminar(e.descripcion);
+    } catch (const std::exception& e) {
+        terminar(QString::fromUtf8(e.what()));
+    }
+}
+
+void Aplicacion::terminar(const QString& error)
+{
+    static bool terminando = false;
+    if (!terminando) {
+        terminando = true;
+        // Before the box: while it stands, nothing half done is held open.
+        cnRtn.deshacerTodo();
+        std::fprintf(stderr, "%s\n", qUtf8Printable(error));
+        DialogoPantalla(nullptr).avisar({error, QStringLiteral("VEDRA-RTN"), Icono::critico});
+        cnRtn.cerrar();
+        cnTmp.cerrar();
+    }
+    std::_Exit(EXIT_FAILURE);
+}

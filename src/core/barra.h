@@ -1,0 +1,38 @@
+// A toolbar whose buttons come from their keys.
+#pragma once
+
+#include <QStringList>
+#include <QToolBar>
+
+/// Builds a button for each key of `claves` ("-" is a separator) and reports the key that was
+/// pressed. A button is an action whose object name is its key.
+class BarraHerramientas : public QToolBar
+{
+    Q_OBJECT
+    Q_PROPERTY(QStringList claves READ claves WRITE setClaves)
+    Q_PROPERTY(bool secundaria READ secundaria WRITE setSecundaria)
+
+public:
+    explicit BarraHerramientas(QWidget* padre = nullptr);
+
+    [[nodiscard]] QStringList claves() const { return claves_; }
+    void setClaves(const QStringList& claves);
+    /// A small bar beside a grid: the captions stand beside the icons, without access keys.
+    [[nodiscard]] bool secundaria() const { return secundaria_; }
+    void setSecundaria(bool si);
+
+    [[nodiscard]] QAction* boton(const QString& clave) const;
+    void habilitar(const QString& clave, bool si);
+    [[nodiscard]] bool habilitada(const QString& clave) const;
+    /// Presses a button by code; nothing happens when it is disabled.
+    void pulsar(const QString& clave);
+    /// The hint of a button.
+    void ayuda(const QString& clave, const QString& texto);
+
+signals:
+    void pulsada(const QString& clave);
+
+private:
+    QStringList claves_;
+    bool secundaria_ = false;
+};

@@ -1,0 +1,16 @@
+#include "core/clsLocaleInfo.h"
+
+clsLocaleInfo::clsLocaleInfo(const QLocale& local)
+    : local_(local), miles_(local.groupSeparator()), decimal_(local.decimalPoint())
+{
+}
+
+QString clsLocaleInfo::orden(const QString& patron)
+{
+    const auto d = patron.indexOf(u'd');
+    const auto m = patron.indexOf(u'M');
+    const auto y = patron.indexOf(u'y');
+    if (y < m && y < d)
+        return QStringLiteral("YMD");
+    return m < d ? QStringLiteral("MDY") : QStringLiteral("DMY");
+}

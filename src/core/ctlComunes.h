@@ -1,0 +1,35 @@
+// What forms do alike with text boxes and combos.
+#pragma once
+
+#include "core/listas.h"
+
+#include <QString>
+
+class QComboBox;
+class QLineEdit;
+class QWidget;
+
+/// Turns what is typed to capitals at once, the caret staying where it was.
+void a_mayusculas(QLineEdit* texto);
+/// Lets only digits be typed.
+void solo_digitos_en(QLineEdit* texto);
+/// Back colour of a window or of a face, and the enabled state.
+void habilitar_texto(QLineEdit* texto, bool si);
+void habilitar_combo(QComboBox* combo, bool si);
+
+/// Replaces the entries; nothing is selected afterwards, and no change is reported.
+void llenar_combo(QComboBox* combo, const Entradas& entradas);
+/// The first entry with this item data, or none.
+void seleccionar_item(QComboBox* combo, qint64 dato);
+/// The first entry with this text, or none.
+void seleccionar_texto(QComboBox* combo, const QString& texto);
+/// The first entry that matches is selected, or none: criterion 0 compares `largo` characters of
+/// the item data from `inicio` (from 1), criterion 1 looks for the text anywhere in the entry.
+void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio = 1, int largo = 0);
+/// Item data of the selection as a number, 0 without one.
+[[nodiscard]] int item_data(const QComboBox* combo);
+/// A combo with typing: in capitals, and on leaving it the text goes to the first entry that
+/// starts with it.
+void combo_con_texto(QComboBox* combo);
+/// Item data of the entry that the text of a combo with typing stands for, 0 for none.
+[[nodiscard]] int item_del_texto(const QComboBox* combo);

@@ -1,0 +1,85 @@
+// Base of all forms: the single instance that loads on demand, its caller, its life as a child
+// window of the main window.
+#pragma once
+
+#include "core/dialogo.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QMdiArea;
+class QMdiSubWindow;
+
+class Formulario : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Formulario(QWidget* padre = nullptr);
+
+    /// The form that opened this one: disabled while this one is up, enabled again when it unloads.
+    QPointer<Formulario> Llamador;
+    Modo Operacion = Modo::ninguno;
+
+    /// Shows the form as a child of the main window, or brings it to the front.
+    void mostrar();
+    /// Unloads the form, after its question; false when the user keeps it.
+    bool descargar();
+    [[nodiscard]] bool descargada() const { return descargada_; }
+
+    /// The area in which forms show from now on; none makes them windows of their own.
+    static void fijarArea(QMdiArea* area);
+    /// The loaded forms, the oldest first.
+    static QList<Formulario*> cargados();
+
+    /// What runs on each activation, after the caller has been disabled.
+    virtual void alActivar() {}
+
+protected:
+    /// Whether the form may close; here a form asks.
+    virtual bool consultarDescarga() { return true; }
+    /// What a form does as it unloads.
+    virtual void alDescargar() {}
+
+    void avisar(const QString& texto, const QString& titulo, Icono icono = Icono::informacion);
+    [[nodiscard]] bool preguntar(const QString& texto, const QString& titulo, Icono icono = Icono::pregunta);
+    /// Shows the box of a failed check and moves the focus to its control.
+    void mostrarFalla(const Falla& falla);
+    /// The focus to a control by its name, when it is visible and enabled.
+    void enfocar(const QString& control);
+    /// Whether the control, or what stands inside it, has the focus.
+    [[nodiscard]] bool esActivo(const QWidget* control) const;
+    /// Brings a form that this one opens into its place: caller set, window shown.
+    void abrir(Formulario* hijo);
+
+    void closeEvent(QCloseEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+private:
+    void traerAlFrente();
+    void activarse();
+
+    QPointer<QMdiSubWindow> subventana_;
+    bool descargada_ = false;
+};
+
+template <class F>
+inline QPointer<F> instancia_unica;
+
+/// The form's single instance, loaded when it is not.
+template <class F>
+F* cargar()
+{
+    QPointer<F>& unica = instancia_unica<F>;
+    if (!unica || unica->descargada())
+        unica = new F;
+    return unica;
+}
+
+/// The form's single instance, or null when it is not loaded.
+template <class F>
+F* cargada()
+{
+    QPointer<F>& unica = instancia_unica<F>;
+    return unica && !unica->descargada() ? unica.data() : nullptr;
+}

@@ -1,0 +1,23 @@
+// Entries of the combos that several forms fill alike.
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <vector>
+
+/// One entry: its text and its item data.
+struct Entrada
+{
+    QString texto;
+    QVariant dato;
+};
+
+using Entradas = std::vector<Entrada>;
+
+/// Entries of a query: the text of one column and the item data of another. Throws ErrorAlmacen.
+[[nodiscard]] Entradas leer_entradas(const QString& sql, const char* texto, const char* dato);
+
+[[nodiscard]] Entradas provincias();
+[[nodiscard]] Entradas localidades(int provincia);
+[[nodiscard]] Entradas localidades_propias();

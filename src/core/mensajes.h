@@ -1,0 +1,18 @@
+// Message boxes over a window.
+#pragma once
+
+#include "core/dialogo.h"
+
+class QWidget;
+
+/// Shows what the logic says in boxes over a window.
+class DialogoPantalla : public Dialogo
+{
+public:
+    explicit DialogoPantalla(QWidget* padre) : padre_(padre) {}
+    void avisar(const Mensaje& mensaje) override;
+    [[nodiscard]] bool preguntar(const Mensaje& mensaje) override;
+
+private:
+    QWidget* padre_;
+};

@@ -1,0 +1,43 @@
+// The rows of a grid: texts, with a colour per row where one is set.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QColor>
+#include <QHash>
+
+#include <vector>
+
+class ModeloGrilla : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    struct Colores
+    {
+        QColor texto;
+        QColor fondo;
+    };
+
+    void preparar(const QStringList& titulos);
+    /// Between both calls rows are added without the view following each.
+    void comenzar();
+    void terminar();
+    void agregar(const QStringList& celdas);
+    void colorear(int fila, const Colores& colores);
+
+    [[nodiscard]] QString texto(int fila, int columna) const;
+    void ponerTexto(int fila, int columna, const QString& texto);
+
+    int rowCount(const QModelIndex& padre = {}) const override;
+    int columnCount(const QModelIndex& padre = {}) const override;
+    QVariant data(const QModelIndex& indice, int rol) const override;
+    QVariant headerData(int seccion, Qt::Orientation orientacion, int rol) const override;
+
+private:
+    QStringList titulos_;
+    std::vector<QString> celdas_;
+    QHash<int, Colores> colores_;
+    int filas_ = 0;
+};

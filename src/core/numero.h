@@ -1,0 +1,83 @@
+// Decimal rounding, and the number field without its widget: the text that the user sees is
+// the only truth about the number.
+#pragma once
+
+#include "core/clsLocaleInfo.h"
+
+#include <QString>
+
+#include <functional>
+#include <stdexcept>
+
+/// A text that is no number was read as one.
+class ErrorConversion : public std::runtime_error
+{
+public:
+    ErrorConversion() : std::runtime_error("No coinciden los tipos") {}
+};
+
+/// The number's text of 15 significant digits, rounded half away from zero to `decimales`, with
+/// "." as separator and no grouping. What rounds to zero has no sign.
+[[nodiscard]] QString formato_decimal(double valor, int decimales);
+/// The same rounding, as a number.
+[[nodiscard]] double redondear(double valor, int decimales);
+/// The number as "0.00" is filled, in the separators of the user's locale.
+[[nodiscard]] QString formato_importe(double valor);
+/// A whole number with leading zeros up to `ancho`.
+[[nodiscard]] QString con_ceros(qint64 valor, int ancho);
+/// Up to 15 significant digits with ".", as a statement takes a number.
+[[nodiscard]] QString numero_sql(double valor);
+/// The number that a stored text with "." stands for; throws ErrorConversion.
+[[nodiscard]] double numero_de_texto_sql(const QString& texto);
+/// The number that a shown text stands for under the user's locale; throws ErrorConversion.
+[[nodiscard]] double numero_de_texto(const QString& texto);
+/// The number at the start of the text, 0 when there is none; never fails.
+[[nodiscard]] double numero_inicial(const QString& texto);
+
+class Numero
+{
+public:
+    Numero() = default;
+    explicit Numero(int decimales) : cantidadDecimales(decimales) {}
+
+    int cantidadDecimales = 0;
+    bool useSepMiles = true;
+    bool permiteNegativos = false;
+
+    /// Called after each change of the text that did not come from `escribirTexto`.
+    std::function<void()> alCambiar;
+
+    /// What the key filter decides about one character key.
+    struct Tecla
+    {
+        int keyAscii;       ///< the character that goes on, 0 for a dropped key
+        bool cursorAlFinal; ///< the text was changed, the caret goes to its end
+    };
+    /// Enter, Backspace and Escape pass; "." becomes the locale's separator, "-" and "+" set and
+    /// clear the sign, anything but a digit is dropped.
+    Tecla filtrar(int keyAscii);
+
+    /// Focus in: the thousands separators go.
+    void entrar();
+    /// Focus out: the text under the mask. An empty text and one that is no number stay.
+    void formatear();
+
+    /// 0 for an empty text; throws ErrorConversion for a text that is no number.
+    [[nodiscard]] double Value() const;
+    void setValue(double valor);
+    [[nodiscard]] QString toString() const { return texto_; }
+    /// The text with "." as separator and no grouping; the empty text stays empty.
+    [[nodiscard]] QString toSQL() const;
+    void ClearText();
+
+    /// The text as an editor changed it.
+    void escribirTexto(const QString& texto) { texto_ = texto; }
+    [[nodiscard]] bool vacio() const { return texto_.isEmpty(); }
+
+private:
+    void poner(const QString& texto);
+    [[nodiscard]] QString desnudo() const;
+
+    clsLocaleInfo local_;
+    QString texto_;
+};

@@ -1,0 +1,67 @@
+#include "declarations/copiar_dj.h"
+
+#include "core/modGlobales.h"
+#include "declarations/modABM_dj.h"
+#include "declarations/numero_dj.h"
+
+namespace {
+
+// The rows go in as one piece of work for the disk. The copy is no transaction for the user:
+// what was inserted before a failure is confirmed as well.
+class Tanda
+{
+public:
+    Tanda() { cnRtn.comenzar(); }
+    ~Tanda()
+    {
+        try {
+            cnRtn.confirmar();
+        } catch (const ErrorAlmacen&) {
+            cnRtn.deshacerTodo();
+        }
+    }
+    Tanda(const Tanda&) = delete;
+    Tanda& operator=(const Tanda&) = delete;
+};
+
+QString todo(const char* tabla, const QString& nro)
+{
+    return QStringLiteral("select * from ") + QLatin1String(tabla) + QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("'");
+}
+
+template <class T, class Alta>
+bool copiar_tabla(const char* tabla, std::span<const Columna<T>> columnas, const QString& de, const QString& a, Alta alta)
+{
+    Recordset rs(cnRtn, todo(tabla, de));
+    if (rs.eof())
+        return true;
+    for (const LectorFilas<T> lector(rs, columnas); !rs.eof(); rs.siguiente()) {
+        T fila = lector.leer();
+        fila.dj = a;
+        if (!alta(fila))
+            return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+QString copiar_dj(const QString& nro, Dialogo& dialogo)
+{
+    auto cabecera = leer_fila<CabeceraDJ>(cnRtn, todo("SEL_TB_RTN_CABDJ", nro), columnas_cabecera());
+    if (!cabecera)
+        return {};
+    const QString nuevo = NumeroDJ(nro).siguiente();
+    cabecera->nro = nuevo;
+    ++cabecera->secuencia;
+
+    const Tanda tanda;
+    const bool bien = alta_cabecera_dj(*cabecera, dialogo)
+        && copiar_tabla<Escritura>("SEL_TB_RTN_DETDJ", columnas_escritura(), nro, nuevo, [&](auto& f) { return alta_detalle_dj(f, false, dialogo); })
+        && copiar_tabla<Inmueble>("SEL_TB_RTN_INS_INMUEBLES", columnas_inmueble(), nro, nuevo, [&](auto& f) { return alta_inmueble(f, false, dialogo); })
+        && copiar_tabla<Parte>("SEL_TB_RTN_INS_PARTES", columnas_parte(), nro, nuevo, [&](auto& f) { return alta_parte(f, false, dialogo); })
+        && copiar_tabla<Operacion>("SEL_TB_RTN_INS_OPERACIONES", columnas_operacion(), nro, nuevo, [&](auto& f) { return alta_operacion(f, false, dialogo); })
+        && copiar_tabla<ValorContractual>("SEL_TB_RTN_INS_VC", columnas_valor(), nro, nuevo, [&](auto& f) { return alta_valor_contractual(f, false, dialogo); })
+        && copiar_tabla<RolOperacion>("SEL_TB_RTN_INS_ROLES", columnas_rol(), nro, nuevo, [&](auto& f) { return alta_rol(f, dialogo); });
+    return bien ? nuevo : QString();
+}

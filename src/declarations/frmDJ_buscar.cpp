@@ -1,0 +1,168 @@
+#include "declarations/frmDJ_buscar.h"
+
+#include "core/ctlComunes.h"
+#include "core/mensajes.h"
+#include "declarations/agente.h"
+#include "declarations/frmDJ_editar.h"
+#include "declarations/lista_dj.h"
+#include "filing/archivo_dj.h"
+#include "filing/verificacion.h"
+#include "ui_frmDJ_buscar.h"
+
+#include <QDir>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+frmDJ_buscar::frmDJ_buscar() : ui(std::make_unique<Ui::frmDJ_buscar>())
+{
+    ui->setupUi(this);
+    preparar_grilla(ui->flx,
+                    {QStringLiteral("DJ Nº"), QStringLiteral("AR Nº"), QStringLiteral("Municipio"), QStringLiteral("Año"), QStringLiteral("Mes"),
+                     QStringLiteral("Rectif."), QStringLiteral("Estado"), QStringLiteral("Observaciones")},
+                    {2200, 1000, 2800, 800, 800, 800, 1400, 2000});
+    cargar_agentes();
+    ui->nroAnio->ClearText();
+    ui->nroMes->ClearText();
+
+    connect(ui->tlbDJ, &BarraHerramientas::pulsada, this, &frmDJ_buscar::tlbDJ_pulsada);
+    connect(ui->flx, &Grilla::elegida, this, [this] { ui->tlbDJ->pulsar(QStringLiteral("modificar")); });
+    connect(ui->cboRTN, &QComboBox::activated, this, [this] { listar_dj(true); });
+    for (ctlNumero* n : {ui->nroAnio, ui->nroMes})
+        n->findChild<QLineEdit*>(QStringLiteral("txt"))->installEventFilter(this);
+    connect(ui->nroAnio, &ctlNumero::KeyPress, this, [this](int& tecla) {
+        if (tecla == 13)
+            aceptarAnio();
+    });
+    connect(ui->nroMes, &ctlNumero::KeyPress, this, [this](int& tecla) {
+        if (tecla == 13)
+            aceptarMes();
+    });
+    connect(ui->nroAnio, &ctlNumero::salida, this, &frmDJ_buscar::aceptarAnio);
+}
+
+frmDJ_buscar::~frmDJ_buscar() = default;
+
+void frmDJ_buscar::alActivar()
+{
+    listar_dj(false);
+    habilitar_botones();
+}
+
+// A month that is none keeps the focus: the validation is refused.
+bool frmDJ_buscar::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (evento->type() == QEvent::FocusOut && objeto == ui->nroMes->focusProxy()) {
+        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+        const bool sale = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason || motivo == Qt::MouseFocusReason
+            || motivo == Qt::OtherFocusReason || motivo == Qt::ShortcutFocusReason;
+        if (sale && !aceptarMes())
+            QMetaObject::invokeMethod(ui->nroMes, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
+    }
+    return Formulario::eventFilter(objeto, evento);
+}
+
+void frmDJ_buscar::aceptarAnio()
+{
+    if (ui->nroAnio->Value() == 0)
+        ui->nroAnio->ClearText();
+    else
+        listar_dj(true);
+}
+
+bool frmDJ_buscar::aceptarMes()
+{
+    const double mes = ui->nroMes->Value();
+    if (mes == 0) {
+        ui->nroMes->ClearText();
+        return true;
+    }
+    if (mes < 1 || mes > 12)
+        return false;
+    listar_dj(true);
+    return true;
+}
+
+void frmDJ_buscar::cargar_agentes()
+{
+    Entradas entradas{{QStringLiteral("(sin filtro)"), 0}};
+    try {
+        for (Entrada& e : leer_entradas(consulta_agentes(), "SRTN_TITULAR_NOMBRE", "SRTN_NRO"))
+            entradas.push_back(std::move(e));
+    } catch (const ErrorAlmacen&) {
+        avisar(QStringLiteral("Error al cargar los agentes de retención"), {}, Icono::ninguno);
+    }
+    llenar_combo(ui->cboRTN, entradas);
+    ui->cboRTN->setCurrentIndex(0);
+}
+
+void frmDJ_buscar::listar_dj(bool limpiar)
+{
+    if (limpiar)
+        ui->flx->vaciar();
+    const FiltroDJ filtro{item_data(ui->cboRTN), int(ui->nroAnio->Value()), int(ui->nroMes->Value())};
+    ui->flx->llenar([&] { leer_lista_dj(filtro, [this](const QStringList& fila) { ui->flx->agregar(fila); }); });
+    habilitar_botones();
+}
+
+void frmDJ_buscar::habilitar_botones()
+{
+    for (const char* clave : {"modificar", "borrar", "rectificar", "emitir"})
+        ui->tlbDJ->habilitar(QLatin1String(clave), ui->flx->filas() > 0);
+}
+
+void frmDJ_buscar::abrirEditor(Modo operacion, const QString& nro)
+{
+    auto* editor = cargar<frmDJ_editar>();
+    if (editor->iniciar(operacion, nro))
+        abrir(editor);
+    else
+        editor->descargar();
+}
+
+void frmDJ_buscar::tlbDJ_pulsada(const QString& clave)
+{
+    const QString nro = ui->flx->clave();
+    if (clave == u"salir")
+        descargar();
+    else if (clave == u"nueva")
+        abrirEditor(Modo::nuevo, {});
+    else if (nro.isEmpty())
+        return;
+    else if (clave == u"modificar")
+        abrirEditor(Modo::modificar, nro);
+    else if (clave == u"rectificar")
+        rectificar();
+    else if (clave == u"emitir")
+        emitir();
+    else if (clave == u"borrar" && preguntar(QStringLiteral("¿Esta seguro que desea borrar la DJ seleccionada?"), QStringLiteral("Borrar DJ"))) {
+        DialogoPantalla dialogo(this);
+        borrar_dj(nro, dialogo);
+        listar_dj(false);
+    }
+}
+
+void frmDJ_buscar::rectificar()
+{
+    DialogoPantalla dialogo(this);
+    const QString ultima = dj_a_rectificar(ui->flx->clave(), dialogo);
+    if (!ultima.isEmpty())
+        abrirEditor(Modo::rectificar, ultima);
+}
+
+void frmDJ_buscar::emitir()
+{
+    DialogoPantalla dialogo(this);
+    const QString nro = ui->flx->clave();
+    if (!verificar_dj_completa(nro, windowTitle(), dialogo))
+        return;
+    const EmisionArchivo emision = generar_archivo_dj(nro);
+    if (emision.codigo.isEmpty()) {
+        avisar(QStringLiteral("No se puede emitir la DJ impresa sin generar el archivo previamente \n"
+                              "debido a que se genera un código de verificación de la integridad entre el diskete y la DJ impresa"),
+               {}, Icono::ninguno);
+        return;
+    }
+    avisar(QStringLiteral("El archivo de la declaración jurada está en:\n") + QDir::toNativeSeparators(emision.archivo)
+               + QStringLiteral("\n\nCódigo de verificación: ") + emision.codigo,
+           windowTitle());
+}

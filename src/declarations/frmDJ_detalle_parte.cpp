@@ -1,0 +1,295 @@
+#include "declarations/frmDJ_detalle_parte.h"
+
+#include "core/ctlComunes.h"
+#include "core/mensajes.h"
+#include "core/modGlobales.h"
+#include "declarations/modABM_dj.h"
+#include "declarations/parte.h"
+#include "ui_frmDJ_detalle_parte.h"
+
+#include <QListView>
+
+namespace {
+
+const QString CUIT = QStringLiteral("CUIT");
+const QString PASAPORTE = QStringLiteral("PASAPORTE");
+const QString UNIPERSONAL = QStringLiteral("UNIPERSONAL");
+const QString FISICA = QStringLiteral("Física");
+
+// Each entry carries the first digit that its companies' CUITs bear.
+Entradas tipos_sociedad()
+{
+    Entradas lista;
+    for (Recordset rs(cnRtn, QStringLiteral("select GTSO_ID, GTSO_DESCRIPCION, GTSO_CUIT_DIGITO_1 ") + QStringLiteral(" from GLB_TB_TIPOS_SOCIEDAD ")
+                                 + QStringLiteral(" order by GTSO_DESCRIPCION collate ESPANOL"));
+         !rs.eof(); rs.siguiente())
+        lista.push_back({rs.texto("GTSO_DESCRIPCION").leftJustified(POSICION_DIGITO_CUIT) + rs.texto("GTSO_CUIT_DIGITO_1"), rs.valor("GTSO_ID")});
+    return lista;
+}
+
+Entradas codigos_pais()
+{
+    Entradas lista;
+    for (Recordset rs(cnRtn, QStringLiteral("select CPAI_CODIGO, CPAI_PAIS, CPAI_PERSONA from GLB_TB_AFIP_CODIGOS_PAIS ")
+                                 + QStringLiteral(" order by CPAI_PAIS collate ESPANOL, CPAI_PERSONA collate ESPANOL "));
+         !rs.eof(); rs.siguiente())
+        lista.push_back({rs.texto("CPAI_PAIS") + QStringLiteral(" - ") + rs.texto("CPAI_PERSONA") + QStringLiteral(" (") + rs.texto("CPAI_CODIGO")
+                             + QStringLiteral(")"),
+                         {}});
+    return lista;
+}
+
+void seleccionar_inicio(QComboBox* combo, const QString& texto)
+{
+    for (int i = 0; i < combo->count(); ++i)
+        if (nombre_sociedad(combo->itemText(i)) == texto) {
+            combo->setCurrentIndex(i);
+            return;
+        }
+    combo->setCurrentIndex(-1);
+}
+
+}  // namespace
+
+frmDJ_detalle_parte::frmDJ_detalle_parte() : ui(std::make_unique<Ui::frmDJ_detalle_parte>())
+{
+    ui->setupUi(this);
+    for (QRadioButton* opcion : {ui->optArgentina, ui->optExtranjera}) {
+        opcion->setAutoExclusive(false);
+        opcion->setChecked(false);
+        opcion->setAutoExclusive(true);
+    }
+    llenar_combo(ui->cboTipoSociedad, tipos_sociedad());
+    llenar_combo(ui->cboTipoDoc, leer_entradas(QStringLiteral("select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"),
+                                               "GTDC_DESCRIPCION", "GTDC_ID"));
+    llenar_combo(ui->cboProv, provincias());
+    llenar_combo(ui->cboCodigoPais, codigos_pais());
+    ui->cboCodigoPais->setEnabled(false);
+    ui->txtPasaporte->hide();
+    ui->nroDoc->ClearText();
+    ui->nroExencionPorc->ClearText();
+    ui->nroExencionPorc->setEnabled(false);
+    ui->chkCUIT_EnTramite->setEnabled(false);
+    // The role belongs to the operation's screen.
+    ui->cboRol->setEnabled(false);
+    ui->cboRol->hide();
+    ui->lblRol->hide();
+    ui->tlb->habilitar(QStringLiteral("buscar"), false);
+    conectar();
+}
+
+frmDJ_detalle_parte::~frmDJ_detalle_parte() = default;
+
+void frmDJ_detalle_parte::conectar()
+{
+    for (QLineEdit* texto : {ui->txtDomicilio, ui->txtObs, ui->txtPasaporte, ui->txtRazonSocial})
+        a_mayusculas(texto);
+    for (QComboBox* combo : {ui->cboProv, ui->cboLoc})
+        combo_con_texto(combo);
+    connect(ui->cboTipoDoc, &QComboBox::activated, this, &frmDJ_detalle_parte::clicTipoDoc);
+    connect(ui->cboTipoSociedad, &QComboBox::activated, this, &frmDJ_detalle_parte::clicTipoSociedad);
+    connect(ui->cboCodigoPais, &QComboBox::activated, this, &frmDJ_detalle_parte::clicPais);
+    connect(ui->optExtranjera, &QRadioButton::toggled, ui->cboCodigoPais, &QWidget::setEnabled);
+    connect(ui->optExtranjera, &QRadioButton::clicked, this, [this] {
+        if (ui->cboCodigoPais->currentText().contains(FISICA))
+            clicPais();
+    });
+    connect(ui->chkExento, &QCheckBox::clicked, this, &frmDJ_detalle_parte::clicExento);
+    connect(ui->nroDoc, &ctlNumero::salida, this, &frmDJ_detalle_parte::salirDeNumero);
+    connect(ui->cboProv, &QComboBox::activated, this, &frmDJ_detalle_parte::cargar_localidades);
+    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        if (clave == u"aceptar")
+            aceptar();
+        else if (clave == u"cancelar")
+            descargar();
+    });
+}
+
+void frmDJ_detalle_parte::fijarRenglon(const QString& dj, const QString& renglon)
+{
+    ui->txtDJ_nro->setText(dj);
+    ui->txtRenglonDJ->setText(renglon);
+}
+
+void frmDJ_detalle_parte::permitirCuitEnTramite(bool si)
+{
+    tramitePermitido_ = si;
+    habilitarEnTramite();
+}
+
+void frmDJ_detalle_parte::Inicializar(Modo operacion, int id)
+{
+    Operacion = operacion;
+    id_ = id;
+    setWindowTitle(operacion == Modo::nuevo ? QStringLiteral("Alta de parte") : QStringLiteral("Modificar parte"));
+    if (operacion != Modo::modificar)
+        return;
+    if (const auto p = cargar_parte(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), id))
+        mostrarParte(*p);
+}
+
+void frmDJ_detalle_parte::mostrarParte(const Parte& p)
+{
+    seleccionar_item(ui->cboTipoSociedad, p.tipoSociedad.value_or(-1));
+    seleccionar_item(ui->cboTipoDoc, p.tipoDoc.isEmpty() ? -1 : p.tipoDoc.toInt());
+    mostrarCampoNumero();
+    habilitarEnTramite();
+    ui->chkCUIT_EnTramite->setChecked(p.cuitEnTramite);
+    const QString tipo = ui->cboTipoDoc->currentText().toUpper();
+    if (tipo == PASAPORTE)
+        ui->txtPasaporte->setText(p.nroDoc);
+    else if ((tipo == CUIT || tipo == u"CUIL") && p.cuit)
+        ui->nroDoc->setValue(*p.cuit);
+    else if (!p.nroDoc.isEmpty())
+        ui->nroDoc->setValue(numero_inicial(p.nroDoc));
+    ui->txtRazonSocial->setText(p.razonSocial);
+    ui->txtDomicilio->setText(p.domicilio);
+    ui->txtCP->setText(p.codPostal);
+    ui->txtObs->setText(p.observaciones);
+    seleccionar_item(ui->cboProv, p.provincia.value_or(-1));
+    cargar_localidades();
+    seleccionar_item(ui->cboLoc, p.localidad.value_or(-1));
+    (p.nacionalidad == u"E" ? ui->optExtranjera : ui->optArgentina)->setChecked(true);
+    if (p.nacionalidad == u"E")
+        buscar_en_combo(ui->cboCodigoPais, 1, p.codigoPais);
+    ui->chkExento->setChecked(p.porcExento.has_value());
+    ui->nroExencionPorc->setEnabled(p.porcExento.has_value());
+    if (p.porcExento)
+        ui->nroExencionPorc->setValue(*p.porcExento);
+}
+
+void frmDJ_detalle_parte::mostrarCampoNumero()
+{
+    const bool pasaporte = ui->cboTipoDoc->currentText().toUpper() == PASAPORTE;
+    ui->nroDoc->setVisible(!pasaporte);
+    ui->txtPasaporte->setVisible(pasaporte);
+}
+
+void frmDJ_detalle_parte::habilitarEnTramite()
+{
+    const bool si = tramitePermitido_ && ui->cboTipoDoc->currentText().toUpper() == CUIT;
+    ui->chkCUIT_EnTramite->setEnabled(si);
+    if (!si)
+        ui->chkCUIT_EnTramite->setChecked(false);
+}
+
+void frmDJ_detalle_parte::clicTipoDoc()
+{
+    mostrarCampoNumero();
+    habilitarEnTramite();
+    if (ui->cboTipoDoc->currentText().toUpper() == CUIT && es_cuit(ui->nroDoc->modelo()))
+        ui->chkExento->setEnabled(true);
+    (ui->nroDoc->isVisible() ? static_cast<QWidget*>(ui->nroDoc) : ui->txtPasaporte)->setFocus();
+}
+
+void frmDJ_detalle_parte::salirDeNumero()
+{
+    if (ui->cboTipoDoc->currentText().toUpper() == CUIT && es_cuit(ui->nroDoc->modelo()))
+        ui->chkExento->setEnabled(true);
+}
+
+// A company always has a CUIT.
+void frmDJ_detalle_parte::clicTipoSociedad()
+{
+    if (ui->cboTipoSociedad->currentText().startsWith(UNIPERSONAL))
+        return;
+    seleccionar_texto(ui->cboTipoDoc, CUIT);
+    mostrarCampoNumero();
+    habilitarEnTramite();
+}
+
+void frmDJ_detalle_parte::clicPais()
+{
+    if (!ui->cboCodigoPais->currentText().contains(FISICA)) {
+        ui->cboTipoDoc->setCurrentIndex(-1);
+        mostrarCampoNumero();
+        seleccionar_inicio(ui->cboTipoSociedad, QStringLiteral("DESCONOCIDA"));
+        return;
+    }
+    seleccionar_texto(ui->cboTipoDoc, PASAPORTE);
+    seleccionar_inicio(ui->cboTipoSociedad, UNIPERSONAL);
+    mostrarCampoNumero();
+    ui->chkCUIT_EnTramite->setChecked(false);
+    ui->chkCUIT_EnTramite->setEnabled(false);
+    ui->txtPasaporte->setFocus();
+}
+
+void frmDJ_detalle_parte::clicExento()
+{
+    const bool si = ui->chkExento->isEnabled() && ui->chkExento->isChecked();
+    ui->nroExencionPorc->setEnabled(si);
+    if (si)
+        ui->nroExencionPorc->setFocus();
+    else
+        ui->nroExencionPorc->ClearText();
+}
+
+void frmDJ_detalle_parte::cargar_localidades()
+{
+    llenar_combo(ui->cboLoc, localidades(item_data(ui->cboProv)));
+}
+
+ControlesParte frmDJ_detalle_parte::leer_controles() const
+{
+    ControlesParte c;
+    c.operacion = Operacion;
+    c.titulo = windowTitle();
+    c.dj = ui->txtDJ_nro->text();
+    c.renglon = ui->txtRenglonDJ->text();
+    c.id = id_;
+    c.argentina = ui->optArgentina->isChecked();
+    c.extranjera = ui->optExtranjera->isChecked();
+    c.codigoPais = ui->cboCodigoPais->currentIndex();
+    c.codigoPaisTexto = ui->cboCodigoPais->currentText();
+    c.tipoSociedad = item_data(ui->cboTipoSociedad);
+    c.tipoSociedadTexto = ui->cboTipoSociedad->currentText();
+    if (ui->cboTipoDoc->currentIndex() >= 0)
+        c.tipoDoc = item_data(ui->cboTipoDoc);
+    c.tipoDocTexto = ui->cboTipoDoc->currentText();
+    c.nroDoc.escribirTexto(ui->nroDoc->toString());
+    c.pasaporte = ui->txtPasaporte->text();
+    c.enTramite = ui->chkCUIT_EnTramite->isEnabled() && ui->chkCUIT_EnTramite->isChecked();
+    c.razonSocial = ui->txtRazonSocial->text();
+    c.exento = ui->chkExento->isChecked();
+    c.exentoActivo = ui->chkExento->isEnabled();
+    c.exencionPorc.escribirTexto(ui->nroExencionPorc->toString());
+    c.domicilio = ui->txtDomicilio->text();
+    c.codPostal = ui->txtCP->text();
+    c.observaciones = ui->txtObs->text();
+    c.provinciaTexto = ui->cboProv->currentText();
+    c.localidadTexto = ui->cboLoc->currentText();
+    c.provincia = item_del_texto(ui->cboProv);
+    c.localidad = item_del_texto(ui->cboLoc);
+    c.rolActivo = ui->cboRol->isEnabled() && ui->cboRol->isVisible();
+    c.rolElegido = ui->cboRol->currentIndex() >= 0;
+    return c;
+}
+
+void frmDJ_detalle_parte::aceptar()
+{
+    ControlesParte c = leer_controles();
+    const auto falla = validar_parte(c);
+    ui->txtRazonSocial->setText(c.razonSocial);
+    ui->txtPasaporte->setText(c.pasaporte);
+    ui->txtDomicilio->setText(c.domicilio);
+    ui->txtObs->setText(c.observaciones);
+    if (falla) {
+        if (falla->control == u"nroDoc" && c.esCuitOCuil() && c.nroDoc.Value() == 0)
+            ui->nroDoc->setVisible(true);
+        mostrarFalla(*falla);
+        return;
+    }
+    DialogoPantalla dialogo(this);
+    if (!verificar_colision_partes(c, dialogo)) {
+        enfocar(c.es(PASAPORTE) ? QStringLiteral("txtPasaporte") : QStringLiteral("nroDoc"));
+        return;
+    }
+    if (Operacion == Modo::modificar) {
+        modificar_parte(c);
+    } else {
+        Parte p = parte_de(c);
+        if (!alta_parte(p, true, dialogo))
+            return;
+    }
+    descargar();
+}

@@ -1,0 +1,55 @@
+// One sworn return: header, deeds and slips.
+#pragma once
+
+#include "core/formulario.h"
+
+#include <memory>
+
+namespace Ui {
+class frmDJ_editar;
+}
+
+class frmDJ_editar : public Formulario
+{
+    Q_OBJECT
+
+public:
+    frmDJ_editar();
+    ~frmDJ_editar() override;
+
+    void alActivar() override;
+    /// Sets the form up for a new DJ, for the DJ of this number, or for the rectificativa that
+    /// continues it. False when there is nothing to show.
+    bool iniciar(Modo operacion, const QString& nro);
+
+    /// What the deed's screen reads: the posición, and the agent's name.
+    [[nodiscard]] QString anio() const;
+    [[nodiscard]] int mes() const;
+    [[nodiscard]] QString agente() const;
+    /// Shows the total of the DJ as the operation's screen has just stored it.
+    void mostrarTotal(double total);
+
+private:
+    bool componer_nro_dj();
+    void calcular_vencimiento();
+    void actualizar_totales();
+    bool cargar_cabecera(const QString& nro);
+    void mostrarAgente(int nro);
+    void limpiar_agente();
+    void cargar_detalle();
+    void habilitar_tlbDetalle();
+    void marcar_sin_movimientos();
+    void aceptar();
+    void estado_botones(bool aceptar, bool editar, bool general, bool detalle, bool boletas);
+    void tlbDJ_pulsada(const QString& clave);
+    void tlbDetalle_pulsada(const QString& clave);
+    void abrirRenglon(Modo operacion);
+    [[nodiscard]] struct ControlesCabecera leer_controles() const;
+    [[nodiscard]] struct CabeceraDJ leer_cabecera() const;
+    void salirDeAgente();
+    void conectar();
+
+    std::unique_ptr<Ui::frmDJ_editar> ui;
+    QString nroInicial_;
+    int localidad_ = 0;
+};

@@ -1,0 +1,63 @@
+#include "declarations/renglones.h"
+
+#include "core/modGlobales.h"
+#include "core/numero.h"
+
+namespace {
+
+// What the column of the operation says of a deed.
+QString texto_operacion(const Recordset& rs, bool& incompleto)
+{
+    const QString estado = rs.texto(7);
+    if (estado != u"P")
+        return QStringLiteral("Anulado/") + (estado == u"N" ? QStringLiteral("NO PASO") : QStringLiteral("ERROSE"));
+    const bool alcanzado = rs.texto(8) == u"S";
+    if (alcanzado && rs.nulo(4)) {
+        incompleto = true;
+        return QStringLiteral("(falta completar: operacion)");
+    }
+    if (rs.entero(10) != 0 && rs.texto(9).isEmpty()) {
+        incompleto = true;
+        return QStringLiteral("(falta completar: testimonio)");
+    }
+    return rs.texto(8) == u"N" ? QStringLiteral("No alcanzado") : rs.texto(4);
+}
+
+}  // namespace
+
+void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila)
+{
+    const QString sql = QStringLiteral(" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, ")
+        + QStringLiteral(" D.SSUB_DESCRIPCION, D.SEDD_OBSERVACIONES, D.SEDD_TOTAL_IMPUESTO, ")
+        + QStringLiteral(" D.SEDD_ESTADO, D.SEDD_ALCANZADO, D.SEDD_FNAME_TESTIMONIO, D.REQUIERE_TESTIMONIO ")
+        + QStringLiteral(" from SEL_VW_DJ_DETALLE D left join ") + QStringLiteral("         (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO ")
+        + QStringLiteral("          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O ")
+        + QStringLiteral("          on S.SSUB_ID=O.SSUB_ID) as A ") + QStringLiteral(" on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID ")
+        + QStringLiteral(" where D.SEDJ_NRO='") + nro + QStringLiteral("'") + QStringLiteral(" order by D.SEDD_ESCRITURA_NRO");
+    for (Recordset rs(cnRtn, sql); !rs.eof(); rs.siguiente()) {
+        FilaRenglon f;
+        const QString operacion = texto_operacion(rs, f.incompleto);
+        const QString impuesto = rs.texto(7) == u"P" ? formato_importe(rs.real(6)) : QStringLiteral("0.00");
+        f.celdas = {rs.texto(0), rs.texto(1), rs.texto(2), rs.texto(3), operacion, rs.texto(5), impuesto};
+        fila(f);
+    }
+}
+
+bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
+{
+    const QString donde = QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("' and SEDD_ID=") + QString::number(id);
+    try {
+        Transaccion t(cnRtn);
+        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_INS_ROLES") + donde);
+        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_DETDJ") + donde);
+        Comando resta(cnRtn, QStringLiteral("update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-? where SEDJ_NRO=?"));
+        resta.parametro("p_monto", monto);
+        resta.parametro("p_dj_nro", nro, 17);
+        resta.ejecutar();
+        t.confirmar();
+        return true;
+    } catch (const ErrorAlmacen&) {
+        dialogo.avisar({QStringLiteral("No se pudo borrar el renglón seleccionado"), QStringLiteral("Borrar renglón"), Icono::informacion});
+        return false;
+    }
+}

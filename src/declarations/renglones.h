@@ -1,0 +1,21 @@
+// The list of the deeds of a DJ, and the deletion of one.
+#pragma once
+
+#include "core/dialogo.h"
+
+#include <QStringList>
+
+#include <functional>
+
+struct FilaRenglon
+{
+    QStringList celdas;       ///< in the columns of the list
+    bool incompleto = false;  ///< something of the deed is missing
+};
+
+/// Reads the deeds in the order of their numbers. Throws ErrorAlmacen.
+void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila);
+
+/// Deletes a deed with what hangs from it and takes its amount (pesos) off the total of the DJ.
+/// False after an error, which is told and leaves the deed.
+bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo);

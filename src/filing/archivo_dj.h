@@ -1,0 +1,19 @@
+// The return file of a DJ and its integrity code.
+#pragma once
+
+#include <QString>
+
+struct EmisionArchivo
+{
+    QString codigo;   ///< 32 hexadecimal digits in upper case; empty when no file could be made
+    QString archivo;  ///< full name of the file
+};
+
+/// Folder of what is made for a DJ, below the program's folder.
+[[nodiscard]] QString carpeta_dj(const QString& nro);
+
+/// Writes the whole file from the store, replacing an earlier one, and stores the code in the
+/// header of the DJ. A folder or file that can't be made gives no code. Throws on what fails after
+/// that (std::runtime_error): a text longer than its field, a null where a value must stand, a
+/// failing query or a full disk leave the file incomplete and the stored code as it was.
+[[nodiscard]] EmisionArchivo generar_archivo_dj(const QString& nro);

@@ -1,0 +1,155 @@
+#include "filing/escribir_registro.h"
+
+#include "core/numero.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+std::string_view texto_de(sqlite3_stmt* s, int columna)
+{
+    const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(s, columna));
+    return utf8 ? std::string_view(utf8, size_t(sqlite3_column_bytes(s, columna))) : std::string_view();
+}
+
+std::string_view recortar(std::string_view t)
+{
+    const auto desde = t.find_first_not_of(' ');
+    return desde == std::string_view::npos ? std::string_view() : t.substr(desde, t.find_last_not_of(' ') - desde + 1);
+}
+
+// Length in 16-bit characters of a text in UTF-8.
+qsizetype largo(std::string_view t)
+{
+    qsizetype n = 0;
+    for (const unsigned char c : t)
+        n += c < 0x80 || c >= 0xc0 ? (c >= 0xf0 ? 2 : 1) : 0;
+    return n;
+}
+
+// The text of 15 significant digits only matters near a half; elsewhere the nearest whole number
+// is the same.
+std::string entero_redondeado(double v)
+{
+    constexpr double LEJOS_DE_LA_MITAD = 1e-4;
+    constexpr double EXACTOS = 1e10;
+    const double resto = std::fabs(v) - std::floor(std::fabs(v));
+    if (std::fabs(v) < EXACTOS && std::fabs(resto - 0.5) > LEJOS_DE_LA_MITAD)
+        return std::to_string(std::llround(v));
+    return formato_decimal(v, 0).toStdString();
+}
+
+void escribir_cifras(double v, int ancho, Piezas& salida)
+{
+    const std::string cifras = entero_redondeado(v);
+    const bool negativo = cifras.front() == '-';
+    if (negativo)
+        salida.ascii("-");
+    const auto digitos = qsizetype(cifras.size()) - negativo;
+    if (digitos < ancho)
+        salida.repetir('0', ancho - digitos);
+    salida.ascii(std::string_view(cifras).substr(negativo));
+}
+
+int buscar_columna(sqlite3_stmt* s, const char* nombre)
+{
+    for (int i = 0; i < sqlite3_column_count(s); ++i)
+        if (qstricmp(sqlite3_column_name(s, i), nombre) == 0)
+            return i;
+    return -1;
+}
+
+}  // namespace
+
+ErrorRegistro::ErrorRegistro(const QString& registro_, int renglon_, const QString& detalle_)
+    : std::runtime_error(detalle_.toStdString()), registro(registro_), renglon(renglon_), detalle(detalle_)
+{
+}
+
+EscritorRegistro::EscritorRegistro(const Registro& registro, sqlite3_stmt* sentencia)
+    : registro_(registro), sentencia_(sentencia), columnaRenglon_(buscar_columna(sentencia, "SEDD_ID")),
+      columnaAlcanzado_(buscar_columna(sentencia, "SEDD_ALCANZADO")), columnaMotivo_(buscar_columna(sentencia, "SNAD_ID"))
+{
+    for (const CampoRegistro& c : registro.campos)
+        columnas_.push_back(buscar_columna(sentencia, c.nombre));
+}
+
+void EscritorRegistro::fallar(const CampoRegistro& c, const QString& motivo) const
+{
+    throw ErrorRegistro(QStringLiteral("Registro %1 (%2)").arg(QLatin1Char(registro_.tipo)).arg(QString::fromUtf8(registro_.titulo)),
+                        columnaRenglon_ < 0 ? 0 : sqlite3_column_int(sentencia_, columnaRenglon_),
+                        QStringLiteral("\nCampo: ") + QLatin1StringView(c.nombre) + u'\n' + motivo);
+}
+
+// Blanks up to the width, counted on a length; more text than width is a failure of the emission.
+void EscritorRegistro::rellenar(const CampoRegistro& c, std::string_view texto, qsizetype cuentan, Piezas& salida) const
+{
+    if (cuentan > c.ancho)
+        fallar(c, QStringLiteral("Texto: ") + QString::fromUtf8(texto.data(), qsizetype(texto.size())) + QStringLiteral("\nLargo: ")
+                      + QString::number(cuentan) + QStringLiteral(", ancho del campo: ") + QString::number(c.ancho));
+    salida.utf8(texto);
+    salida.repetir(' ', c.ancho - cuentan);
+}
+
+// Whether the column counts; the reason of a deed only does when the deed is not reached.
+bool EscritorRegistro::vale(const CampoRegistro& c, int columna) const
+{
+    if (sqlite3_column_type(sentencia_, columna) == SQLITE_NULL)
+        return false;
+    return !c.forma.soloNoAlcanzada
+        || (sqlite3_column_type(sentencia_, columnaMotivo_) != SQLITE_NULL && texto_de(sentencia_, columnaAlcanzado_) != "S");
+}
+
+void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida) const
+{
+    if (c.forma.clase == Clase::literal) {
+        salida.ascii(c.nombre);
+        return;
+    }
+    const bool nulo = !vale(c, columna);
+    if (nulo && c.forma.nuloEsFalla)
+        fallar(c, QStringLiteral("El valor falta (es nulo)."));
+    if (nulo && c.forma.nulo) {
+        salida.ascii(c.forma.nulo);
+        return;
+    }
+    const std::string_view t = nulo || c.forma.clase == Clase::cifras ? std::string_view() : texto_de(sentencia_, columna);
+    switch (c.forma.clase) {
+    case Clase::cifras:
+        if (!nulo)
+            escribir_cifras(sqlite3_column_double(sentencia_, columna) * c.forma.factor, c.ancho, salida);
+        break;
+    case Clase::texto: rellenar(c, t, largo(t), salida); break;
+    case Clase::recortado: rellenar(c, t, largo(recortar(t)), salida); break;
+    case Clase::contenido: rellenar(c, recortar(t), largo(recortar(t)), salida); break;
+    case Clase::talCual: salida.utf8(t); break;
+    case Clase::siNo: salida.ascii(!nulo && sqlite3_column_int(sentencia_, columna) != 0 ? "S" : "N"); break;
+    case Clase::primeraLetra: salida.utf8(t.empty() ? std::string_view(" ") : t.substr(0, 1)); break;
+    case Clase::cerosDelante:
+        salida.repetir('0', std::max<qsizetype>(0, c.ancho - largo(t)));
+        salida.utf8(t);
+        break;
+    case Clase::hastaElAncho: {
+        // A longer text stands whole and moves what follows; deliberately so.
+        const auto n = salida.utf8(t);
+        salida.repetir(' ', std::max<qsizetype>(0, c.ancho - n));
+        break;
+    }
+    case Clase::leyExencion: {
+        const std::string ley = nulo ? std::string() : "LEY EXENCION:" + std::string(t);
+        rellenar(c, ley, largo(recortar(ley)), salida);
+        break;
+    }
+    case Clase::literal: break;
+    }
+}
+
+void EscritorRegistro::escribir(Piezas& salida) const
+{
+    salida.ascii(std::string_view(&registro_.tipo, 1));
+    for (size_t i = 0; i < columnas_.size(); ++i)
+        campo(registro_.campos[i], columnas_[i], salida);
+}
