@@ -1,5 +1,6 @@
 #include "core/aplicacion.h"
 
+#include "core/barra.h"
 #include "core/mensajes.h"
 #include "core/modGlobales.h"
 
@@ -14,6 +15,7 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(QStringLiteral("VEDRA-RTN"));
     setApplicationVersion(QStringLiteral(RTN_VERSION));
+    iniciar_recursos();
     setWindowIcon(QIcon(QStringLiteral(":/iconos/programa.svg")));
     auto* traductor = new QTranslator(this);
     if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -41,8 +41,15 @@ constexpr std::array BOTONES{
 
 }  // namespace
 
+// The pictures are in a library, which does not load them by itself.
+void iniciar_recursos()
+{
+    Q_INIT_RESOURCE(recursos);
+}
+
 BarraHerramientas::BarraHerramientas(QWidget* padre) : QToolBar(padre)
 {
+    iniciar_recursos();
     setIconSize({24, 24});
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setMovable(false);

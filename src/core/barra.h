@@ -36,3 +36,6 @@ private:
     QStringList claves_;
     bool secundaria_ = false;
 };
+
+/// Makes the program's pictures known.
+void iniciar_recursos();

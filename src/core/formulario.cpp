@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTabWidget>
@@ -55,11 +56,13 @@ QList<Formulario*> Formulario::cargados()
 void Formulario::mostrar()
 {
     if (area_principal && !subventana_) {
+        const QSize propia = size().expandedTo(minimumSizeHint());
         subventana_ = area_principal->addSubWindow(this);
         subventana_->setAttribute(Qt::WA_DeleteOnClose);
         subventana_->setWindowIcon(QApplication::windowIcon());
         const QSize disponible = area_principal->viewport()->size();
-        subventana_->resize(subventana_->sizeHint().boundedTo(disponible));
+        const QSize marco = subventana_->sizeHint() - sizeHint();
+        subventana_->resize((propia + marco).boundedTo(disponible));
         const QSize resto = disponible - subventana_->size();
         const int paso = int(area_principal->subWindowList().size() - 1) * 24;
         subventana_->move(std::min(paso, std::max(0, resto.width())), std::min(paso, std::max(0, resto.height())));
@@ -120,6 +123,20 @@ void Formulario::closeEvent(QCloseEvent* evento)
     if (Llamador->subventana_)
         Llamador->subventana_->setEnabled(true);
     Llamador->traerAlFrente();
+}
+
+// A field that only shows has the colour of the window's face.
+void Formulario::showEvent(QShowEvent* evento)
+{
+    QWidget::showEvent(evento);
+    const auto textos = findChildren<QLineEdit*>();
+    for (QLineEdit* texto : textos) {
+        if (!texto->isReadOnly() || texto->objectName() == u"txt")
+            continue;
+        QPalette p = texto->palette();
+        p.setColor(QPalette::Base, palette().color(QPalette::Button));
+        texto->setPalette(p);
+    }
 }
 
 void Formulario::changeEvent(QEvent* evento)

@@ -53,6 +53,7 @@ protected:
     void abrir(Formulario* hijo);
 
     void closeEvent(QCloseEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
     void changeEvent(QEvent* evento) override;
 
 private:

@@ -1,0 +1,298 @@
+#include "manejo/manejo.h"
+
+#include "core/barra.h"
+#include "core/ctlNumero.h"
+#include "core/formulario.h"
+#include "core/grilla.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+constexpr int MIRADA_MS = 2;
+
+// Whether somebody already answers the boxes.
+int vigias = 0;
+
+// Outside of Cajas::durante no box is expected.
+void vigilar(const std::function<void()>& accion)
+{
+    if (vigias > 0)
+        accion();
+    else
+        Cajas::durante({}, accion);
+}
+
+QString describir(const QMessageBox* caja)
+{
+    return QStringLiteral("«%1» («%2»)").arg(caja->text(), caja->windowTitle());
+}
+
+// What is wrong with a box, empty when it is the one expected.
+QString comparar(const QMessageBox* caja, const CajaEsperada& e)
+{
+    const bool bien_texto = e.exacto ? caja->text() == e.texto : caja->text().startsWith(e.texto);
+    const bool bien_titulo = e.titulo.isNull() || caja->windowTitle() == e.titulo;
+    const bool bien_icono = e.icono < 0 || caja->icon() == e.icono;
+    if (bien_texto && bien_titulo && bien_icono)
+        return {};
+    return QStringLiteral("vino la caja %1 y se esperaba «%2» («%3»)").arg(describir(caja), e.texto, e.titulo);
+}
+
+}  // namespace
+
+Cajas::Cajas(const QList<CajaEsperada>& cajas) : pendientes_(cajas)
+{
+    QObject::connect(&reloj_, &QTimer::timeout, &reloj_, [this] { mirar(); });
+    reloj_.start(MIRADA_MS);
+}
+
+void Cajas::mirar()
+{
+    auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!caja || !caja->isVisible())
+        return;
+    bool si = true;
+    if (pendientes_.isEmpty()) {
+        falla_ = QStringLiteral("vino una caja que nadie esperaba: ") + describir(caja);
+    } else {
+        const CajaEsperada esperada = pendientes_.takeFirst();
+        if (const QString falla = comparar(caja, esperada); !falla.isEmpty() && falla_.isEmpty())
+            falla_ = falla;
+        si = esperada.si;
+    }
+    auto* boton = caja->button(si ? QMessageBox::Yes : QMessageBox::No);
+    if (!boton)
+        boton = caja->button(QMessageBox::Ok);
+    QTest::mouseClick(boton, Qt::LeftButton);
+}
+
+void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion)
+{
+    struct Turno
+    {
+        Turno() { ++vigias; }
+        ~Turno() { --vigias; }
+    };
+    const Turno turno;
+    Cajas c(cajas);
+    accion();
+    QApplication::processEvents();
+    c.reloj_.stop();
+    if (!c.falla_.isEmpty())
+        throw Inesperado(c.falla_);
+    if (!c.pendientes_.isEmpty())
+        throw Inesperado(QStringLiteral("no vino la caja «%1»").arg(c.pendientes_.constFirst().texto));
+}
+
+namespace manejo {
+
+QWidget* control(QWidget* form, const QString& nombre)
+{
+    auto* w = form->findChild<QWidget*>(nombre);
+    if (!w)
+        throw Inesperado(QStringLiteral("no hay ningún control %1 en %2").arg(nombre, form->objectName()));
+    return w;
+}
+
+namespace {
+
+QLineEdit* linea(QWidget* w)
+{
+    if (auto* l = qobject_cast<QLineEdit*>(w))
+        return l;
+    if (auto* c = qobject_cast<QComboBox*>(w); c && c->lineEdit())
+        return c->lineEdit();
+    auto* l = w->findChild<QLineEdit*>();
+    if (!l)
+        throw Inesperado(w->objectName() + QStringLiteral(" no recibe texto"));
+    return l;
+}
+
+void exigir_activo(QWidget* w)
+{
+    if (!w->isEnabled() || !w->isVisible())
+        throw Inesperado(w->objectName() + (w->isVisible() ? QStringLiteral(" está inhabilitado") : QStringLiteral(" no se ve")));
+    // Not every platform gives the window its focus back behind a box.
+    if (!w->window()->isActiveWindow()) {
+        w->window()->activateWindow();
+        QApplication::processEvents();
+    }
+}
+
+}  // namespace
+
+QString texto(QWidget* form, const QString& nombre)
+{
+    QWidget* w = control(form, nombre);
+    if (const auto* l = qobject_cast<QLabel*>(w))
+        return l->text();
+    if (const auto* c = qobject_cast<QComboBox*>(w))
+        return c->currentText();
+    if (const auto* b = qobject_cast<QAbstractButton*>(w))
+        return b->text();
+    return linea(w)->text();
+}
+
+void teclear(QWidget* form, const QString& nombre, const QString& texto)
+{
+    QWidget* w = control(form, nombre);
+    exigir_activo(w);
+    QLineEdit* l = linea(w);
+    if (l->isReadOnly())
+        throw Inesperado(nombre + QStringLiteral(" no admite texto"));
+    if (!l->hasFocus())
+        QTest::mouseClick(l, Qt::LeftButton);
+    QTest::keyClick(l, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(l, Qt::Key_Delete);
+    for (const QChar c : texto) {
+        // A widget takes the character of the event, also where the key has no Latin-1 code.
+        QKeyEvent baja(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(l, &baja);
+        QKeyEvent sube(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(l, &sube);
+    }
+}
+
+void escribir(QWidget* form, const QString& nombre, const QString& texto)
+{
+    vigilar([&] {
+        teclear(form, nombre, texto);
+        QTest::keyClick(linea(control(form, nombre)), Qt::Key_Tab);
+        QApplication::processEvents();
+    });
+}
+
+void elegir(QWidget* form, const QString& nombre, const QString& texto)
+{
+    auto* combo = qobject_cast<QComboBox*>(control(form, nombre));
+    if (!combo)
+        throw Inesperado(nombre + QStringLiteral(" no es una lista"));
+    exigir_activo(combo);
+    const int indice = combo->findText(texto, Qt::MatchStartsWith);
+    if (indice < 0)
+        throw Inesperado(QStringLiteral("%1 no tiene «%2»").arg(nombre, texto));
+    vigilar([&] {
+        combo->setFocus();
+        QTest::keyClick(combo, Qt::Key_F4);
+        QApplication::processEvents();
+        QAbstractItemView* lista = combo->view();
+        QTest::keyClick(lista, Qt::Key_Home);
+        for (int i = 0; i < indice; ++i)
+            QTest::keyClick(lista, Qt::Key_Down);
+        QTest::keyClick(lista, Qt::Key_Return);
+        QApplication::processEvents();
+    });
+}
+
+void clic(QWidget* form, const QString& nombre)
+{
+    QWidget* w = control(form, nombre);
+    exigir_activo(w);
+    // On the mark of a box or an option, which stands at its left.
+    const bool marca = w->inherits("QCheckBox") || w->inherits("QRadioButton");
+    vigilar([&] { QTest::mouseClick(w, Qt::LeftButton, Qt::NoModifier, marca ? QPoint(8, w->height() / 2) : QPoint()); });
+}
+
+namespace {
+
+QWidget* boton_de(QWidget* form, const QString& nombre, const QString& clave)
+{
+    auto* barra = qobject_cast<BarraHerramientas*>(control(form, nombre));
+    QAction* accion = barra ? barra->boton(clave) : nullptr;
+    if (!accion)
+        throw Inesperado(QStringLiteral("%1 no tiene el botón %2").arg(nombre, clave));
+    return barra->widgetForAction(accion);
+}
+
+}  // namespace
+
+bool habilitado(QWidget* form, const QString& barra, const QString& clave)
+{
+    return boton_de(form, barra, clave)->isEnabled();
+}
+
+void pulsar(QWidget* form, const QString& barra, const QString& clave)
+{
+    QWidget* boton = boton_de(form, barra, clave);
+    if (!boton->isEnabled())
+        throw Inesperado(QStringLiteral("el botón %1 de %2 está inhabilitado").arg(clave, barra));
+    vigilar([&] { QTest::mouseClick(boton, Qt::LeftButton); });
+}
+
+void tecla(QWidget* form, const QString& nombre, int tecla)
+{
+    QWidget* w = control(form, nombre);
+    vigilar([&] { QTest::keyClick(w->focusProxy() ? w->focusProxy() : w, Qt::Key(tecla)); });
+}
+
+void solapa(QWidget* form, const QString& nombre, int indice)
+{
+    auto* solapas = qobject_cast<QTabWidget*>(control(form, nombre));
+    if (!solapas || !solapas->isTabEnabled(indice))
+        throw Inesperado(QStringLiteral("la solapa %1 está inhabilitada").arg(indice));
+    QTabBar* barra = solapas->tabBar();
+    vigilar([&] { QTest::mouseClick(barra, Qt::LeftButton, Qt::NoModifier, barra->tabRect(indice).center()); });
+}
+
+namespace {
+
+Grilla* grilla_de(QWidget* form, const QString& nombre)
+{
+    auto* g = qobject_cast<Grilla*>(control(form, nombre));
+    if (!g)
+        throw Inesperado(nombre + QStringLiteral(" no es una grilla"));
+    return g;
+}
+
+}  // namespace
+
+void celda(QWidget* form, const QString& grilla, int fila, int columna)
+{
+    Grilla* g = grilla_de(form, grilla);
+    exigir_activo(g);
+    const QModelIndex i = g->model()->index(fila, columna);
+    if (!i.isValid())
+        throw Inesperado(QStringLiteral("%1 no tiene la fila %2").arg(grilla).arg(fila));
+    g->scrollTo(i);
+    QTest::mouseClick(g->viewport(), Qt::LeftButton, Qt::NoModifier, g->visualRect(i).center());
+    QApplication::processEvents();
+}
+
+QString en_grilla(QWidget* form, const QString& grilla, int fila, int columna)
+{
+    return grilla_de(form, grilla)->celda(fila, columna);
+}
+
+int filas(QWidget* form, const QString& grilla)
+{
+    return grilla_de(form, grilla)->filas();
+}
+
+Formulario* formulario(const char* clase)
+{
+    QApplication::processEvents();
+    for (Formulario* f : Formulario::cargados())
+        if (f->inherits(clase) && f->isVisible() && f->isEnabled())
+            return f;
+    throw Inesperado(QStringLiteral("la ventana %1 no está abierta o está inhabilitada").arg(QLatin1String(clase)));
+}
+
+void comprobar(const QString& que, const QString& valor, const QString& esperado)
+{
+    if (valor != esperado)
+        throw Inesperado(QStringLiteral("%1: dice «%2» y se esperaba «%3»").arg(que, valor, esperado));
+}
+
+}  // namespace manejo

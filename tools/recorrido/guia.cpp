@@ -1,0 +1,35 @@
+#include "recorrido/guia.h"
+
+#include "manejo/manejo.h"
+
+#include <QApplication>
+#include <QPixmap>
+
+#include <cstdio>
+
+void Guia::paso(const QString& titulo, const std::function<void()>& accion)
+{
+    ++pasos_;
+    std::printf("%3d. %s\n", pasos_, qUtf8Printable(titulo));
+    std::fflush(stdout);
+    try {
+        accion();
+    } catch (const Inesperado&) {
+        foto(QStringLiteral("falla"));
+        throw;
+    }
+}
+
+void Guia::foto(const QString& nombre)
+{
+    foto(principal_, nombre);
+}
+
+void Guia::foto(QWidget* ventana, const QString& nombre)
+{
+    QApplication::processEvents();
+    ++fotos_;
+    const QString archivo = QStringLiteral("%1/%2-%3.png").arg(carpeta_).arg(fotos_, 2, 10, QLatin1Char('0')).arg(nombre);
+    if (!ventana->grab().save(archivo))
+        throw Inesperado(QStringLiteral("no se pudo guardar ") + archivo);
+}
