@@ -13,7 +13,7 @@ struct clsRol
     QString SSUBAtributo;
     QString SSUBAtributo_valor;
     QString SSUBAtributo_tabla;
-    qint32 IdRol = 0;
+    qint64 IdRol = 0;  ///< the item's identifier times 1000 and a counter: past 32 bits
     QString Descripcion;
 };
 

@@ -25,7 +25,7 @@ void clsSubconcepto::setIdSubconcepto(qint32 id)
                         .SSUBAtributo = rs.texto("SROL_SSUB_ATRIBUTO"),
                         .SSUBAtributo_valor = rs.texto("SROL_SSUB_ATRIBUTO_VALOR"),
                         .SSUBAtributo_tabla = rs.texto("SROL_SSUB_ATRIBUTO_TABLA"),
-                        .IdRol = qint32(rs.entero("SROL_ID")),
+                        .IdRol = rs.entero("SROL_ID"),
                         .Descripcion = rs.texto("SROL_DESCRIPCION")});
     } catch (const ErrorAlmacen&) {
         roles_ = {};

@@ -101,7 +101,7 @@ private:
 /// A bracket of modules; -1 as its end is without limit.
 struct clsModuloSellos
 {
-    qint32 IdModulo = 0;
+    qint64 IdModulo = 0;
     const clsSubconcepto* Subconcepto = nullptr;
     double ValorDesde = 0;
     double ValorHasta = 0;
@@ -113,7 +113,7 @@ struct clsModuloSellos
 /// A bracket of rates: a plain factor on the base, for the editor also as a fraction.
 struct clsAlicuotaSellos
 {
-    qint32 IdAlicuota = 0;
+    qint64 IdAlicuota = 0;
     const clsSubconcepto* Subconcepto = nullptr;
     double ValorDesde = 0;
     double ValorHasta = 0;

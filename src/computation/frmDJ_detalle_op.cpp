@@ -77,7 +77,7 @@ frmDJ_detalle_op::frmDJ_detalle_op() : ui(std::make_unique<Ui::frmDJ_detalle_op>
     const QPalette p = palette();
     for (const auto& [etiqueta, fondo, texto] : {std::tuple{ui->lblObligado, p.color(QPalette::Base), p.color(QPalette::Highlight)},
                                                  std::tuple{ui->lblInformativo, p.color(QPalette::Base), p.color(QPalette::Text)},
-                                                 std::tuple{ui->lblNoParticipaOp, p.color(QPalette::ToolTipBase), p.color(QPalette::Disabled, QPalette::Text)}}) {
+                                                 std::tuple{ui->lblNoParticipaOp, p.color(QPalette::ToolTipBase), QColor(Qt::darkGray)}}) {
         QPalette pe = p;
         pe.setColor(QPalette::Window, fondo);
         pe.setColor(QPalette::WindowText, texto);
@@ -452,6 +452,7 @@ void frmDJ_detalle_op::cancelar()
         ui->ctlCodS->ClearText();
         cargarSubconcepto();
         limpiarImportes();
+        leerInmuebles();
         ponerEstado(Estado::nueva);
         ui->tlb->habilitar(QStringLiteral("salir"), true);
         return;

@@ -75,7 +75,7 @@ void frmDJ_detalle_op::colorearRoles()
         const clsRol* rol = subconcepto_ ? subconcepto_->Roles().FindItem(texto) : nullptr;
         ModeloGrilla::Colores colores;
         if (texto.isEmpty() || ui->flxPartes->celda(i, COL_ID_ROL) == u"0")
-            colores = {p.color(QPalette::Disabled, QPalette::Text), p.color(QPalette::ToolTipBase)};
+            colores = {QColor(Qt::darkGray), p.color(QPalette::ToolTipBase)};
         else if (rol && rol->ParicipaImpuesto)
             colores = {p.color(QPalette::Highlight), {}};
         ui->flxPartes->colorear(i, colores);

@@ -60,7 +60,7 @@ bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, c
         for (const ParteRol& p : partes) {
             if (p.idRol.isEmpty() || p.idRol == u"0")
                 continue;
-            if (!alta_rol({clave.dj, clave.renglon.toInt(), clave.operacion.toInt(), p.id.toInt(), p.idRol.toInt(), p.observaciones}, dialogo)) {
+            if (!alta_rol({clave.dj, clave.renglon.toInt(), clave.operacion.toInt(), p.id.toInt(), p.idRol.toLongLong(), p.observaciones}, dialogo)) {
                 dialogo.avisar({QStringLiteral("Error al guardar los roles"), titulo, Icono::ninguno});
                 return false;
             }
@@ -85,7 +85,7 @@ bool roles_obligatorios(const clsSubconcepto* s, const QList<ParteRol>& partes, 
         ++requeridos;
     }
     // A role held by two parties counts once.
-    QSet<qint32> vistos;
+    QSet<qint64> vistos;
     int hallados = 0;
     for (const clsRol& rol : s->Roles())
         for (const ParteRol& p : partes)

@@ -143,7 +143,7 @@ void combo_con_texto(QComboBox* combo)
 {
     combo->setCompleter(nullptr);
     a_mayusculas(combo->lineEdit());
-    combo->lineEdit()->installEventFilter(new FiltroCompletar(combo));
+    combo->installEventFilter(new FiltroCompletar(combo));
 }
 
 int item_del_texto(const QComboBox* combo)

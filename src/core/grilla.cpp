@@ -23,6 +23,13 @@ Grilla::Grilla(QWidget* padre) : QTableView(padre)
     connect(this, &QTableView::doubleClicked, this, [this] { emit elegida(); });
 }
 
+namespace {
+
+// The widths of the columns were drawn for a font whose digits are this wide.
+constexpr double DIGITO_ORIGINAL = 6.0;
+
+}  // namespace
+
 int pixeles(const QWidget* w, int twips)
 {
     return twips * w->logicalDpiX() / 1440;
@@ -36,10 +43,11 @@ void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int
 void Grilla::preparar(const QStringList& titulos, const QList<int>& anchos)
 {
     modelo_.preparar(titulos);
+    const double escala = std::max(1.0, fontMetrics().horizontalAdvance(u'0') / DIGITO_ORIGINAL);
     for (int i = 0; i < titulos.size(); ++i) {
         setColumnHidden(i, anchos.value(i) == 0);
         if (anchos.value(i) > 0)
-            setColumnWidth(i, pixeles(this, anchos[i]));
+            setColumnWidth(i, std::max(int(pixeles(this, anchos[i]) * escala), horizontalHeader()->sectionSizeHint(i)));
     }
 }
 

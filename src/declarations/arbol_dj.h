@@ -42,7 +42,7 @@ struct Escritura
     qint64 folio = 0;
     double totalImpuesto = 0;
     QString observaciones;
-    double certifAfip = 0;
+    std::optional<double> certifAfip = 0;
     QString estado;               ///< "P", "N" or "E"
     QString alcanzado;            ///< "S" or "N"
     std::optional<int> motivo;    ///< why it is not reached
@@ -120,7 +120,7 @@ struct RolOperacion
     int renglon = 0;
     int operacion = 0;
     int parte = 0;
-    int rol = 0;
+    qint64 rol = 0;
     QString observaciones;
 };
 

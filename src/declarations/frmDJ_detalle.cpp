@@ -151,8 +151,10 @@ void frmDJ_detalle::alActivar()
 void frmDJ_detalle::habilitar_solapas(bool si)
 {
     const bool ok = si && alcanzado();
+    const int actual = ui->SSTab1->currentIndex();
     ui->SSTab1->setTabEnabled(SOLAPA_PARTES, ok);
     ui->SSTab1->setTabEnabled(SOLAPA_OPERACIONES, ok);
+    ui->SSTab1->setCurrentIndex(actual);
     for (QWidget* marco : {static_cast<QWidget*>(ui->fraPartes), static_cast<QWidget*>(ui->fraInmuebles), static_cast<QWidget*>(ui->fraOperaciones)})
         marco->setEnabled(ok);
 }

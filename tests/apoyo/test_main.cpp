@@ -1,0 +1,16 @@
+#include "core/aplicacion.h"
+
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Not the program's own: what a form throws is to reach the test.
+    QApplication aplicacion(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
+    return RUN_ALL_TESTS();
+}

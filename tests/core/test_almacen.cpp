@@ -1,0 +1,207 @@
+#include "apoyo/apoyo.h"
+#include "core/arranque.h"
+
+#include <QFile>
+
+namespace {
+
+using Almacen = ConAlmacen;
+
+TEST_F(Almacen, TransaccionesAnidadas)
+{
+    const auto poner = [](int n) { cnRtn.ejecutar("insert into GLB_TB_CONCEPTOS values (%1, 'X')"_u.arg(n)); };
+    const QString cuenta = "select group_concat(GCON_ID) from (select GCON_ID from GLB_TB_CONCEPTOS where GCON_ID>10 order by 1)"_u;
+    cnRtn.comenzar();
+    poner(11);
+    cnRtn.comenzar();
+    poner(12);
+    cnRtn.deshacer();
+    cnRtn.comenzar();
+    poner(13);
+    cnRtn.confirmar();
+    cnRtn.confirmar();
+    EXPECT_EQ(dato(cuenta), "11,13"_u);
+    {
+        Transaccion t(cnRtn);
+        poner(14);
+    }
+    EXPECT_EQ(dato(cuenta), "11,13"_u);
+    cnRtn.comenzar();
+    cnRtn.comenzar();
+    poner(15);
+    cnRtn.deshacerTodo();
+    EXPECT_EQ(cnRtn.transacciones(), 0);
+    EXPECT_EQ(dato(cuenta), "11,13"_u);
+}
+
+TEST_F(Almacen, FuncionesYOrdenesDeLasSentencias)
+{
+    EXPECT_EQ(filas("select int(3.9), int(-3.1), mid('abcdef',2,3), mid('abc',3), str(20123456786.0), str(-1.5), iif(1=1,'s','n')"_u),
+              "3|-4|bcd|c| 20123456786|-1.5|s"_u);
+    EXPECT_EQ(filas("select 'PEÑA' like '%eñ%', 'Á' like 'á', 'a_c' like 'a_c', 'abc' like 'a%d', null like 'a'"_u), "1|1|1|0|null"_u);
+    EXPECT_EQ(dato("select GMON_DESCRIPCION from GLB_TB_MONEDAS where GMON_ID='pes'"_u), "PESOS"_u);
+}
+
+TEST_F(Almacen, ParametrosConAnchoYNulos)
+{
+    Comando c(cnRtn, "insert into GLB_TB_CONCEPTOS values (?, ?)"_u);
+    c.parametro("v_GCON_ID", 20);
+    EXPECT_THROW(c.parametro("v_GCON_NOMBRE", "abcdef"_u, 5), ErrorAlmacen);
+    EXPECT_EQ(dato("select count(*) from GLB_TB_CONCEPTOS where GCON_ID=20"_u), "0"_u);
+    EXPECT_THROW(cnRtn.ejecutar("select"_u), ErrorAlmacen);
+    try {
+        cnRtn.ejecutar("insert into GLB_TB_CONCEPTOS values (1, 'Y')"_u);
+        FAIL();
+    } catch (const ErrorAlmacen& e) {
+        EXPECT_TRUE(e.claveDuplicada());
+    }
+}
+
+TEST_F(Almacen, LasCascadasVacianUnaDJYDejanLosRoles)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID) values (1, '%1', 1)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID) values ('%1', 1, 1)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 1, 1, 5707029)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_VC (SEDJ_NRO, SEDD_ID, SEDO_ID, SVCI_ID) values ('%1', 1, 1, 1)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707029001, null)"_u.arg(dj));
+    EXPECT_THROW(cnRtn.ejecutar("delete from SEL_TB_SUBCONCEPTOS where SSUB_ID=5707029"_u), ErrorAlmacen);
+    cnRtn.ejecutar("delete from SEL_TB_RTN_CABDJ"_u);
+    for (const char* t : {"DETDJ", "INS_PARTES", "INS_INMUEBLES", "INS_OPERACIONES", "INS_VC"})
+        EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_%1"_u.arg(QLatin1StringView(t))), "0"_u) << t;
+    EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_INS_ROLES"_u), "1"_u);
+}
+
+// Start-up against what may stand in its place.
+class Arranque : public ConAlmacen
+{
+protected:
+    void SetUp() override
+    {
+        ConAlmacen::SetUp();
+        cnRtn.cerrar();
+    }
+    void configurar(const QByteArray& texto) const
+    {
+        QFile f(carpeta.path() + "/vedra_rtn.cfg"_u);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(texto);
+    }
+    void esperarCajaFatal()
+    {
+        oyente.textos.clear();
+        EXPECT_FALSE(abrir_base(oyente));
+        EXPECT_EQ(oyente.textos, QStringList("Error. No se puede obtener la ruta de acceso a la base de datos (ventanilla.cfg). "
+                                             "Comuniquese con el administrador del sistema"_u));
+        EXPECT_EQ(oyente.titulos.last(), "Error de acceso al sistema"_u);
+        EXPECT_EQ(oyente.iconos.last(), Icono::informacion);
+        EXPECT_FALSE(cnRtn.abierta());
+    }
+};
+
+TEST_F(Arranque, AbreLaPrimeraLinea)
+{
+    for (const QByteArray& texto : {ruta().toUtf8(), QByteArray(ruta().toUtf8() + "\r\notra linea\n"), QByteArray("vedra_rtn.db\n")}) {
+        configurar(texto);
+        EXPECT_TRUE(abrir_base(oyente));
+        EXPECT_TRUE(cnRtn.abierta());
+        cnRtn.cerrar();
+    }
+    EXPECT_EQ(CadenaConexion, "Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password=Xk7pQ2mR;Data Source=vedra_rtn.db;Persist Security Info=false"_u);
+}
+
+TEST_F(Arranque, LoQueNoSeAbreTerminaConSuCaja)
+{
+    esperarCajaFatal();                                   // no file at all
+    for (const QByteArray& texto : {QByteArray(), QByteArray("\nvedra_rtn.db\n"), QByteArray("/no/hay/nada.db\n"), QByteArray(" vedra_rtn.db\n"),
+                                    carpeta.path().toUtf8()}) {
+        configurar(texto);
+        esperarCajaFatal();
+    }
+    configurar("vedra_rtn.db\n");
+    QFile f(ruta());
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    const QByteArray bueno = f.readAll();
+    QByteArray volteado = bueno;
+    volteado[100] = char(volteado[100] ^ 1);
+    for (const QByteArray& malo : {QByteArray(), QByteArray("no es una base"), bueno.left(700), volteado}) {
+        f.resize(0);
+        f.seek(0);
+        f.write(malo);
+        f.flush();
+        esperarCajaFatal();
+    }
+    f.resize(0);
+    f.seek(0);
+    f.write(bueno);
+    f.close();
+    Conexion otro;
+    otro.abrir(ruta(), clave_almacen());
+    otro.ejecutar("begin exclusive"_u);
+    esperarCajaFatal();                                   // locked by another program
+    otro.cerrar();
+    EXPECT_TRUE(abrir_base(oyente));
+}
+
+TEST_F(Arranque, BytesVolteadosEnCualquierPaginaSonUnErrorYNoUnaCaida)
+{
+    configurar("vedra_rtn.db\n");
+    QFile f(ruta());
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    const qint64 largo = f.size();
+    int errores = 0;
+    for (qint64 lugar = 1500; lugar < largo; lugar += largo / 40) {
+        f.seek(lugar);
+        char c = 0;
+        f.peek(&c, 1);
+        const char original = c;
+        c = char(c ^ 0x10);
+        f.write(&c, 1);
+        f.flush();
+        oyente.textos.clear();
+        if (abrir_base(oyente)) {
+            try {
+                cargar_parametros(oyente);
+                for (Recordset rs(cnRtn, "select * from SEL_TB_SUBCONCEPTOS"_u); !rs.eof(); rs.siguiente()) {}
+                for (Recordset rs(cnRtn, "select * from SEL_TB_ROLES"_u); !rs.eof(); rs.siguiente()) {}
+                for (Recordset rs(cnRtn, "select * from GLB_TB_LOCALIDADES order by GLOC_DESCRIPCION"_u); !rs.eof(); rs.siguiente()) {}
+            } catch (const ErrorAlmacen& e) {
+                ++errores;
+                EXPECT_FALSE(e.descripcion.isEmpty());
+            }
+            cnRtn.cerrar();
+        }
+        f.seek(lugar);
+        f.write(&original, 1);
+        f.flush();
+    }
+    EXPECT_GT(errores, 5);
+    EXPECT_TRUE(abrir_base(oyente));
+}
+
+TEST_F(Arranque, ParametrosYLeyVigente)
+{
+    configurar("vedra_rtn.db\n");
+    ASSERT_TRUE(abrir_base(oyente));
+    cnRtn.ejecutar("delete from SEL_TB_PARAMETROS; insert into SEL_TB_PARAMETROS values ('PRSE_MODO_IMPORTE_MINIMO','1'), ('OTRO','x'), "
+                   "('PRSE_MODO_IMPORTE_MINIMO','0'), ('PRSE_ALICUOTA_IVA','10.5')"_u);
+    ModoImporteMinimo = 7;
+    oyente.textos.clear();
+    cargar_parametros(oyente);
+    EXPECT_EQ(ModoImporteMinimo, 0);  // the later of two rows wins
+    EXPECT_DOUBLE_EQ(AlicuotaIVA, 10.5);
+    EXPECT_EQ(BancoConvenio, 31057);
+    cnRtn.ejecutar("update SEL_TB_PARAMETROS set SPRM_VALOR='abc' where SPRM_NOMBRE='PRSE_ALICUOTA_IVA'"_u);
+    EXPECT_ANY_THROW(cargar_parametros(oyente));
+    LeyVigente = 0;
+    cnRtn.ejecutar("update GLB_TB_LEYES set GLEY_VIGENCIA_HASTA='2040-01-01'"_u);
+    cargar_ley_vigente(oyente);
+    EXPECT_EQ(LeyVigente, 0);
+    EXPECT_TRUE(oyente.textos.isEmpty());  // nothing is told
+    cnRtn.ejecutar("drop view SEL_VW_CUENTAS_SELLOS; drop table SEL_TB_PARAMETROS"_u);
+    cargar_parametros(oyente);
+    EXPECT_TRUE(oyente.ultimo().startsWith("Error "_u));
+}
+
+}  // namespace
