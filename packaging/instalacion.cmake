@@ -1,0 +1,15 @@
+# cmake --install BUILD --prefix DIR makes a self-contained folder: program, configuration, store.
+install(TARGETS vedra_rtn crear_base RUNTIME DESTINATION .)
+install(CODE [[
+  set(carpeta "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+  if(NOT EXISTS "${carpeta}/vedra_rtn.cfg")
+    file(WRITE "${carpeta}/vedra_rtn.cfg" "vedra_rtn.db\n")
+  endif()
+]])
+install(CODE "set(textos \"${CMAKE_SOURCE_DIR}/store\")")
+# A store that stands there already holds somebody's work and stays.
+install(CODE [[
+  if(NOT EXISTS "${carpeta}/vedra_rtn.db")
+    execute_process(COMMAND "${carpeta}/crear_base" --textos "${textos}" "${carpeta}/vedra_rtn.db" COMMAND_ERROR_IS_FATAL ANY)
+  endif()
+]])

@@ -1,0 +1,26 @@
+# Sourced by ./run and ./test: installs what is missing on Debian 12, configures and builds.
+
+PAQUETES=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev libgl-dev
+  qt6-translations-l10n libsqlcipher-dev libzint-dev libgtest-dev libbenchmark-dev fonts-dejavu-core)
+
+instalar_faltantes() {
+  local faltan=() p
+  for p in "${PAQUETES[@]}"; do
+    dpkg-query -W -f='${db:Status-Status}' "$p" 2>/dev/null | grep -q '^installed' || faltan+=("$p")
+  done
+  [ ${#faltan[@]} -eq 0 ] && return
+  echo "Se instalan: ${faltan[*]}"
+  local como=()
+  [ "$(id -u)" -eq 0 ] || como=(sudo)
+  "${como[@]}" apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive "${como[@]}" apt-get install -y -qq --no-install-recommends "${faltan[@]}"
+}
+
+# construir PRESET
+construir() {
+  instalar_faltantes
+  export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-$([ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || echo offscreen)}
+  [ -n "$QT_QPA_PLATFORM" ] || unset QT_QPA_PLATFORM
+  [ -e "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
+  cmake --build --preset "$1"
+}
