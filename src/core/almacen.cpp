@@ -237,10 +237,16 @@ bool Recordset::nulo(int columna) const
     return sqlite3_column_type(sentencia_, columna) == SQLITE_NULL;
 }
 
+std::string_view Recordset::utf8(int columna) const
+{
+    const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(sentencia_, columna));
+    return texto ? std::string_view(texto, size_t(sqlite3_column_bytes(sentencia_, columna))) : std::string_view();
+}
+
 QString Recordset::texto(int columna) const
 {
-    const auto* utf8 = reinterpret_cast<const char*>(sqlite3_column_text(sentencia_, columna));
-    return QString::fromUtf8(utf8, sqlite3_column_bytes(sentencia_, columna));
+    const std::string_view t = utf8(columna);
+    return QString::fromUtf8(t.data(), qsizetype(t.size()));
 }
 
 double Recordset::real(int columna) const

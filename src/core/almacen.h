@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <stdexcept>
+#include <string_view>
 #include <unordered_map>
 
 struct sqlite3;
@@ -106,6 +107,8 @@ public:
 
     [[nodiscard]] bool nulo(int columna) const;
     [[nodiscard]] QString texto(int columna) const;
+    /// The text as the engine holds it, in UTF-8, until the next row.
+    [[nodiscard]] std::string_view utf8(int columna) const;
     [[nodiscard]] double real(int columna) const;
     [[nodiscard]] qint64 entero(int columna) const;
     [[nodiscard]] QVariant valor(int columna) const;

@@ -21,6 +21,7 @@ public:
     /// throws, the rows that it added stay.
     void llenar(const std::function<void()>& rellenar);
     void agregar(const QStringList& celdas) { modelo_.agregar(celdas); }
+    void agregar(std::span<const std::string_view> celdas) { modelo_.agregar(celdas); }
     void colorear(int fila, const ModeloGrilla::Colores& colores) { modelo_.colorear(fila, colores); }
     void vaciar();
 

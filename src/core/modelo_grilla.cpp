@@ -15,22 +15,27 @@ bool es_numerico(const QString& texto)
 
 }  // namespace
 
+void ModeloGrilla::vaciar()
+{
+    textos_.clear();
+    finales_.clear();
+    cambiadas_.clear();
+    colores_.clear();
+    filas_ = 0;
+}
+
 void ModeloGrilla::preparar(const QStringList& titulos)
 {
     beginResetModel();
     titulos_ = titulos;
-    celdas_.clear();
-    colores_.clear();
-    filas_ = 0;
+    vaciar();
     endResetModel();
 }
 
 void ModeloGrilla::comenzar()
 {
     beginResetModel();
-    celdas_.clear();
-    colores_.clear();
-    filas_ = 0;
+    vaciar();
 }
 
 void ModeloGrilla::terminar()
@@ -40,8 +45,23 @@ void ModeloGrilla::terminar()
 
 void ModeloGrilla::agregar(const QStringList& celdas)
 {
-    for (qsizetype i = 0; i < titulos_.size(); ++i)
-        celdas_.push_back(i < celdas.size() ? celdas[i] : QString());
+    for (qsizetype i = 0; i < titulos_.size(); ++i) {
+        if (i < celdas.size()) {
+            const QByteArray utf8 = celdas[i].toUtf8();
+            textos_.append(utf8.constData(), size_t(utf8.size()));
+        }
+        finales_.push_back(quint32(textos_.size()));
+    }
+    ++filas_;
+}
+
+void ModeloGrilla::agregar(std::span<const std::string_view> celdas)
+{
+    for (size_t i = 0; i < size_t(titulos_.size()); ++i) {
+        if (i < celdas.size())
+            textos_.append(celdas[i]);
+        finales_.push_back(quint32(textos_.size()));
+    }
     ++filas_;
 }
 
@@ -54,12 +74,16 @@ QString ModeloGrilla::texto(int fila, int columna) const
 {
     if (fila < 0 || fila >= filas_ || columna < 0 || columna >= titulos_.size())
         return {};
-    return celdas_[size_t(fila) * size_t(titulos_.size()) + size_t(columna)];
+    const auto lugar = quint32(fila) * quint32(titulos_.size()) + quint32(columna);
+    if (const auto it = cambiadas_.find(lugar); it != cambiadas_.end())
+        return *it;
+    const quint32 desde = lugar == 0 ? 0 : finales_[lugar - 1];
+    return QString::fromUtf8(textos_.data() + desde, qsizetype(finales_[lugar] - desde));
 }
 
 void ModeloGrilla::ponerTexto(int fila, int columna, const QString& texto)
 {
-    celdas_[size_t(fila) * size_t(titulos_.size()) + size_t(columna)] = texto;
+    cambiadas_[quint32(fila) * quint32(titulos_.size()) + quint32(columna)] = texto;
     emit dataChanged(index(fila, columna), index(fila, columna));
 }
 
@@ -80,7 +104,7 @@ QVariant ModeloGrilla::data(const QModelIndex& indice, int rol) const
     case Qt::ToolTipRole:
         return texto(indice.row(), indice.column());
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(Qt::AlignVCenter | (es_numerico(texto(indice.row(), indice.column())) ? Qt::AlignRight : Qt::AlignLeft));
+        return alineacion_[es_numerico(texto(indice.row(), indice.column()))];
     case Qt::ForegroundRole:
         if (const auto it = colores_.find(indice.row()); it != colores_.end() && it->texto.isValid())
             return it->texto;

@@ -5,6 +5,9 @@
 #include <QColor>
 #include <QHash>
 
+#include <span>
+#include <string>
+#include <string_view>
 #include <vector>
 
 class ModeloGrilla : public QAbstractTableModel
@@ -25,6 +28,8 @@ public:
     void comenzar();
     void terminar();
     void agregar(const QStringList& celdas);
+    /// A row of cells in UTF-8; the bytes are copied.
+    void agregar(std::span<const std::string_view> celdas);
     void colorear(int fila, const Colores& colores);
 
     [[nodiscard]] QString texto(int fila, int columna) const;
@@ -37,7 +42,14 @@ public:
 
 private:
     QStringList titulos_;
-    std::vector<QString> celdas_;
+    void vaciar();
+
+    // Lists run to tens of thousands of rows: their texts lie end to end as they came from the
+    // store, and only what is shown becomes a string.
+    std::string textos_;
+    std::vector<quint32> finales_;
+    QHash<quint32, QString> cambiadas_;
     QHash<int, Colores> colores_;
     int filas_ = 0;
+    const QVariant alineacion_[2] = {QVariant::fromValue(Qt::AlignVCenter | Qt::AlignLeft), QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight)};
 };

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -62,6 +63,43 @@ QByteArray redondeado(double valor, int decimales)
     return c.negativo && !cero ? '-' + salida : salida;
 }
 
+// The number scaled to its last decimal, where the nearest whole number is surely what the text
+// of 15 digits rounds to: far from a half, and well below 15 digits.
+std::optional<qint64> escalado(double valor, int decimales)
+{
+    constexpr double POTENCIAS[] = {1, 10, 100, 1000, 10000};
+    constexpr double LEJOS_DE_LA_MITAD = 1e-4;
+    constexpr double EXACTOS = 1e10;
+    if (decimales < 0 || decimales > 4)
+        return {};
+    const double e = std::fabs(valor) * POTENCIAS[decimales];
+    const double entero = std::floor(e);
+    if (!(e < EXACTOS) || std::fabs(e - entero - 0.5) <= LEJOS_DE_LA_MITAD)
+        return {};
+    const auto n = qint64(entero) + (e - entero > 0.5);
+    return valor < 0 ? -n : n;
+}
+
+// The digits of a scaled number, from the right: decimals, their separator, grouped integers.
+QString componer(qint64 n, int decimales, const QString& coma, const QString& miles)
+{
+    std::array<char16_t, 48> bufer{};
+    size_t i = bufer.size();
+    auto resto = quint64(n < 0 ? -n : n);
+    for (int d = 0; d < decimales; ++d, resto /= 10)
+        bufer[--i] = char16_t(u'0' + resto % 10);
+    if (decimales > 0)
+        bufer[--i] = coma.front().unicode();
+    for (int d = 0; d == 0 || resto > 0; ++d, resto /= 10) {
+        if (d > 0 && d % 3 == 0 && !miles.isEmpty())
+            bufer[--i] = miles.front().unicode();
+        bufer[--i] = char16_t(u'0' + resto % 10);
+    }
+    if (n < 0)
+        bufer[--i] = u'-';
+    return QString::fromUtf16(bufer.data() + i, qsizetype(bufer.size() - i));
+}
+
 bool es_numero(const QString& texto, double& valor)
 {
     bool bien = false;
@@ -73,6 +111,8 @@ bool es_numero(const QString& texto, double& valor)
 
 QString formato_decimal(double valor, int decimales)
 {
+    if (const auto n = escalado(valor, decimales))
+        return componer(*n, decimales, QStringLiteral("."), {});
     return QString::fromLatin1(redondeado(valor, decimales));
 }
 
@@ -83,7 +123,10 @@ double redondear(double valor, int decimales)
 
 QString formato_importe(double valor)
 {
-    return formato_decimal(valor, 2).replace(u'.', clsLocaleInfo().sDecimal());
+    const QString coma(QLocale().decimalPoint());
+    if (const auto n = escalado(valor, 2))
+        return componer(*n, 2, coma, {});
+    return formato_decimal(valor, 2).replace(u'.', coma);
 }
 
 QString con_ceros(qint64 valor, int ancho)
@@ -184,15 +227,25 @@ void Numero::formatear()
 
 double Numero::Value() const
 {
+    if (leido_)
+        return *leido_;
     double valor = 0;
     if (!texto_.isEmpty() && !es_numero(desnudo(), valor))
         throw ErrorConversion();
+    leido_ = valor;
     return valor;
 }
 
 void Numero::setValue(double valor)
 {
-    texto_ = QString::number(valor, 'g', 15).replace(u'.', local_.sDecimal());
+    // Dividing a whole number by a power of ten gives the very double that its text reads as.
+    constexpr double POTENCIAS[] = {1, 10, 100, 1000, 10000};
+    if (const auto n = escalado(valor, cantidadDecimales); n && local_.sDecimal().size() == 1 && local_.Thousands().size() <= 1) {
+        poner(componer(*n, cantidadDecimales, local_.sDecimal(), useSepMiles ? local_.Thousands() : QString()));
+        leido_ = double(*n) / POTENCIAS[cantidadDecimales];
+        return;
+    }
+    escribirTexto(QString::number(valor, 'g', 15).replace(u'.', local_.sDecimal()));
     formatear();
 }
 
@@ -211,7 +264,7 @@ void Numero::ClearText()
 
 void Numero::poner(const QString& texto)
 {
-    texto_ = texto;
+    escribirTexto(texto);
     if (alCambiar)
         alCambiar();
 }

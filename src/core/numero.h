@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <stdexcept>
 
 /// A text that is no number was read as one.
@@ -71,7 +72,11 @@ public:
     void ClearText();
 
     /// The text as an editor changed it.
-    void escribirTexto(const QString& texto) { texto_ = texto; }
+    void escribirTexto(const QString& texto)
+    {
+        texto_ = texto;
+        leido_.reset();
+    }
     [[nodiscard]] bool vacio() const { return texto_.isEmpty(); }
 
 private:
@@ -80,4 +85,5 @@ private:
 
     clsLocaleInfo local_;
     QString texto_;
+    mutable std::optional<double> leido_;  ///< what the text was read as, until it changes
 };

@@ -280,7 +280,7 @@ void frmDJ_editar::cargar_detalle()
     int fila = 0;
     ui->flxOp->llenar([&] {
         leer_renglones(ui->txtNroDJ->text(), [&](const FilaRenglon& r) {
-            ui->flxOp->agregar(r.celdas);
+            ui->flxOp->agregar(std::span<const std::string_view>(r.celdas));
             if (r.incompleto) {
                 ui->flxOp->colorear(fila, {ROJO, {}});
                 ++incompletos;

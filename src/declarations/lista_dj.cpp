@@ -5,6 +5,8 @@
 
 #include <QDir>
 
+#include <array>
+
 QString consulta_dj(const FiltroDJ& filtro)
 {
     QString sql = QStringLiteral("select SEDJ_NRO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, "
@@ -23,12 +25,15 @@ QString consulta_dj(const FiltroDJ& filtro)
     return sql + QStringLiteral(" order by SRTN_NRO, SEDJ_ANIO desc, SEDJ_MES desc, SEDJ_SECUENCIA desc");
 }
 
-void leer_lista_dj(const FiltroDJ& filtro, const std::function<void(const QStringList&)>& fila)
+void leer_lista_dj(const FiltroDJ& filtro, const std::function<void(std::span<const std::string_view>)>& fila)
 {
-    const QString normal = QStringLiteral("NORMAL");
-    const QString sin = QStringLiteral("SIN MOVIMIENTOS");
-    for (Recordset rs(cnRtn, consulta_dj(filtro)); !rs.eof(); rs.siguiente())
-        fila({rs.texto(0), rs.texto(1), rs.texto(2), rs.texto(3), rs.texto(4), rs.texto(5), rs.entero(6) == 0 ? normal : sin, rs.texto(7)});
+    std::array<std::string_view, 8> celdas;
+    for (Recordset rs(cnRtn, consulta_dj(filtro)); !rs.eof(); rs.siguiente()) {
+        for (int i = 0; i < int(celdas.size()); ++i)
+            celdas[size_t(i)] = rs.utf8(i);
+        celdas[6] = rs.entero(6) == 0 ? "NORMAL" : "SIN MOVIMIENTOS";
+        fila(celdas);
+    }
 }
 
 namespace {

@@ -6,6 +6,8 @@
 #include <QString>
 
 #include <functional>
+#include <span>
+#include <string_view>
 
 struct FiltroDJ
 {
@@ -16,8 +18,9 @@ struct FiltroDJ
 
 /// The statement of the list under a filter.
 [[nodiscard]] QString consulta_dj(const FiltroDJ& filtro);
-/// Reads the list, one call a row with the cells of the grid. Throws ErrorAlmacen.
-void leer_lista_dj(const FiltroDJ& filtro, const std::function<void(const QStringList&)>& fila);
+/// Reads the list, one call a row with the cells of the grid, in UTF-8, good for that call alone.
+/// Throws ErrorAlmacen.
+void leer_lista_dj(const FiltroDJ& filtro, const std::function<void(std::span<const std::string_view>)>& fila);
 
 /// Deletes a DJ with what hangs from it, and the files of its folder of testimonios. An error is
 /// told and leaves the DJ.

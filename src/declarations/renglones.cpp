@@ -6,39 +6,43 @@
 namespace {
 
 // What the column of the operation says of a deed.
-QString texto_operacion(const Recordset& rs, bool& incompleto)
+std::string_view texto_operacion(const Recordset& rs, bool& incompleto)
 {
-    const QString estado = rs.texto(7);
-    if (estado != u"P")
-        return QStringLiteral("Anulado/") + (estado == u"N" ? QStringLiteral("NO PASO") : QStringLiteral("ERROSE"));
-    const bool alcanzado = rs.texto(8) == u"S";
-    if (alcanzado && rs.nulo(4)) {
+    const std::string_view estado = rs.utf8(7);
+    if (estado != "P")
+        return estado == "N" ? "Anulado/NO PASO" : "Anulado/ERROSE";
+    const std::string_view alcanzado = rs.utf8(8);
+    if (alcanzado == "S" && rs.nulo(4)) {
         incompleto = true;
-        return QStringLiteral("(falta completar: operacion)");
+        return "(falta completar: operacion)";
     }
-    if (rs.entero(10) != 0 && rs.texto(9).isEmpty()) {
+    if (rs.entero(10) != 0 && rs.utf8(9).empty()) {
         incompleto = true;
-        return QStringLiteral("(falta completar: testimonio)");
+        return "(falta completar: testimonio)";
     }
-    return rs.texto(8) == u"N" ? QStringLiteral("No alcanzado") : rs.texto(4);
+    return alcanzado == "N" ? "No alcanzado" : rs.utf8(4);
 }
 
 }  // namespace
 
-void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila)
+QString consulta_renglones(const QString& nro)
 {
-    const QString sql = QStringLiteral(" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, ")
+    return QStringLiteral(" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, ")
         + QStringLiteral(" D.SSUB_DESCRIPCION, D.SEDD_OBSERVACIONES, D.SEDD_TOTAL_IMPUESTO, ")
         + QStringLiteral(" D.SEDD_ESTADO, D.SEDD_ALCANZADO, D.SEDD_FNAME_TESTIMONIO, D.REQUIERE_TESTIMONIO ")
         + QStringLiteral(" from SEL_VW_DJ_DETALLE D left join ") + QStringLiteral("         (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO ")
         + QStringLiteral("          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O ")
         + QStringLiteral("          on S.SSUB_ID=O.SSUB_ID) as A ") + QStringLiteral(" on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID ")
         + QStringLiteral(" where D.SEDJ_NRO='") + nro + QStringLiteral("'") + QStringLiteral(" order by D.SEDD_ESCRITURA_NRO");
-    for (Recordset rs(cnRtn, sql); !rs.eof(); rs.siguiente()) {
+}
+
+void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila)
+{
+    for (Recordset rs(cnRtn, consulta_renglones(nro)); !rs.eof(); rs.siguiente()) {
         FilaRenglon f;
-        const QString operacion = texto_operacion(rs, f.incompleto);
-        const QString impuesto = rs.texto(7) == u"P" ? formato_importe(rs.real(6)) : QStringLiteral("0.00");
-        f.celdas = {rs.texto(0), rs.texto(1), rs.texto(2), rs.texto(3), operacion, rs.texto(5), impuesto};
+        const std::string_view operacion = texto_operacion(rs, f.incompleto);
+        const QByteArray impuesto = rs.utf8(7) == "P" ? formato_importe(rs.real(6)).toUtf8() : QByteArrayLiteral("0.00");
+        f.celdas = {rs.utf8(0), rs.utf8(1), rs.utf8(2), rs.utf8(3), operacion, rs.utf8(5), {impuesto.constData(), size_t(impuesto.size())}};
         fila(f);
     }
 }

@@ -3,16 +3,20 @@
 
 #include "core/dialogo.h"
 
-#include <QStringList>
+#include <QString>
 
+#include <array>
 #include <functional>
+#include <string_view>
 
 struct FilaRenglon
 {
-    QStringList celdas;       ///< in the columns of the list
-    bool incompleto = false;  ///< something of the deed is missing
+    std::array<std::string_view, 7> celdas;  ///< in the columns of the list, in UTF-8, good for one call
+    bool incompleto = false;                 ///< something of the deed is missing
 };
 
+/// The statement of the list.
+[[nodiscard]] QString consulta_renglones(const QString& nro);
 /// Reads the deeds in the order of their numbers. Throws ErrorAlmacen.
 void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila);
 

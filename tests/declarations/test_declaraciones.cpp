@@ -62,7 +62,7 @@ TEST_F(Declaraciones, ListaConFiltrosYBorrado)
     cnRtn.ejecutar("insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SRTN_NRO, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO) values ('X', 9, 2025, 1, 0, 1)"_u);
     const auto numeros = [](const FiltroDJ& f) {
         QStringList n;
-        leer_lista_dj(f, [&](const QStringList& fila) { n << fila[0] + fila[6].left(1); });
+        leer_lista_dj(f, [&](std::span<const std::string_view> fila) { n << QString::fromStdString(std::string(fila[0]) + fila[6][0]); });
         return n.join(u',');
     };
     EXPECT_EQ(numeros({}), "XS,20123456786261001N,20123456786261000N"_u);
@@ -205,8 +205,14 @@ TEST_F(Declaraciones, RenglonesYLoQueLesFalta)
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=1234.5 where SEDD_ID=7"_u);
     for (const int op : {1, 2})
         cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 7, %2, %3)"_u.arg(dj).arg(op).arg(op == 1 ? 5707001 : 5707029));
-    QList<FilaRenglon> lista;
-    leer_renglones(dj, [&](const FilaRenglon& f) { lista << f; });
+    struct Leida { QStringList celdas; bool incompleto; };
+    QList<Leida> lista;
+    leer_renglones(dj, [&](const FilaRenglon& f) {
+        QStringList celdas;
+        for (const std::string_view c : f.celdas)
+            celdas << QString::fromUtf8(c.data(), qsizetype(c.size()));
+        lista << Leida{celdas, f.incompleto};
+    });
     ASSERT_EQ(lista.size(), 8);  // a deed with two operations stands twice
     for (int i = 0; i < casos.size(); ++i) {
         EXPECT_EQ(lista[i].celdas[4], QString::fromUtf8(casos[i].texto));

@@ -1,0 +1,24 @@
+// Stores of the sizes that the cases ask for.
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+/// A store with the catalogue, open as the program's own, in a temporary folder that is the
+/// program's.
+class AlmacenGrande
+{
+public:
+    AlmacenGrande();
+    ~AlmacenGrande();
+
+    /// A DJ of so many deeds: 4 parties, 1.5 properties, 1 operation, 2 values and 3 roles each.
+    static QString dj(int anio, int mes, int escrituras);
+    /// So many headers of DJs.
+    static void cabeceras(int cuantas);
+
+    [[nodiscard]] QString ruta() const { return dir_.path() + QStringLiteral("/vedra_rtn.db"); }
+
+private:
+    QTemporaryDir dir_;
+};

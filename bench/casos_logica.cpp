@@ -1,0 +1,203 @@
+#include "almacen_grande.h"
+#include "medir.h"
+
+#include "computation/calculo.h"
+#include "core/modGlobales.h"
+#include "declarations/copiar_dj.h"
+#include "declarations/modABM_dj.h"
+#include "filing/archivo_dj.h"
+#include "filing/registros.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QCryptographicHash>
+#include <QFile>
+
+#include <cstdio>
+#include <fstream>
+#include <memory>
+
+namespace {
+
+class Callado : public Dialogo
+{
+    void avisar(const Mensaje&) override {}
+    bool preguntar(const Mensaje&) override { return true; }
+};
+
+sqlite3_stmt* preparar(const QString& sql)
+{
+    sqlite3_stmt* s = nullptr;
+    sqlite3_prepare_v2(cnRtn.nativa(), sql.toUtf8().constData(), -1, &s, nullptr);
+    return s;
+}
+
+// Reads every cell of the rows that the file is made of through the engine alone, then writes and
+// digests as many bytes as the file has.
+void leer_y_digerir(const QString& dj, qint64 bytes)
+{
+    for (const Registro& r : registros()) {
+        sqlite3_stmt* s = preparar(r.consulta(dj));
+        while (sqlite3_step(s) == SQLITE_ROW)
+            for (int i = 0; i < sqlite3_column_count(s); ++i)
+                benchmark::DoNotOptimize(sqlite3_column_text(s, i));
+        sqlite3_finalize(s);
+    }
+    static const QByteArray bloque(1 << 16, 'x');
+    QFile f(carpeta_programa() + QStringLiteral("/limite.txt"));
+    if (!f.open(QIODevice::WriteOnly))
+        std::abort();
+    QCryptographicHash md5(QCryptographicHash::Md5);
+    for (qint64 n = 0; n < bytes; n += bloque.size()) {
+        f.write(bloque);
+        md5.addData(bloque);
+    }
+    benchmark::DoNotOptimize(md5.result());
+}
+
+// Peak of resident memory in KiB since it was last set back.
+qint64 memoria_pico()
+{
+    std::ifstream estado("/proc/self/status");
+    for (std::string linea; std::getline(estado, linea);)
+        if (linea.rfind("VmHWM:", 0) == 0)
+            return std::stoll(linea.substr(6));
+    return 0;
+}
+
+void olvidar_pico()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+void archivo(benchmark::State& estado)
+{
+    const AlmacenGrande a;
+    const QString chica = AlmacenGrande::dj(2026, 1, 100);
+    const QString media = AlmacenGrande::dj(2026, 2, 1000);
+    const QString grande = AlmacenGrande::dj(2026, 3, 10000);
+    const qint64 bytes = QFile(generar_archivo_dj(grande).archivo).size();
+    const auto pico = [](const QString& dj) {
+        olvidar_pico();
+        benchmark::DoNotOptimize(generar_archivo_dj(dj));
+        return memoria_pico();
+    };
+    const qint64 pico_chica = pico(chica);
+    estado.counters["memoria_de_mas_MB"] = double(pico(grande) - pico_chica) / 1024;
+    const auto tiempo = [](const QString& dj) {
+        const auto antes = std::chrono::steady_clock::now();
+        benchmark::DoNotOptimize(generar_archivo_dj(dj));
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - antes).count();
+    };
+    double t_media = tiempo(media), t_grande = tiempo(grande);
+    for (int i = 0; i < 3; ++i) {
+        t_media = std::min(t_media, tiempo(media));
+        t_grande = std::min(t_grande, tiempo(grande));
+    }
+    estado.counters["diez_veces_mas"] = t_grande / t_media;
+    medir(estado, 1.5, [&] { benchmark::DoNotOptimize(generar_archivo_dj(grande)); }, [&] { leer_y_digerir(grande, bytes); });
+}
+
+void calculo(benchmark::State& estado)
+{
+    const AlmacenGrande a;
+    Callado callado;
+    CamposSueltos sueltos;
+    CamposImpuesto c = sueltos.campos();
+    clsSubconcepto s;
+    {
+        const Recordset rs(cnRtn, QStringLiteral("select * from SEL_VW_SUBCONCEPTOS where SSUB_ID_CONLEY=5707001"));
+        s.llenar(rs);
+    }
+    EstadoOperacion e;
+    e.subconcepto = &s;
+    e.partes = {{QStringLiteral("VENDEDOR"), 50.0}, {QStringLiteral("COMPRADOR"), {}}};
+    c.nroTotalVC.setValue(1234567.89);
+    c.nroValuacionFiscal.setValue(1000000);
+    constexpr int VECES = 500;
+    medir(
+        estado, 1.5,
+        [&] {
+            for (int i = 0; i < VECES; ++i)
+                CalcularImpuesto(c, e, callado);
+        },
+        [&] {
+            for (int i = 0; i < VECES; ++i) {
+                sqlite3_stmt* st = preparar(QStringLiteral("select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS  where SSUB_ID=5707001 "
+                                                           "and (SALI_DESDEVALOR<1234567.89 and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>=1234567.89))"));
+                sqlite3_step(st);
+                benchmark::DoNotOptimize(sqlite3_column_double(st, 3));
+                sqlite3_finalize(st);
+            }
+        });
+}
+
+// The rows of a DJ, cell by cell, into a table under another number by one prepared insert.
+void insertar_igual(const char* tabla, const QString& de, const QString& a)
+{
+    sqlite3_stmt* leer = preparar(QStringLiteral("select * from %1 where SEDJ_NRO='%2'").arg(QLatin1String(tabla), de));
+    sqlite3_stmt* poner = nullptr;
+    const QByteArray nro = a.toUtf8();
+    while (sqlite3_step(leer) == SQLITE_ROW) {
+        const int n = sqlite3_column_count(leer);
+        if (!poner)
+            poner = preparar(QStringLiteral("insert into %1 values (?%2)").arg(QLatin1String(tabla), QStringLiteral(",?").repeated(n - 1)));
+        for (int i = 0; i < n; ++i) {
+            if (qstrcmp(sqlite3_column_name(leer, i), "SEDJ_NRO") == 0)
+                sqlite3_bind_text(poner, i + 1, nro.constData(), int(nro.size()), SQLITE_STATIC);
+            else
+                sqlite3_bind_value(poner, i + 1, sqlite3_column_value(leer, i));
+        }
+        sqlite3_step(poner);
+        sqlite3_reset(poner);
+    }
+    sqlite3_finalize(leer);
+    sqlite3_finalize(poner);
+}
+
+void copia(benchmark::State& estado)
+{
+    const AlmacenGrande a;
+    Callado callado;
+    const QString dj = AlmacenGrande::dj(2026, 3, 1000);
+    const QString otra = dj.left(15) + QStringLiteral("77");
+    const auto borrar = [](const QString& nro) {
+        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='%1'; delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'").arg(nro));
+    };
+    double t_caso = 0, t_limite = 0;
+    const auto cronometrar = [](const std::function<void()>& f) {
+        const auto antes = std::chrono::steady_clock::now();
+        f();
+        return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count();
+    };
+    std::vector<double> casos, limites;
+    for (auto _ : estado) {
+        QString nueva;
+        casos.push_back(t_caso = cronometrar([&] { nueva = copiar_dj(dj, callado); }));
+        borrar(nueva);
+        limites.push_back(t_limite = cronometrar([&] {
+            cnRtn.comenzar();
+            for (const char* t : {"SEL_TB_RTN_CABDJ", "SEL_TB_RTN_DETDJ", "SEL_TB_RTN_INS_INMUEBLES", "SEL_TB_RTN_INS_PARTES", "SEL_TB_RTN_INS_OPERACIONES",
+                                  "SEL_TB_RTN_INS_VC", "SEL_TB_RTN_INS_ROLES"})
+                insertar_igual(t, dj, otra);
+            cnRtn.confirmar();
+        }));
+        borrar(otra);
+        estado.SetIterationTime(t_caso / 1000);
+    }
+    std::sort(casos.begin(), casos.end());
+    std::sort(limites.begin(), limites.end());
+    estado.counters["caso_ms"] = casos[casos.size() / 2];
+    estado.counters["limite_ms"] = limites[limites.size() / 2];
+    estado.counters["razon"] = casos[casos.size() / 2] / limites[limites.size() / 2];
+    estado.counters["pedida"] = 3;
+}
+
+}  // namespace
+
+void registrar_logica()
+{
+    benchmark::RegisterBenchmark("archivo_y_codigo_de_10000_escrituras", archivo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(7);
+    benchmark::RegisterBenchmark("CalcularImpuesto", calculo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+    benchmark::RegisterBenchmark("copiar_dj_de_1000_escrituras", copia)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+}

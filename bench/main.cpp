@@ -1,0 +1,55 @@
+#include "medir.h"
+
+#include "core/aplicacion.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+namespace {
+
+double milisegundos(const std::function<void()>& f)
+{
+    const auto antes = std::chrono::steady_clock::now();
+    f();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - antes).count();
+}
+
+double mediana(std::vector<double> v)
+{
+    std::sort(v.begin(), v.end());
+    return v.empty() ? 0 : v[v.size() / 2];
+}
+
+}  // namespace
+
+void medir(benchmark::State& estado, double pedido, const std::function<void()>& caso, const std::function<void()>& limite)
+{
+    caso();
+    limite();
+    std::vector<double> casos, limites;
+    for (auto _ : estado) {
+        casos.push_back(milisegundos(caso));
+        limites.push_back(milisegundos(limite));
+        estado.SetIterationTime(casos.back() / 1000);
+    }
+    estado.counters["caso_ms"] = mediana(casos);
+    estado.counters["limite_ms"] = mediana(limites);
+    estado.counters["razon"] = mediana(casos) / mediana(limites);
+    estado.counters["pedida"] = pedido;
+}
+
+int main(int argc, char** argv)
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Aplicacion aplicacion(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
+    registrar_logica();
+    registrar_pantallas();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

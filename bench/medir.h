@@ -1,0 +1,14 @@
+// A case beside its limit: both run in turns, the medians give the ratio.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <string>
+
+/// Times `caso` and `limite` by turns, one pair an iteration, and reports the median times in ms
+/// ("caso", "limite"), their ratio and the ratio that is asked.
+void medir(benchmark::State& estado, double pedido, const std::function<void()>& caso, const std::function<void()>& limite);
+
+void registrar_logica();
+void registrar_pantallas();
