@@ -1,6 +1,6 @@
 #include "medir.h"
 
-#include "core/aplicacion.h"
+#include "core/MDIAplicacion.h"
 
 #include <QLocale>
 

@@ -1,5 +1,5 @@
 #include "core/MDIPrincipal.h"
-#include "core/aplicacion.h"
+#include "core/MDIAplicacion.h"
 
 #include <cstdlib>
 

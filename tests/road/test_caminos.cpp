@@ -49,4 +49,18 @@ TEST_F(Caminos, MatadoEnDoscientosMomentosConservaLoConfirmado)
     EXPECT_GT(pasos, 200);
 }
 
+TEST_F(Caminos, UnErrorQueNadieAtrapaSeMuestraYCierraEnOrden)
+{
+    cnRtn.cerrar();
+    QProcess p;
+    p.start(QStringLiteral(RTN_FATAL), {ruta()});
+    ASSERT_TRUE(p.waitForFinished(20000));
+    EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(p.exitCode(), 1);
+    EXPECT_TRUE(QString::fromUtf8(p.readAllStandardError()).contains("no such table: NADA"_u));
+    cnRtn.abrir(ruta(), clave_almacen());
+    EXPECT_EQ(filas("select GCON_NOMBRE from GLB_TB_CONCEPTOS where GCON_ID>=50"_u), "CONFIRMADO"_u);
+    EXPECT_FALSE(QFile::exists(ruta() + "-journal"_u));
+}
+
 }  // namespace

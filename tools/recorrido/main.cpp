@@ -2,7 +2,7 @@
 
 #include "constructor.h"
 #include "core/MDIPrincipal.h"
-#include "core/aplicacion.h"
+#include "core/MDIAplicacion.h"
 #include "core/modGlobales.h"
 #include "manejo/manejo.h"
 #include "recorrido/guia.h"

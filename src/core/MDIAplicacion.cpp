@@ -1,4 +1,4 @@
-#include "core/aplicacion.h"
+#include "core/MDIAplicacion.h"
 
 #include "core/barra.h"
 #include "core/mensajes.h"
