@@ -14,21 +14,22 @@ struct Boton
     const char* icono;
 };
 
+// The access keys keep clear of the main menu's: T, G, A and S.
 constexpr std::array BOTONES{
-    Boton{"aceptar", "&Aceptar", "aceptar"},
-    Boton{"agregar", "&Agregar", "agregar"},
-    Boton{"alta", "&Alta", "agregar"},
+    Boton{"aceptar", "Ace&ptar", "aceptar"},
+    Boton{"agregar", "Agregar", "agregar"},
+    Boton{"alta", "A&lta", "agregar"},
     Boton{"borrar", "&Borrar", "borrar"},
     Boton{"buscar", "&Buscar", "buscar"},
     Boton{"cambiar_op", "Cambiar &operación", "cambiar"},
     Boton{"cancelar", "&Cancelar", "cancelar"},
     Boton{"editar", "&Editar", "editar"},
     Boton{"editar_det", "&Editar", "editar"},
-    Boton{"emitir", "E&mitir", "emitir"},
-    Boton{"generar", "&Generar", "generar"},
-    Boton{"guardar", "&Guardar", "guardar"},
-    Boton{"guardar_det", "G&uardar datos", "guardar"},
-    Boton{"guardar_op", "&Guardar operación", "aceptar"},
+    Boton{"emitir", "&Emitir", "emitir"},
+    Boton{"generar", "Generar", "generar"},
+    Boton{"guardar", "Guardar", "guardar"},
+    Boton{"guardar_det", "Guardar &datos", "guardar"},
+    Boton{"guardar_op", "G&uardar operación", "aceptar"},
     Boton{"imprimir", "&Imprimir", "imprimir"},
     Boton{"modificar", "&Modificar", "editar"},
     Boton{"nueva", "&Nueva", "nueva"},
@@ -36,7 +37,7 @@ constexpr std::array BOTONES{
     Boton{"quitar", "&Quitar", "borrar"},
     Boton{"recibo", "&Recibo", "recibo"},
     Boton{"rectificar", "&Rectificar", "rectificar"},
-    Boton{"salir", "&Salir", "salir"},
+    Boton{"salir", "Sal&ir", "salir"},
 };
 
 }  // namespace

@@ -10,6 +10,9 @@ namespace {
 
 const QString INCOMPLETA = QStringLiteral("La declaración jurada está incompleta.");
 
+// A mistyped number may leave hundreds of millions of them missing: no box holds that list.
+constexpr qsizetype MAXIMO_LISTADO = 5000;
+
 // What is missing in the numbers between the first deed and the last; empty when nothing is.
 QString huecos(const QString& nro)
 {
@@ -20,10 +23,12 @@ QString huecos(const QString& nro)
         return {};
     for (qint64 anterior = rs.entero(0); !rs.eof(); rs.siguiente()) {
         const qint64 actual = rs.entero(0);
-        for (qint64 n = anterior + 1; n < actual; ++n)
+        for (qint64 n = anterior + 1; n < actual && faltan.size() < MAXIMO_LISTADO; ++n)
             faltan << QString::number(n);
         anterior = actual;
     }
+    if (faltan.size() == MAXIMO_LISTADO)
+        faltan << QStringLiteral("...");
     return faltan.isEmpty() ? QString() : INCOMPLETA + QStringLiteral("\nFaltan declarar las escrituras Nº: ") + faltan.join(QStringLiteral(", "));
 }
 
