@@ -408,7 +408,7 @@ create index IDX_COMP_RET_RENGLON on SEL_TB_RTN_COMP_RET (SEDJ_NRO, SEDD_ID);
 -- Deposit slips. A slip outlives the DJ that it was made for.
 create table SEL_TB_RTN_BOLDEP (
     SBDI_ID               integer primary key autoincrement,
-    SBDI_NROBOLETA        text(24) collate nocase not null unique,
+    SBDI_NROBOLETA        text(30) collate nocase not null,
     SBDI_FECHA_EMISION    date,
     SBDI_FECHA_VENC       date,
     SBDI_RTN_NRO          integer,
@@ -436,6 +436,8 @@ create table SEL_TB_RTN_BOLDEP (
     SBDI_TIPO_BOLETA      integer,
     SBDI_CODIGO_BARRAS    text(84) collate nocase
 );
+
+create index IDX_BOLDEP_NRO on SEL_TB_RTN_BOLDEP (SBDI_NROBOLETA);
 
 create index IDX_BOLDEP_DJ on SEL_TB_RTN_BOLDEP (SEDJ_NRO);
 

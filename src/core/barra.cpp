@@ -34,6 +34,7 @@ constexpr std::array BOTONES{
     Boton{"modificar", "&Modificar", "editar"},
     Boton{"nueva", "&Nueva", "nueva"},
     Boton{"nuevo", "&Nuevo", "nueva"},
+    Boton{"pdf", "Guardar &PDF", "guardar"},
     Boton{"quitar", "&Quitar", "borrar"},
     Boton{"recibo", "&Recibo", "recibo"},
     Boton{"rectificar", "&Rectificar", "rectificar"},

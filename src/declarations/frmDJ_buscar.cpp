@@ -7,6 +7,7 @@
 #include "declarations/lista_dj.h"
 #include "filing/archivo_dj.h"
 #include "filing/verificacion.h"
+#include "printing/frmReportes.h"
 #include "ui_frmDJ_buscar.h"
 
 #include <QDir>
@@ -165,4 +166,7 @@ void frmDJ_buscar::emitir()
     avisar(QStringLiteral("El archivo de la declaración jurada está en:\n") + QDir::toNativeSeparators(emision.archivo)
                + QStringLiteral("\n\nCódigo de verificación: ") + emision.codigo,
            windowTitle());
+    auto* reporte = cargar<frmReportes>();
+    reporte->DJ(nro, emision.codigo);
+    abrir(reporte);
 }

@@ -165,7 +165,7 @@ void frmDJ_detalle::habilitar_botones_edicion(bool si)
         ui->tlbDetalle->habilitar(QLatin1String(clave), si);
     for (const char* clave : {"salir", "editar"})
         ui->tlbDetalle->habilitar(QLatin1String(clave), !si);
-    ui->tlbDetalle->habilitar(QStringLiteral("recibo"), false);
+    ui->tlbDetalle->habilitar(QStringLiteral("recibo"), !si && alcanzado() && ui->flxOp->filas() > 0);
 }
 
 void frmDJ_detalle::enReposo()
@@ -333,6 +333,8 @@ void frmDJ_detalle::tlbDetalle_pulsada(const QString& clave)
         if (Operacion == Modo::modificar)
             Inicializar(Operacion, ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());
         enReposo();
+    } else if (clave == u"recibo") {
+        emitir_recibo();
     } else if (clave == u"editar") {
         if (!ui->txtRenglonDJ->text().isEmpty())
             Inicializar(Operacion, ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());

@@ -45,6 +45,7 @@ private:
     void cambioAlcance();
     void cambioEstado();
     void examinar();
+    void emitir_recibo();
     void tlbDetalle_pulsada(const QString& clave);
     void tlbPartes_pulsada(const QString& clave);
     void tlbInm_pulsada(const QString& clave);

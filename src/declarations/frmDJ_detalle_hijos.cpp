@@ -7,7 +7,11 @@
 #include "core/modGlobales.h"
 #include "declarations/frmDJ_detalle_parte.h"
 #include "declarations/frmDJ_editar_inmueble.h"
+#include "declarations/frmDJ_editar.h"
 #include "declarations/hijos_escritura.h"
+#include "core/ctlEspera.h"
+#include "payment/comprobantes.h"
+#include "printing/frmReportes.h"
 #include "ui_frmDJ_detalle.h"
 
 namespace {
@@ -67,6 +71,39 @@ void frmDJ_detalle::borrar_hijos_escritura()
     for (int i = 0; i < ui->flxInm->filas(); ++i)
         borrar_inmueble(renglon(), ui->flxInm->celda(i, 0));
     cargar_inmuebles();
+}
+
+void frmDJ_detalle::emitir_recibo()
+{
+    const QString titulo = QStringLiteral("Emitir comprobante de retención");
+    const QString incompleta = QStringLiteral("\nEscritura incompleta: No se puede emitir el comprobante de retención.");
+    const auto falta = [&](const char* que, int solapa) {
+        avisar(QString::fromUtf8(que) + incompleta, titulo);
+        ui->SSTab1->setCurrentIndex(solapa);
+        puntero_normal();
+    };
+    if (ui->flxOp->filas() == 0) {
+        falta("Ingrese la operación de la escritura", 1);
+        return;
+    }
+    if (ui->flxPartes->filas() == 0) {
+        falta("Ingrese las partes intervinientes de la escritura", 0);
+        return;
+    }
+    const QString dj = ui->txtDJ_nro->text();
+    const QString posicion = ui->txtPosicion->text();
+    const auto* editor = cargada<frmDJ_editar>();
+    QString nro;
+    try {
+        nro = proximo_comprobante(dj);
+    } catch (const ErrorAlmacen&) {
+        return;  // nothing is written, and nothing is told
+    }
+    emitir_comprobante(nro, {dj, ui->txtRenglonDJ->text(), ui->nroTotalImpuesto->toSQL(),
+                             QDate(posicion.left(4).toInt(), posicion.mid(5, 2).toInt(), int(ui->nroDia->Value())), editor ? editor->agente() : QString()});
+    auto* reporte = cargar<frmReportes>();
+    reporte->recibo(nro, dj);
+    abrir(reporte);
 }
 
 void frmDJ_detalle::abrirParte(Modo operacion)

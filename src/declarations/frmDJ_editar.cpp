@@ -3,6 +3,7 @@
 #include "core/ctlComunes.h"
 #include "core/mensajes.h"
 #include "core/modGlobales.h"
+#include "core/reloj.h"
 #include "declarations/agente.h"
 #include "declarations/cabecera_dj.h"
 #include "declarations/copiar_dj.h"
@@ -47,8 +48,8 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
     ui->cboDJ_Estado->setCurrentIndex(0);
     ui->lblAviso->hide();
     ui->lblCantIncompletos->hide();
-    seleccionar_item(ui->cboMes, QDate::currentDate().month());
-    ui->txtAnio->setText(QString::number(QDate::currentDate().year()));
+    seleccionar_item(ui->cboMes, hoy().month());
+    ui->txtAnio->setText(QString::number(hoy().year()));
     seleccionar_item(ui->cboRectificativa, 0);
     try {
         llenar_combo(ui->cboRTN, leer_entradas(consulta_agentes(), "SRTN_TITULAR_NOMBRE", "SRTN_NRO"));
@@ -62,7 +63,6 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
                      QStringLiteral("Operación"), QStringLiteral("Observaciones"), QStringLiteral("Impuesto")},
                     {0, 800, 600, 600, 3400, 1500, 1100});
     preparar_grilla(ui->flxB, {QStringLiteral("Nro boleta"), QStringLiteral("Importe")}, {2500, 1200});
-    ui->tlbB->setEnabled(false);
     ui->dtpBOL_venc->setEnabled(false);
     ui->nroTotal_depositar->setValue(0);
     conectar();
@@ -74,6 +74,7 @@ void frmDJ_editar::conectar()
 {
     for (QLineEdit* texto : {ui->txtAnio, ui->txtRTN_nro})
         solo_digitos_en(texto);
+    conectarBoletas();
     connect(ui->tlbDJ, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbDJ_pulsada);
     connect(ui->tlbDetalle, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbDetalle_pulsada);
     connect(ui->flxOp, &Grilla::elegida, this, [this] { ui->tlbDetalle->pulsar(QStringLiteral("editar")); });
@@ -157,6 +158,7 @@ void frmDJ_editar::alActivar()
 {
     actualizar_totales();
     cargar_detalle();
+    cargar_boletas();
 }
 
 bool frmDJ_editar::componer_nro_dj()
@@ -175,12 +177,12 @@ void frmDJ_editar::calcular_vencimiento()
 {
     if (ui->chkCambiarFechaVenc->isChecked())
         return;
-    const QDate hoy = QDate::currentDate();
+    const QDate dia = hoy();
     const bool con_posicion = item_data(ui->cboMes) != 0 && !ui->txtAnio->text().isEmpty();
-    const QDate fecha = con_posicion ? vencimiento_dj(ui->txtAnio->text().toInt(), item_data(ui->cboMes)) : QDate(hoy.year(), hoy.month(), 15);
+    const QDate fecha = con_posicion ? vencimiento_dj(ui->txtAnio->text().toInt(), item_data(ui->cboMes)) : QDate(dia.year(), dia.month(), 15);
     ui->dtpBOL_venc->setMinimumDate(fecha);
     ui->dtpBOL_venc->setDate(fecha);
-    ui->dtpBOL_emision->setDate(hoy);
+    ui->dtpBOL_emision->setDate(dia);
 }
 
 void frmDJ_editar::salirDeAgente()
@@ -251,7 +253,7 @@ bool frmDJ_editar::cargar_cabecera(const QString& nro)
     ui->txtAdscripto1_cuit->setText(cuit_texto(dj->adscripto1Cuit));
     ui->txtAdscripto2_nombre->setText(dj->adscripto2);
     ui->txtAdscripto2_cuit->setText(cuit_texto(dj->adscripto2Cuit));
-    ui->dtpBOL_emision->setDate(QDate::currentDate());
+    ui->dtpBOL_emision->setDate(hoy());
     ui->dtpBOL_venc->clearMinimumDate();
     if (dj->vencimiento.isValid())
         ui->dtpBOL_venc->setDate(dj->vencimiento);

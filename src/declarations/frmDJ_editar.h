@@ -28,6 +28,11 @@ public:
     [[nodiscard]] QString agente() const;
     /// Shows the total of the DJ as the operation's screen has just stored it.
     void mostrarTotal(double total);
+    /// The toolbar of the slips, which the report window gives back when it closes.
+    void habilitarBoletas(bool si);
+
+protected:
+    void alDescargar() override;
 
 private:
     bool componer_nro_dj();
@@ -48,6 +53,13 @@ private:
     [[nodiscard]] struct CabeceraDJ leer_cabecera() const;
     void salirDeAgente();
     void conectar();
+    void conectarBoletas();
+    void cargar_boletas();
+    void habilitar_botones_boleta();
+    void generar_boleta();
+    void imprimir_boleta(const QString& nro);
+    void tlbB_pulsada(const QString& clave);
+    [[nodiscard]] struct ControlesBoleta leer_boleta_de_pantalla() const;
 
     std::unique_ptr<Ui::frmDJ_editar> ui;
     QString nroInicial_;

@@ -3,7 +3,9 @@
 #include "core/MDIPrincipal.h"
 #include "core/formulario.h"
 #include "core/modGlobales.h"
+#include "core/reloj.h"
 #include "manejo/manejo.h"
+#include "printing/frmReportes.h"
 #include "recorrido/guia.h"
 
 #include <QAction>
@@ -277,6 +279,7 @@ private:
             inmueble("12345", "2000000");
             operacion({"1", "COMPRAVENTA DE INMUEBLES", {{"PESOS", "1000000", nullptr}, {"DOLARES", "100.50", "1050"}},
                        {u("VENDEDOR"), u("COMPRADOR")}, nullptr, "20.000,00"});
+            recibo();
             salirDeEscritura();
         });
         g_.paso(u("Escritura 2: una hipoteca, con una parte exenta a medias"), [&] {
@@ -335,6 +338,49 @@ private:
         });
     }
 
+    // The report that stands open: its picture, its PDF, and away with Escape.
+    void reporte(const QString& titulo, const QString& nombre)
+    {
+        auto* r = qobject_cast<frmReportes*>(formulario("frmReportes"));
+        comprobar(u("título"), r->windowTitle(), titulo);
+        g_.foto(nombre);
+        if (!r->guardarPDF(g_.carpeta() + u'/' + nombre + u(".pdf")))
+            throw Inesperado(u("no se pudo guardar ") + nombre + u(".pdf"));
+        QTest::keyClick(r, Qt::Key_Escape);
+        QApplication::processEvents();
+    }
+
+    void recibo()
+    {
+        for (const char* nombre : {"recibo", "recibo-reemitido"}) {
+            pulsar(formulario("frmDJ_detalle"), u("tlbDetalle"), u("recibo"));
+            reporte(u("Comprobante de retención"), u(nombre));
+        }
+    }
+
+    void boletas()
+    {
+        g_.paso(u("Una boleta de depósito, con un cheque"), [&] {
+            auto* f = formulario("frmDJ_editar");
+            solapa(f, u("SSTab1"), 2);
+            comprobar(u("impuesto a depositar"), texto(f, u("nroImpuesto")), u("37.250,00"));
+            escribir(f, u("nroEfectivo"), u("7250"));
+            escribir(f, u("txtCheque1_nro"), u("12345678"));
+            escribir(f, u("txtCheque1_banco"), u("BANCO DEL SUR"));
+            escribir(f, u("nroCheque1_monto"), u("30000"));
+            comprobar(u("total de la boleta"), texto(f, u("nroTotalBoleta")), u("37.250,00"));
+            // On paper the slip of October is made in November, before it is due.
+            fijar_hoy(QDate(2026, 11, 12));
+            pulsar(f, u("tlbB"), u("generar"));
+            reporte(u("Boleta de depósito"), u("boleta"));
+            fijar_hoy({});
+            comprobar(u("boleta"), en_grilla(f, u("flxB"), 0, 0), u("2023071234567126100000"));
+            g_.foto(u("dj-boletas"));
+            pulsar(f, u("tlbB"), u("imprimir"));
+            reporte(u("Boleta de depósito"), u("boleta-otra-vez"));
+        });
+    }
+
     void lista()
     {
         g_.paso(u("La lista de escrituras y los totales"), [&] {
@@ -342,8 +388,9 @@ private:
             comprobar(u("escrituras"), QString::number(filas(f, u("flxOp"))), u("8"));
             comprobar(u("total retenido"), texto(f, u("nroTotalRetenido")), u("37.250,00"));
             g_.foto(u("dj-renglones"));
-            pulsar(f, u("tlbDJ"), u("salir"));
         });
+        boletas();
+        g_.paso(u("Cierra la DJ"), [&] { pulsar(formulario("frmDJ_editar"), u("tlbDJ"), u("salir")); });
     }
 
     void emitir(const QString& nro, const QString& nombre)
@@ -356,7 +403,7 @@ private:
             const QString archivo = carpeta_programa() + u("/data/") + nro + u("/SRTN") + nro + u(".txt");
             if (QFileInfo(archivo).size() == 0)
                 throw Inesperado(u("no está el archivo ") + archivo);
-            g_.foto(nombre);
+            reporte(u("Declaración Jurada"), nombre);
         });
     }
 

@@ -1,0 +1,128 @@
+#include "payment/boletas.h"
+
+#include "core/modComunes.h"
+#include "core/modGlobales.h"
+#include "core/modUtiles.h"
+#include "core/reloj.h"
+
+namespace {
+
+constexpr int TIPO_MENSUAL = 0;
+constexpr int LARGO_SIN_SECUENCIA = 20;
+
+// What the SQL accepts, whatever the separators of the user's locale; an empty field is 0.
+QString importe(const Numero& n)
+{
+    return n.vacio() ? QStringLiteral("0") : n.toSQL();
+}
+
+QString en_centavos(const Numero& n, int ancho)
+{
+    return formato_decimal(n.Value() * 100, 0).rightJustified(ancho, u'0');
+}
+
+}  // namespace
+
+std::optional<Falla> validar_boleta(ControlesBoleta& c)
+{
+    ChequeBoleta& uno = c.cheques[0];
+    ChequeBoleta& dos = c.cheques[1];
+    for (ChequeBoleta* cheque : {&uno, &dos}) {
+        cheque->nro = cheque->nro.trimmed();
+        cheque->banco = cheque->banco.trimmed();
+    }
+    const double m1 = uno.monto.Value();
+    const double m2 = dos.monto.Value();
+    auto falla = primera_falla({
+        {c.efectivo.Value() == 0 && m1 == 0 && m2 == 0, "Ingrese la forma de pago en la boleta de depósito.", "nroEfectivo"},
+        {!uno.nro.isEmpty() && m1 == 0, "Ingrese el monto del primer cheque", "txtCheque1_nro"},
+        {m1 > 0 && uno.nro.isEmpty(), "Ingrese el Nº del primer cheque", "txtCheque1_nro"},
+        {m1 > 0 && uno.banco.isEmpty(), "Ingrese el banco del primer cheque", "txtCheque1_banco"},
+        {!dos.nro.isEmpty() && m2 == 0, "Ingrese el monto del segundo cheque", "txtCheque2_nro"},
+        {m2 > 0 && dos.nro.isEmpty(), "Ingrese el Nº del segundo cheque", "txtCheque2_nro"},
+        {m2 > 0 && dos.banco.isEmpty(), "Ingrese el banco del segundo cheque", "txtCheque2_banco"},
+        // Only the dates count: whether interest was typed is not looked at.
+        {hoy() > c.vencimiento, "El periodo se encuentra vencido. Ingrese el interes", "nroInteres"},
+        {c.totalDepositar.Value() != c.totalBoleta.Value(), "El monto total de la boleta no coincide con el total retenido mas intereses",
+         "nroTotalBoleta"},
+    });
+    if (falla)
+        falla->titulo = QStringLiteral("Generar boleta de deposito");
+    return falla;
+}
+
+QString proximo_nro_boleta(const QString& dj)
+{
+    const Recordset rs(cnRtn, QStringLiteral("select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA ") + QStringLiteral(" from SEL_TB_RTN_BOLDEP ")
+                                  + QStringLiteral(" where SEDJ_NRO='") + dj + QStringLiteral("' and SBDI_TIPO_BOLETA=0"));
+    if (rs.eof() || rs.nulo(0))
+        return QStringLiteral("202") + dj + QStringLiteral("00");
+    // The places are those of a DJ of 17 characters; the number of a shorter one grows by them.
+    const QString maximo = rs.texto(0);
+    return maximo.left(LARGO_SIN_SECUENCIA) + con_ceros(maximo.mid(LARGO_SIN_SECUENCIA, 2).toInt() + 1, 2);
+}
+
+QString codigo_barras_boleta(const QString& nroBoleta, const ControlesBoleta& c)
+{
+    const QString sin_digito = con_ceros(BancoConvenio, 6) + QStringLiteral("020") + nroBoleta.leftJustified(30, u'0')
+        + c.vencimiento.toString(QStringLiteral("yyyyMMdd")) + en_centavos(c.impuesto, 12) + QString(10, u'0') + en_centavos(c.interes, 10);
+    return sin_digito + QString::number(digito_verificador(sin_digito));
+}
+
+QString insertar_boleta(const ControlesBoleta& c)
+{
+    const QString nro = proximo_nro_boleta(c.dj);
+    const QString posicion = c.anio + con_ceros(c.mes, 2) + con_ceros(c.secuencia, 2);
+    const std::pair<const char*, QString> columnas[] = {
+        {"SBDI_NROBOLETA", entre_comillas(nro)},
+        {"SBDI_FECHA_EMISION", fecha_sql(c.emision)},
+        {"SBDI_FECHA_VENC", fecha_sql(c.vencimiento)},
+        {"SBDI_RTN_NRO", c.agenteNro},
+        {"SBDI_RTN_NOMBRE", entre_comillas(toSQL(c.agenteNombre))},
+        {"SEDJ_NRO", entre_comillas(c.dj)},
+        {"SBDI_POSICION", entre_comillas(posicion)},
+        {"GBAN_ID", QString::number(BancoId)},
+        {"GBAN_DESCRIPCION", entre_comillas(BancoNombre)},
+        {"SBDI_CUENTA", entre_comillas(QString::number(BancoCuenta))},
+        {"SBDI_IMPORTE", importe(c.impuesto)},
+        {"SBDI_INTERES", importe(c.interes)},
+        {"SBDI_MULTA", QStringLiteral("0")},
+        {"SBDI_TOTAL", importe(c.totalDepositar)},
+        {"SBDI_ANULADA", QStringLiteral("null")},
+        {"SSUB_FILIAL_BANCO", texto_o_null(toSQL(c.filial.trimmed()))},
+        {"SBDI_FORMAS_PAGO", QStringLiteral("0")},
+        {"SBDI_EFECTIVO", importe(c.efectivo)},
+        {"SBDI_CHEQUE1_NRO", texto_o_null(toSQL(c.cheques[0].nro))},
+        {"SBDI_CHEQUE1_BANCO", texto_o_null(toSQL(c.cheques[0].banco))},
+        {"SBDI_CHEQUE1_MONTO", importe(c.cheques[0].monto)},
+        {"SBDI_CHEQUE2_NRO", texto_o_null(toSQL(c.cheques[1].nro))},
+        {"SBDI_CHEQUE2_BANCO", texto_o_null(toSQL(c.cheques[1].banco))},
+        {"SBDI_CHEQUE2_MONTO", importe(c.cheques[1].monto)},
+        {"SBDI_TIPO_BOLETA", QString::number(TIPO_MENSUAL)},
+    };
+    QStringList nombres;
+    QStringList valores;
+    for (const auto& [columna, valor] : columnas) {
+        nombres << QString::fromLatin1(columna);
+        valores << valor;
+    }
+    if (cnRtn.ejecutar(QStringLiteral("insert into SEL_TB_RTN_BOLDEP (") + nombres.join(QStringLiteral(", ")) + QStringLiteral(") values (")
+                       + valores.join(QStringLiteral(", ")) + QStringLiteral(")"))
+        != 1)
+        return {};
+    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='") + codigo_barras_boleta(nro, c) + QStringLiteral("'")
+                   + QStringLiteral(" where SBDI_NROBOLETA='") + nro + QStringLiteral("'"));
+    return nro;
+}
+
+int borrar_boleta(const QString& nro)
+{
+    return cnRtn.ejecutar(QStringLiteral("delete from  SEL_TB_RTN_BOLDEP where SBDI_NROBOLETA='") + nro + QStringLiteral("'"));
+}
+
+void leer_boletas(const QString& dj, const std::function<void(const QStringList&)>& fila)
+{
+    for (Recordset rs(cnRtn, QStringLiteral("select * from  SEL_TB_RTN_BOLDEP ") + QStringLiteral(" where SEDJ_NRO='") + dj + QStringLiteral("'"));
+         !rs.eof(); rs.siguiente())
+        fila({rs.texto("SBDI_NROBOLETA"), formato_importe(rs.real("SBDI_TOTAL"))});
+}

@@ -1,0 +1,23 @@
+// Withholding receipts: numbering and issue.
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+/// The deed that a receipt is issued for.
+struct DatosComprobante
+{
+    QString dj;
+    QString renglon;
+    QString montoSQL;       ///< the tax of the deed as it is shown, in SQL form
+    QDate fechaEscritura;
+    QString agente;
+};
+
+/// The next number over the whole store. A new year starts its sequence again with the prefix of
+/// this DJ; otherwise the prefix of the highest number stays, deliberately.
+[[nodiscard]] QString proximo_comprobante(const QString& dj);
+
+/// Annuls the earlier receipts of the deed and stores a new one under the number. Throws ErrorAlmacen:
+/// the agent's name goes as it stands, and an apostrophe in it breaks the statement.
+void emitir_comprobante(const QString& nro, const DatosComprobante& d);

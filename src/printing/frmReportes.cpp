@@ -1,0 +1,145 @@
+#include "printing/frmReportes.h"
+
+#include "core/ctlEspera.h"
+#include "declarations/frmDJ_editar.h"
+#include "printing/datos_impresos.h"
+#include "printing/rptRTN_boldep1.h"
+#include "printing/rptSalida.h"
+#include "printing/rpt_dj.h"
+#include "printing/rpt_recibo.h"
+#include "ui_frmReportes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace {
+
+constexpr int ZOOM_ANCHO = 0;
+constexpr int ZOOM_PAGINA = 1;
+
+}  // namespace
+
+frmReportes::frmReportes() : ui(std::make_unique<Ui::frmReportes>())
+{
+    ui->setupUi(this);
+    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        if (clave == u"imprimir")
+            imprimir();
+        else if (clave == u"pdf")
+            pedirPDF();
+        else
+            descargar();
+    });
+    ui->tlb->boton(QStringLiteral("imprimir"))->setShortcuts({ui->tlb->boton(QStringLiteral("imprimir"))->shortcut(), QKeySequence::Print});
+    connect(ui->cboZoom, &QComboBox::activated, this, &frmReportes::cambiarZoom);
+    connect(ui->spnPagina, &QSpinBox::editingFinished, this, [this] { ui->CRViewer91->irAPagina(ui->spnPagina->value() - 1); });
+    connect(ui->cmdAnterior, &QPushButton::clicked, this, [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() - 1); });
+    connect(ui->cmdSiguiente, &QPushButton::clicked, this, [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() + 1); });
+    connect(ui->CRViewer91, &ctlVistaPrevia::cambioPagina, this, [this](int actual, int conocidas, bool completas) {
+        ui->spnPagina->setMaximum(std::max(1, conocidas));
+        if (!ui->spnPagina->hasFocus())
+            ui->spnPagina->setValue(actual + 1);
+        ui->lblPaginas->setText(QStringLiteral("de ") + QString::number(conocidas) + (completas ? QString() : QStringLiteral("…")));
+    });
+}
+
+frmReportes::~frmReportes() = default;
+
+void frmReportes::alActivar()
+{
+    puntero_normal();
+}
+
+void frmReportes::alDescargar()
+{
+    if (auto* editor = cargada<frmDJ_editar>())
+        editor->habilitarBoletas(true);
+}
+
+void frmReportes::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Escape)
+        descargar();
+    else
+        Formulario::keyPressEvent(evento);
+}
+
+void frmReportes::poner(const QString& titulo, const QString& nombre, std::shared_ptr<Informe> informe)
+{
+    setWindowTitle(titulo);
+    nombre_ = nombre;
+    informe_ = std::move(informe);
+    ui->CRViewer91->mostrar(informe_);
+    puntero_normal();
+}
+
+bool frmReportes::BolDep(const QString& nro)
+{
+    puntero_de_espera();
+    const auto boleta = leer_boleta(nro);
+    if (!boleta)
+        return false;
+    poner(QStringLiteral("Boleta de depósito"), QStringLiteral("boleta-") + nro, std::make_shared<rptRTN_boldep1>(*boleta));
+    return true;
+}
+
+void frmReportes::DJ(const QString& nro, const QString& codigo)
+{
+    puntero_de_espera();
+    const DJImpresa dj = leer_dj_impresa(nro).value_or(DJImpresa());
+    const QString version = QStringLiteral("VEDRA RTN v.") + QCoreApplication::applicationVersion();
+    std::shared_ptr<Informe> informe;
+    if (dj.escrituras.isEmpty())
+        informe = std::make_shared<rpt_dj_sin_mov>(dj, codigo, version);
+    else
+        informe = std::make_shared<rpt_dj>(dj, codigo, version);
+    poner(QStringLiteral("Declaración Jurada"), QStringLiteral("dj-") + nro, informe);
+}
+
+void frmReportes::recibo(const QString& nro, const QString& dj)
+{
+    puntero_de_espera();
+    poner(QStringLiteral("Comprobante de retención"), QStringLiteral("comprobante-") + nro, std::make_shared<rpt_recibo>(leer_recibo(nro, dj)));
+}
+
+void frmReportes::cambiarZoom(int indice)
+{
+    if (indice == ZOOM_ANCHO)
+        ui->CRViewer91->ajustar(ctlVistaPrevia::Ajuste::ancho);
+    else if (indice == ZOOM_PAGINA)
+        ui->CRViewer91->ajustar(ctlVistaPrevia::Ajuste::pagina);
+    else
+        ui->CRViewer91->fijarZoom(ui->cboZoom->currentText().section(u' ', 0, 0).toDouble() / 100);
+}
+
+void frmReportes::imprimir()
+{
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setFullPage(true);
+    impresora.setDocName(nombre_);
+    impresora.setFromTo(1, informe_->paginas());
+    QPrintDialog dialogo(&impresora, this);
+    dialogo.setMinMax(1, informe_->paginas());
+    dialogo.setOption(QAbstractPrintDialog::PrintPageRange);
+    if (dialogo.exec() != QDialog::Accepted)
+        return;
+    const bool rango = impresora.printRange() == QPrinter::PageRange;
+    pintar_informe(*informe_, impresora, rango ? impresora.fromPage() - 1 : 0, rango ? impresora.toPage() : informe_->paginas());
+}
+
+bool frmReportes::guardarPDF(const QString& archivo)
+{
+    return guardar_pdf(*informe_, archivo, windowTitle());
+}
+
+void frmReportes::pedirPDF()
+{
+    const QString archivo = QFileDialog::getSaveFileName(this, QStringLiteral("Guardar como PDF"),
+                                                         QDir::home().filePath(nombre_ + QStringLiteral(".pdf")), QStringLiteral("Archivos PDF (*.pdf)"));
+    if (!archivo.isEmpty() && !guardarPDF(archivo))
+        avisar(QStringLiteral("No se pudo guardar ") + QDir::toNativeSeparators(archivo), windowTitle(), Icono::exclamacion);
+}

@@ -1,0 +1,203 @@
+#include "printing/rptPagina.h"
+
+#include <zint.h>
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QHash>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <memory>
+
+namespace {
+
+// Texts are laid out in hundredths of a millimetre, so that a font measures the same everywhere.
+constexpr double UNIDADES = 100;
+constexpr double MM_POR_PUNTO = 25.4 / 72;
+constexpr double INTERLINEA = 1.25;
+
+const QFont& fuente(double puntos, bool negrita)
+{
+    static QHash<int, QFont> fuentes;
+    const int clave = int(puntos * 100) * 2 + negrita;
+    auto it = fuentes.find(clave);
+    if (it == fuentes.end()) {
+        QFont f(QStringLiteral("DejaVu Sans"));
+        f.setStyleHint(QFont::SansSerif);
+        f.setPixelSize(int(puntos * MM_POR_PUNTO * UNIDADES + 0.5));
+        f.setBold(negrita);
+        f.setHintingPreference(QFont::PreferNoHinting);
+        f.setKerning(false);
+        it = fuentes.insert(clave, f);
+    }
+    return *it;
+}
+
+// The emblem drawn for this program: a shield with a ship under a sun.
+void pintar_emblema(QPainter& p, const QRectF& r)
+{
+    const auto punto = [&r](double x, double y) { return QPointF(r.left() + r.width() * x, r.top() + r.height() * y); };
+    QPainterPath escudo;
+    escudo.moveTo(punto(0.08, 0.05));
+    escudo.lineTo(punto(0.92, 0.05));
+    escudo.lineTo(punto(0.92, 0.55));
+    escudo.quadTo(punto(0.9, 0.82), punto(0.5, 0.97));
+    escudo.quadTo(punto(0.1, 0.82), punto(0.08, 0.55));
+    escudo.closeSubpath();
+    p.setPen(QPen(Qt::black, r.width() * 0.03));
+    p.setBrush(Qt::NoBrush);
+    p.drawPath(escudo);
+    p.drawEllipse(punto(0.5, 0.26), r.width() * 0.1, r.width() * 0.1);
+    for (int i = 0; i < 8; ++i) {
+        const double a = i * 3.14159265 / 4;
+        p.drawLine(punto(0.5, 0.26) + QPointF(std::cos(a), std::sin(a)) * r.width() * 0.13,
+                   punto(0.5, 0.26) + QPointF(std::cos(a), std::sin(a)) * r.width() * 0.18);
+    }
+    QPainterPath casco;
+    casco.moveTo(punto(0.25, 0.62));
+    casco.lineTo(punto(0.75, 0.62));
+    casco.lineTo(punto(0.65, 0.72));
+    casco.lineTo(punto(0.35, 0.72));
+    casco.closeSubpath();
+    p.fillPath(casco, Qt::black);
+    p.drawLine(punto(0.5, 0.62), punto(0.5, 0.44));
+    p.drawPolyline(QPolygonF{punto(0.52, 0.45), punto(0.66, 0.58), punto(0.52, 0.58)});
+    for (const double y : {0.78, 0.84}) {
+        QPainterPath ola;
+        ola.moveTo(punto(0.26, y));
+        for (int i = 0; i < 4; ++i)
+            ola.quadTo(punto(0.26 + 0.12 * i + 0.06, y + (i % 2 ? 0.03 : -0.03)), punto(0.26 + 0.12 * (i + 1), y));
+        p.drawPath(ola);
+    }
+}
+
+}  // namespace
+
+void Pagina::texto(QRectF lugar, const QString& t, double puntos, Alineacion alineacion, bool negrita)
+{
+    if (!t.isEmpty())
+        textos.push_back({lugar, t, puntos, negrita, alineacion});
+}
+
+void Pagina::linea(double x1, double y1, double x2, double y2, double grosor, bool cortada)
+{
+    lineas.push_back({QLineF(x1, y1, x2, y2), grosor, cortada});
+}
+
+void Pagina::agregar(const Pagina& otra, double abajo)
+{
+    for (TextoImpreso t : otra.textos) {
+        t.lugar.translate(0, abajo);
+        textos.push_back(std::move(t));
+    }
+    for (LineaImpresa l : otra.lineas) {
+        l.linea.translate(0, abajo);
+        lineas.push_back(l);
+    }
+    for (const QRectF& b : otra.barras)
+        barras.push_back(b.translated(0, abajo));
+    for (const QRectF& e : otra.emblemas)
+        emblemas.push_back(e.translated(0, abajo));
+}
+
+double alto_linea(double puntos)
+{
+    return puntos * MM_POR_PUNTO * INTERLINEA;
+}
+
+double ancho_texto(const QString& texto, double puntos, bool negrita)
+{
+    return QFontMetricsF(fuente(puntos, negrita)).horizontalAdvance(texto) / UNIDADES;
+}
+
+QStringList en_lineas(const QString& texto, double ancho, double puntos)
+{
+    const QFontMetricsF medidas(fuente(puntos, false));
+    QStringList lineas;
+    QString linea;
+    double usado = 0;
+    const double limite = ancho * UNIDADES;
+    const double blanco = medidas.horizontalAdvance(u' ');
+    const auto cerrar = [&] {
+        if (!linea.isEmpty())
+            lineas << linea;
+        linea.clear();
+        usado = 0;
+    };
+    const auto palabras = texto.split(u' ', Qt::SkipEmptyParts);
+    for (QString palabra : palabras) {
+        double largo = medidas.horizontalAdvance(palabra);
+        if (!linea.isEmpty() && usado + blanco + largo > limite)
+            cerrar();
+        while (largo > limite) {
+            qsizetype n = palabra.size() - 1;
+            while (n > 1 && medidas.horizontalAdvance(palabra.left(n)) > limite)
+                --n;
+            lineas << palabra.left(n);
+            palabra.remove(0, n);
+            largo = medidas.horizontalAdvance(palabra);
+        }
+        usado += (linea.isEmpty() ? 0 : blanco) + largo;
+        linea += (linea.isEmpty() ? QString() : QStringLiteral(" ")) + palabra;
+    }
+    cerrar();
+    return lineas;
+}
+
+void pintar_pagina(QPainter& p, const Pagina& pagina, double escala)
+{
+    p.save();
+    p.scale(escala / UNIDADES, escala / UNIDADES);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::TextAntialiasing);
+    p.setPen(Qt::black);
+    double puntos = -1;
+    bool negrita = false;
+    double subida = 0;
+    for (const TextoImpreso& t : pagina.textos) {
+        if (t.puntos != puntos || t.negrita != negrita) {
+            puntos = t.puntos;
+            negrita = t.negrita;
+            p.setFont(fuente(puntos, negrita));
+            subida = QFontMetricsF(fuente(puntos, negrita)).ascent();
+        }
+        double x = t.lugar.left() * UNIDADES;
+        if (t.alineacion != Alineacion::izquierda) {
+            const double sobra = t.lugar.width() * UNIDADES - QFontMetricsF(fuente(puntos, negrita)).horizontalAdvance(t.texto);
+            x += t.alineacion == Alineacion::derecha ? sobra : sobra / 2;
+        }
+        p.drawText(QPointF(x, t.lugar.top() * UNIDADES + subida), t.texto);
+    }
+    for (const LineaImpresa& l : pagina.lineas) {
+        p.setPen(QPen(Qt::black, l.grosor * UNIDADES, l.cortada ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap));
+        p.drawLine(QLineF(l.linea.p1() * UNIDADES, l.linea.p2() * UNIDADES));
+    }
+    for (const QRectF& b : pagina.barras)
+        p.fillRect(QRectF(b.topLeft() * UNIDADES, b.size() * UNIDADES), Qt::black);
+    for (const QRectF& e : pagina.emblemas)
+        pintar_emblema(p, QRectF(e.topLeft() * UNIDADES, e.size() * UNIDADES));
+    p.restore();
+}
+
+std::vector<QRectF> barras_de(const QString& texto, Simbologia s, double modulo, double alto, double& ancho)
+{
+    ancho = 0;
+    const std::unique_ptr<zint_symbol, void (*)(zint_symbol*)> simbolo(ZBarcode_Create(), ZBarcode_Delete);
+    simbolo->symbology = s == Simbologia::intercalado2de5 ? BARCODE_C25INTER : BARCODE_CODE128;
+    const QByteArray datos = texto.toLatin1();
+    if (datos.isEmpty() || ZBarcode_Encode(simbolo.get(), reinterpret_cast<const unsigned char*>(datos.constData()), int(datos.size())) >= ZINT_ERROR)
+        return {};
+    ancho = simbolo->width * modulo;
+    const auto negro = [&](int i) { return (simbolo->encoded_data[0][i / 8] >> (i % 8)) & 1; };
+    std::vector<QRectF> barras;
+    for (int i = 0; i < simbolo->width; ++i) {
+        if (!negro(i))
+            continue;
+        const int desde = i;
+        while (i + 1 < simbolo->width && negro(i + 1))
+            ++i;
+        barras.emplace_back(desde * modulo, 0, (i + 1 - desde) * modulo, alto);
+    }
+    return barras;
+}

@@ -1,0 +1,59 @@
+#include "printing/rpt_recibo.h"
+
+#include "core/modNroALetras.h"
+#include "printing/rptImportes.h"
+
+namespace {
+
+constexpr double PUNTOS = 9;
+constexpr double FILA = 5;
+
+}  // namespace
+
+Banda rpt_recibo::cabecera() const
+{
+    Banda b;
+    b.contenido.texto({MARGEN, 0, ANCHO_UTIL, 5}, QStringLiteral("PROVINCIA DE MARVEN - DIRECCIÓN GENERAL DE RENTAS"), 9, Alineacion::centro);
+    b.contenido.texto({MARGEN, 6, ANCHO_UTIL, 6}, QStringLiteral("COMPROBANTE DE RETENCIÓN"), 14, Alineacion::centro, true);
+    b.contenido.texto({MARGEN, 13, ANCHO_UTIL, 5}, QStringLiteral("Impuesto de Sellos - Escribanos"), 9, Alineacion::centro);
+    b.contenido.linea(MARGEN, 19, MARGEN + ANCHO_UTIL, 19, 0.4);
+    b.alto = 22;
+    return b;
+}
+
+bool rpt_recibo::siguientes(std::vector<Banda>& bandas)
+{
+    const ReciboImpreso r = r_.value_or(ReciboImpreso());
+    const auto dato = [&](const char* titulo, const QString& valor, bool negrita = false) {
+        const QString t = QString::fromUtf8(titulo);
+        bool primera = true;
+        const auto lineas = en_lineas(valor, ANCHO_UTIL - 46, PUNTOS);
+        for (const QString& linea : lineas.isEmpty() ? QStringList(QString()) : lineas) {
+            Banda b;
+            b.alto = primera && lineas.size() < 2 ? FILA + 1 : FILA;
+            if (primera)
+                b.contenido.texto({MARGEN, 0, 44, FILA}, t, PUNTOS);
+            b.contenido.texto({MARGEN + 46, 0, ANCHO_UTIL - 46, FILA}, linea, PUNTOS, Alineacion::izquierda, negrita);
+            bandas.push_back(b);
+            primera = false;
+        }
+    };
+    dato("Comprobante Nº", r.nro, true);
+    dato("Fecha de retención", r.fechaRetencion);
+    dato("DJ Nº", r.dj);
+    dato("Escritura Nº", r.escritura);
+    dato("Folio", r.folio);
+    dato("Fecha de la escritura", r.fechaEscritura);
+    dato("Partes", r.partes);
+    dato("Inmuebles", r.inmuebles);
+    dato("Escribano titular", r.titular);
+    dato("Adscriptos", r.adscripto1 + (r.adscripto2.isEmpty() ? QString() : QStringLiteral("; ") + r.adscripto2));
+    dato("Importe retenido $", r_ ? importe_impreso(r.monto) : QString(), true);
+    dato("", r_ ? QStringLiteral("SON PESOS: ") + nro_a_letras(r.monto, 2, false) : QString());
+    Banda firma;
+    firma.alto = 34;
+    firma.contenido.linea(MARGEN + 110, 26, MARGEN + ANCHO_UTIL, 26);
+    firma.contenido.texto({MARGEN + 110, 27, ANCHO_UTIL - 110, FILA}, QStringLiteral("Firma y sello del escribano"), 8, Alineacion::centro);
+    bandas.push_back(firma);
+    return false;
+}
