@@ -3,6 +3,7 @@
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/numero.h"
+#include "printing/importes.h"
 
 #include <map>
 
@@ -120,7 +121,7 @@ void cargar_tmp_dj_oper(const QString& nro)
         + QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("'") + QStringLiteral(" order by SEDJ_NRO, SEDD_ID");
     guardar_textos("INMUEBLES", nro, textos_por_escritura(inmuebles, [](const Recordset& rs) {
         return QStringLiteral("Partida: ") + rs.texto("SEII_PARTIDA") + QStringLiteral(" - ") + rs.texto("GTUB_DESCRIPCION")
-            + QStringLiteral(" - Val.Fiscal: $") + formato_importe(rs.real("SEII_VAL_FISCAL")) + QStringLiteral("; ");
+            + QStringLiteral(" - Val.Fiscal: $") + importe_impreso(rs.real("SEII_VAL_FISCAL")) + QStringLiteral("; ");
     }));
     const QString partes = QStringLiteral("select P.*, T.GTDC_DESCRIPCION from SEL_TB_RTN_INS_PARTES P left join GLB_TB_AFIP_TIPOS_DOC T on T.GTDC_ID=P.GTDC_ID "
                                           "left join GLB_TB_AFIP_CODIGOS_PAIS C on C.CPAI_CODIGO=P.CPAI_CODIGO")

@@ -21,7 +21,7 @@ bool Informe::disponer()
         return false;
     }
     Pagina pagina;
-    const Banda arriba = cabecera();
+    const Banda arriba = cabecera(int(hechas_.size()));
     pagina.agregar(arriba.contenido, MARGEN);
     double y = MARGEN + arriba.alto;
     const double comienzo = y;

@@ -30,7 +30,8 @@ public:
     bool adelantar(int cuantas);
 
 protected:
-    virtual Banda cabecera() const = 0;
+    /// What stands above the bands of a page, from 0.
+    virtual Banda cabecera(int pagina) const = 0;
     virtual double altoPie() const { return 8; }
     /// The next bands of the report; false at its end.
     virtual bool siguientes(std::vector<Banda>& bandas) = 0;

@@ -1,7 +1,7 @@
 #include "printing/rptRTN_boldep1.h"
 
 #include "core/modNroALetras.h"
-#include "printing/rptImportes.h"
+#include "printing/importes.h"
 
 namespace {
 

@@ -10,7 +10,7 @@ public:
     explicit rptRTN_boldep1(const BoletaImpresa& boleta) : b_(boleta) {}
 
 protected:
-    Banda cabecera() const override { return {}; }
+    Banda cabecera(int) const override { return {}; }
     bool siguientes(std::vector<Banda>& bandas) override;
 
 private:

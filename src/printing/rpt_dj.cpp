@@ -1,6 +1,6 @@
 #include "printing/rpt_dj.h"
 
-#include "printing/rptImportes.h"
+#include "printing/importes.h"
 
 namespace {
 
@@ -42,7 +42,8 @@ void renglones(std::vector<Banda>& bandas, double x, double ancho, const QString
 
 }  // namespace
 
-Banda rpt_dj_sin_mov::cabecera() const
+// The agent stands on the first page only.
+Banda rpt_dj_sin_mov::cabecera(int pagina) const
 {
     Banda b;
     Pagina& p = b.contenido;
@@ -56,6 +57,11 @@ Banda rpt_dj_sin_mov::cabecera() const
     p.texto({x + 120, 10, 66, 5}, dj_.cabecera.rectificativa, 9, Alineacion::derecha);
     p.linea(x, 18.5, x + ANCHO_UTIL, 18.5, 0.4);
     b.alto = 20.5;
+    if (pagina == 0) {
+        const Banda datos = agente();
+        p.agregar(datos.contenido, b.alto);
+        b.alto += datos.alto;
+    }
     return b;
 }
 
@@ -146,7 +152,6 @@ void rpt_dj_sin_mov::cierre(std::vector<Banda>& bandas) const
 
 bool rpt_dj_sin_mov::siguientes(std::vector<Banda>& bandas)
 {
-    bandas.push_back(agente());
     Banda aviso;
     aviso.alto = 16;
     aviso.contenido.texto({MARGEN, 5, ANCHO_UTIL, 6}, QStringLiteral("SIN MOVIMIENTOS"), 13, Alineacion::centro, true);
@@ -155,9 +160,9 @@ bool rpt_dj_sin_mov::siguientes(std::vector<Banda>& bandas)
     return false;
 }
 
-Banda rpt_dj::cabecera() const
+Banda rpt_dj::cabecera(int pagina) const
 {
-    Banda b = rpt_dj_sin_mov::cabecera();
+    Banda b = rpt_dj_sin_mov::cabecera(pagina);
     for (const ColumnaDJ& c : COLUMNAS)
         b.contenido.texto({MARGEN + c.x, b.alto, c.ancho, FILA}, QString::fromUtf8(c.titulo), PUNTOS, c.lado, true);
     b.contenido.linea(MARGEN, b.alto + FILA + 0.6, MARGEN + ANCHO_UTIL, b.alto + FILA + 0.6);
@@ -167,9 +172,7 @@ Banda rpt_dj::cabecera() const
 
 bool rpt_dj::siguientes(std::vector<Banda>& bandas)
 {
-    if (siguiente_ < 0)
-        bandas.push_back(agente());
-    else if (siguiente_ < dj_.escrituras.size())
+    if (siguiente_ < dj_.escrituras.size())
         escritura(dj_.escrituras[siguiente_], bandas);
     else
         cierre(bandas);
@@ -225,6 +228,6 @@ void rpt_dj::operacion(const OperacionImpresa& o, std::vector<Banda>& bandas) co
     dato("Adicionales $", o.adicionales);
     if (o.final)
         datos << QStringLiteral("Impuesto") + QChar(0xa0) + u'$' + QChar(0xa0) + importe_impreso(*o.final);
-    renglones(bandas, x, ancho, {}, datos.join(QStringLiteral("  ")));
+    renglones(bandas, x, ancho, {}, datos.join(QStringLiteral("; ")));
     renglones(bandas, x, ancho, {}, o.observaciones);
 }

@@ -11,7 +11,7 @@ public:
     rpt_dj_sin_mov(const DJImpresa& dj, const QString& codigo, const QString& version) : dj_(dj), codigo_(codigo), version_(version) {}
 
 protected:
-    Banda cabecera() const override;
+    Banda cabecera(int pagina) const override;
     bool siguientes(std::vector<Banda>& bandas) override;
 
     [[nodiscard]] Banda agente() const;
@@ -31,12 +31,12 @@ public:
     using rpt_dj_sin_mov::rpt_dj_sin_mov;
 
 protected:
-    Banda cabecera() const override;
+    Banda cabecera(int pagina) const override;
     bool siguientes(std::vector<Banda>& bandas) override;
 
 private:
     void escritura(const EscrituraImpresa& e, std::vector<Banda>& bandas) const;
     void operacion(const OperacionImpresa& o, std::vector<Banda>& bandas) const;
 
-    qsizetype siguiente_ = -1;
+    qsizetype siguiente_ = 0;
 };

@@ -1,7 +1,7 @@
 #include "printing/rpt_recibo.h"
 
 #include "core/modNroALetras.h"
-#include "printing/rptImportes.h"
+#include "printing/importes.h"
 
 namespace {
 
@@ -10,7 +10,7 @@ constexpr double FILA = 5;
 
 }  // namespace
 
-Banda rpt_recibo::cabecera() const
+Banda rpt_recibo::cabecera(int) const
 {
     Banda b;
     b.contenido.texto({MARGEN, 0, ANCHO_UTIL, 5}, QStringLiteral("PROVINCIA DE MARVEN - DIRECCIÓN GENERAL DE RENTAS"), 9, Alineacion::centro);

@@ -11,7 +11,7 @@ public:
     explicit rpt_recibo(const std::optional<ReciboImpreso>& recibo) : r_(recibo) {}
 
 protected:
-    Banda cabecera() const override;
+    Banda cabecera(int pagina) const override;
     bool siguientes(std::vector<Banda>& bandas) override;
 
 private:

@@ -1,0 +1,224 @@
+// The printed forms, read back from their PDFs by independent programs: pdftotext, pdftoppm, zbarimg.
+
+#include "apoyo/apoyo.h"
+#include "core/reloj.h"
+#include "payment/boletas.h"
+#include "payment/comprobantes.h"
+#include "printing/datos_impresos.h"
+#include "printing/rptRTN_boldep1.h"
+#include "printing/rptSalida.h"
+#include "printing/rpt_dj.h"
+#include "printing/rpt_recibo.h"
+
+#include <QImage>
+#include <QProcess>
+#include <QRandomGenerator>
+
+namespace {
+
+class Impresos : public ConAlmacen
+{
+protected:
+    QString correr(const QString& programa, const QStringList& argumentos)
+    {
+        QProcess p;
+        p.start(programa, argumentos);
+        EXPECT_TRUE(p.waitForFinished(60000)) << programa.toStdString();
+        return QString::fromUtf8(p.readAllStandardOutput());
+    }
+    QString pdf(Informe& informe)
+    {
+        const QString archivo = carpeta.path() + "/informe.pdf"_u;
+        EXPECT_TRUE(guardar_pdf(informe, archivo, "T"_u));
+        return archivo;
+    }
+    /// The text of each page.
+    QStringList textos(Informe& informe)
+    {
+        QStringList paginas = correr("pdftotext"_u, {"-layout"_u, pdf(informe), "-"_u}).split(u'\f');
+        paginas.removeLast();
+        return paginas;
+    }
+    /// The bars of a page, strip by strip.
+    QStringList barras(Informe& informe, int tiras)
+    {
+        const QString base = carpeta.path() + "/pagina"_u;
+        correr("pdftoppm"_u, {"-r"_u, "200"_u, "-gray"_u, "-singlefile"_u, pdf(informe), base});
+        const QImage pagina(base + ".pgm"_u);
+        QStringList orden{"-q"_u, "--raw"_u, "-Sdisable"_u, "-Si25.enable"_u, "-Scode128.enable"_u};
+        for (int i = 0; i < tiras; ++i) {
+            const int alto = pagina.height() / tiras;
+            const QString tira = base + QString::number(i) + ".pgm"_u;
+            EXPECT_TRUE(pagina.copy(0, i * alto, pagina.width(), alto).save(tira));
+            orden << tira;
+        }
+        return correr("zbarimg"_u, orden).split(u'\n', Qt::SkipEmptyParts);
+    }
+    static EscrituraImpresa escritura(int n)
+    {
+        EscrituraImpresa e;
+        e.nro = "E%1#"_u.arg(n);
+        e.folio = QString::number(n);
+        e.dia = "1"_u;
+        e.estado = "PASO"_u;
+        e.alcanzada = true;
+        e.impuesto = n;
+        e.partes = "GÓMEZ PEÑALOZA JUAN CUIT 20123456786; "_u.repeated(1 + n % 5);
+        e.operaciones << OperacionImpresa{"COMPRAVENTA"_u, "LEY 1"_u, {}, 1000.5, {}, 0.01, {}, {}, {}, {}, 10.0, {}, {}, 10.0};
+        return e;
+    }
+    static DJImpresa dj_de(int escrituras)
+    {
+        DJImpresa dj;
+        dj.cabecera.nro = "20123456786261000"_u;
+        dj.cabecera.titular = "PÉREZ"_u;
+        dj.cabecera.totalRetenido = 1234567.89;
+        for (int i = 1; i <= escrituras; ++i)
+            dj.escrituras << escritura(i);
+        return dj;
+    }
+    static constexpr const char* CODIGO = "9DCABBEC95C60F7B69846C4A8513C009";
+};
+
+TEST_F(Impresos, LasCuatroBarrasDeCienBoletasSeLeen)
+{
+    QRandomGenerator azar(5707);
+    for (int i = 0; i < 100; ++i) {
+        ControlesBoleta c;
+        c.vencimiento = QDate(2026, 1, 1).addDays(azar.bounded(700));
+        c.impuesto.setValue(azar.bounded(1000000000) / 100.0);
+        c.interes.setValue(azar.bounded(1000000) / 100.0);
+        BoletaImpresa b;
+        b.nro = "202%1%2"_u.arg(20000000000LL + azar.bounded(1000000000)).arg(azar.bounded(100000000), 8, 10, QLatin1Char('0'));
+        b.codigo = codigo_barras_boleta(b.nro, c);
+        rptRTN_boldep1 informe(b);
+        EXPECT_EQ(barras(informe, 4), QStringList(4, b.codigo)) << i;
+    }
+}
+
+TEST_F(Impresos, BoletaConEfectivoYDosCheques)
+{
+    const QString dj = nueva_dj();
+    ControlesBoleta c;
+    c.dj = dj;
+    c.agenteNro = "101"_u;
+    c.anio = "2026"_u;
+    c.mes = 10;
+    c.emision = QDate(2026, 11, 2);
+    c.vencimiento = QDate(2026, 11, 16);
+    c.impuesto.setValue(1234567890.55);
+    c.interes.setValue(10);
+    c.totalDepositar.setValue(1234567900.55);
+    c.efectivo.setValue(900.55);
+    c.cheques[0] = {"11112222"_u, "BANCO UNO"_u, c.impuesto};
+    c.cheques[1] = {"33334444"_u, "BANCO DOS"_u, c.interes};
+    c.filial = "CENTRO"_u;
+    const QString nro = insertar_boleta(c);
+    cnRtn.ejecutar("update SEL_TB_RTN_BOLDEP set SBDI_ANULADA=1"_u);
+    rptRTN_boldep1 informe(*leer_boleta(nro));
+    const QStringList paginas = textos(informe);
+    ASSERT_EQ(paginas.size(), 1);
+    for (const char* dice : {"PÉREZ", "20123456786", "10/2026 (Original)", "DEL MARVEN S.A.", "90000440", "CENTRO", "16/11/2026", "02/11/2026", "1.234.567.890,55", "10,00",
+                             "1.234.567.900,55", "900,55", "11112222 BANCO UNO", "33334444 BANCO DOS", "ANULADA",
+                             "SON PESOS: un mil doscientos treinta y cuatro millones quinientos sesenta y siete mil novecientos con 55/100"})
+        EXPECT_GE(paginas[0].count(QString::fromUtf8(dice)), 4) << dice;
+    EXPECT_EQ(paginas[0].count("ANULADA"_u), 4);
+    for (const char* para : {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención", "Para la Casa Central del Banco"})
+        EXPECT_EQ(paginas[0].count(QString::fromUtf8(para)), 1) << para;
+    EXPECT_FALSE(leer_boleta("nada"_u));
+}
+
+class ImpresosSaltos : public Impresos, public testing::WithParamInterface<int>
+{
+};
+TEST_P(ImpresosSaltos, CadaEscrituraUnaVezYLosTotalesAlFinal)
+{
+    const int n = GetParam();
+    rpt_dj informe(dj_de(n), QLatin1StringView(CODIGO), "VEDRA RTN v.1.0.0"_u);
+    const QStringList paginas = textos(informe);
+    EXPECT_EQ(paginas.size(), informe.paginas());
+    const QString todo = paginas.join(QString());
+    for (int i = 1; i <= n; ++i)
+        EXPECT_EQ(todo.count(" E%1# "_u.arg(i)), 1) << i;
+    for (int i = 0; i < paginas.size(); ++i) {
+        EXPECT_EQ(paginas[i].count("DECLARACIÓN JURADA"_u), 1);
+        EXPECT_TRUE(paginas[i].contains("Escritura"_u) && paginas[i].contains("Impuesto $"_u));
+        EXPECT_TRUE(paginas[i].contains("Hoja %1 de %2"_u.arg(i + 1).arg(paginas.size()))) << i;
+        // The line of a deed is not parted from what comes next: no page ends on one.
+        const QStringList lineas = paginas[i].split(u'\n', Qt::SkipEmptyParts);
+        EXPECT_FALSE(lineas.size() > 2 && lineas[lineas.size() - 2].contains(u'#')) << i;
+    }
+    EXPECT_EQ(todo.count("Importe total retenido $"_u), 1);
+    EXPECT_TRUE(paginas.last().contains("1.234.567,89"_u));
+    EXPECT_TRUE(paginas.last().contains("9DCA BBEC 95C6 0F7B 6984 6C4A 8513 C009"_u));
+    EXPECT_EQ(todo.count("PÉREZ"_u), 1);
+}
+INSTANTIATE_TEST_SUITE_P(Casos, ImpresosSaltos, testing::Values(1, 30, 31, 500));
+
+TEST_F(Impresos, CodigoDeLaDJEnBarras)
+{
+    rpt_dj_sin_mov informe(dj_de(0), QLatin1StringView(CODIGO), "VEDRA RTN v.1.0.0"_u);
+    EXPECT_EQ(barras(informe, 1), QStringList(QLatin1StringView(CODIGO)));
+    const QStringList paginas = textos(informe);
+    ASSERT_EQ(paginas.size(), 1);
+    for (const char* dice : {"SIN MOVIMIENTOS", "PÉREZ", "DJ Nº 20123456786261000", "VEDRA RTN v.1.0.0"})
+        EXPECT_TRUE(paginas[0].contains(QString::fromUtf8(dice))) << dice;
+}
+
+TEST_F(Impresos, DJDeSesentaEscriturasDelAlmacen)
+{
+    const QString dj = nueva_dj();
+    for (int i = 1; i <= 60; ++i)
+        nueva_escritura(dj, i, 100 + i, 200 + i, 1 + i / 3, i % 10 == 7 ? "N" : i % 10 == 8 ? "E" : "P", i % 10 == 9 ? "N" : "S");
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SNAD_ID=9, SNAD_DESC_OTRO='UN MOTIVO PROPIO' where SEDD_ID=9"_u);
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SNAD_ID=1 where SEDD_ID=19"_u);
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_BASEIMPONIBLE, SINS_MONTO_FINAL) values "
+                   "('%1', 1, 1, 5707001, 1000, 10), ('%1', 1, 2, 5707029, null, 3000)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD, CPAI_CODIGO, SPIN_CUIT_EN_TRAMITE) values "
+                   "(1, '%1', 1, '96', '22333444', 'O''HIGGINS', 'A', null, 0), (2, '%1', 1, '94', 'AB1', 'SILVA', 'E', '50000000316', 0), (3, '%1', 1, '80', null, 'NUEVA S.A.', 'A', null, 1)"_u.arg(dj));
+    QString inmuebles;
+    for (int i = 1; i <= 80; ++i)
+        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL, GTUB_ID) values ('%1', 2, %2, 'P%2x', 1234567.5, 1)"_u.arg(dj).arg(i));
+    const auto impresa = leer_dj_impresa(dj);
+    ASSERT_TRUE(impresa);
+    ASSERT_EQ(impresa->escrituras.size(), 60);
+    EXPECT_EQ(impresa->escrituras[0].operaciones.size(), 2);
+    EXPECT_EQ(impresa->escrituras[0].partes, "O'HIGGINS DNI 22333444; SILVA 50000000316 AB1; NUEVA S.A. CUIT (CUIT en trámite); "_u);
+    rpt_dj informe(*impresa, QLatin1StringView(CODIGO), "v"_u);
+    const QString todo = textos(informe).join(QString()).simplified();
+    for (const char* dice : {"UN MOTIVO PROPIO", "Testamento", "ANULADA/ERROSE", "ANULADA/NO PASO", "No alcanzada", "COMPRAVENTA DE INMUEBLES", "PODER GENERAL", "Base imponible $ 1.000,00", "O'HIGGINS"})
+        EXPECT_TRUE(todo.contains(QString::fromUtf8(dice))) << dice;
+    for (int i = 1; i <= 80; ++i)  // a long list is wrapped, never cut
+        EXPECT_EQ(todo.count("P%1x"_u.arg(i)), 1) << i;
+    qsizetype lugar = 0;
+    for (int i = 1; i <= 60; ++i) {
+        lugar = todo.indexOf(" %1 %2 "_u.arg(100 + i).arg(200 + i), lugar);
+        EXPECT_GE(lugar, 0) << i;
+    }
+    cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set GLOC_ID=null"_u);
+    EXPECT_FALSE(leer_dj_impresa(dj));  // without its locality a header drops out
+}
+
+TEST_F(Impresos, ReciboYReciboAnulado)
+{
+    fijar_hoy(QDate(2026, 5, 4));
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 77, 88, 3);
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD) values (1, '%1', 1, '96', '22333444', 'RÍOS', 'A')"_u.arg(dj));
+    for (int i = 0; i < 2; ++i)
+        emitir_comprobante(proximo_comprobante(dj), {dj, "1"_u, "1234.5"_u, QDate(2026, 10, 3), "PÉREZ"_u});
+    fijar_hoy({});
+    rpt_recibo vigente(leer_recibo("02-20123-2026-00002"_u, dj));
+    const QString texto = textos(vigente).join(QString());
+    for (const char* dice : {"02-20123-2026-00002", "04/05/2026", "03/10/2026", "77", "88", "RÍOS DNI 22333444", "PÉREZ", "1.234,50",
+                             "SON PESOS: un mil doscientos treinta y cuatro con 50/100"})
+        EXPECT_TRUE(texto.contains(QString::fromUtf8(dice))) << dice;
+    rpt_recibo anulado(leer_recibo("02-20123-2026-00001"_u, dj));
+    const QString vacio = textos(anulado).join(QString());
+    EXPECT_TRUE(vacio.contains("COMPROBANTE DE RETENCIÓN"_u));
+    EXPECT_FALSE(vacio.contains("RÍOS"_u) || vacio.contains("SON PESOS"_u));
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_ESTADO='N'"_u);
+    EXPECT_FALSE(leer_recibo("02-20123-2026-00002"_u, dj));
+}
+
+}  // namespace
