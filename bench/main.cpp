@@ -49,6 +49,7 @@ int main(int argc, char** argv)
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     registrar_logica();
     registrar_pantallas();
+    registrar_impresion();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

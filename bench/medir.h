@@ -12,3 +12,4 @@ void medir(benchmark::State& estado, double pedido, const std::function<void()>&
 
 void registrar_logica();
 void registrar_pantallas();
+void registrar_impresion();

@@ -17,19 +17,43 @@ constexpr double UNIDADES = 100;
 constexpr double MM_POR_PUNTO = 25.4 / 72;
 constexpr double INTERLINEA = 1.25;
 
-const QFont& fuente(double puntos, bool negrita)
+// A font with the widths of the letters that were measured: without kerning a text is as wide as
+// its letters, and adding them up is far cheaper than shaping the text.
+struct Letra
 {
-    static QHash<int, QFont> fuentes;
+    QFont fuente;
+    double subida = 0;
+    QHash<char16_t, double> anchos;
+
+    double ancho(QChar c)
+    {
+        auto it = anchos.find(c.unicode());
+        if (it == anchos.end())
+            it = anchos.insert(c.unicode(), QFontMetricsF(fuente).horizontalAdvance(c));
+        return *it;
+    }
+    double ancho(QStringView texto)
+    {
+        double suma = 0;
+        for (const QChar c : texto)
+            suma += ancho(c);
+        return suma;
+    }
+};
+
+Letra& letra(double puntos, bool negrita)
+{
+    static QHash<int, Letra> letras;
     const int clave = int(puntos * 100) * 2 + negrita;
-    auto it = fuentes.find(clave);
-    if (it == fuentes.end()) {
+    auto it = letras.find(clave);
+    if (it == letras.end()) {
         QFont f(QStringLiteral("DejaVu Sans"));
         f.setStyleHint(QFont::SansSerif);
         f.setPixelSize(int(puntos * MM_POR_PUNTO * UNIDADES + 0.5));
         f.setBold(negrita);
         f.setHintingPreference(QFont::PreferNoHinting);
         f.setKerning(false);
-        it = fuentes.insert(clave, f);
+        it = letras.insert(clave, {f, QFontMetricsF(f).ascent(), {}});
     }
     return *it;
 }
@@ -108,17 +132,17 @@ double alto_linea(double puntos)
 
 double ancho_texto(const QString& texto, double puntos, bool negrita)
 {
-    return QFontMetricsF(fuente(puntos, negrita)).horizontalAdvance(texto) / UNIDADES;
+    return letra(puntos, negrita).ancho(texto) / UNIDADES;
 }
 
 QStringList en_lineas(const QString& texto, double ancho, double puntos)
 {
-    const QFontMetricsF medidas(fuente(puntos, false));
+    Letra& medidas = letra(puntos, false);
     QStringList lineas;
     QString linea;
     double usado = 0;
     const double limite = ancho * UNIDADES;
-    const double blanco = medidas.horizontalAdvance(u' ');
+    const double blanco = medidas.ancho(QChar(u' '));
     const auto cerrar = [&] {
         if (!linea.isEmpty())
             lineas << linea;
@@ -127,16 +151,16 @@ QStringList en_lineas(const QString& texto, double ancho, double puntos)
     };
     const auto palabras = texto.split(u' ', Qt::SkipEmptyParts);
     for (QString palabra : palabras) {
-        double largo = medidas.horizontalAdvance(palabra);
+        double largo = medidas.ancho(palabra);
         if (!linea.isEmpty() && usado + blanco + largo > limite)
             cerrar();
         while (largo > limite) {
             qsizetype n = palabra.size() - 1;
-            while (n > 1 && medidas.horizontalAdvance(palabra.left(n)) > limite)
+            while (n > 1 && medidas.ancho(QStringView(palabra).left(n)) > limite)
                 --n;
             lineas << palabra.left(n);
             palabra.remove(0, n);
-            largo = medidas.horizontalAdvance(palabra);
+            largo = medidas.ancho(palabra);
         }
         usado += (linea.isEmpty() ? 0 : blanco) + largo;
         linea += (linea.isEmpty() ? QString() : QStringLiteral(" ")) + palabra;
@@ -154,20 +178,20 @@ void pintar_pagina(QPainter& p, const Pagina& pagina, double escala)
     p.setPen(Qt::black);
     double puntos = -1;
     bool negrita = false;
-    double subida = 0;
+    Letra* actual = nullptr;
     for (const TextoImpreso& t : pagina.textos) {
         if (t.puntos != puntos || t.negrita != negrita) {
             puntos = t.puntos;
             negrita = t.negrita;
-            p.setFont(fuente(puntos, negrita));
-            subida = QFontMetricsF(fuente(puntos, negrita)).ascent();
+            actual = &letra(puntos, negrita);
+            p.setFont(actual->fuente);
         }
         double x = t.lugar.left() * UNIDADES;
         if (t.alineacion != Alineacion::izquierda) {
-            const double sobra = t.lugar.width() * UNIDADES - QFontMetricsF(fuente(puntos, negrita)).horizontalAdvance(t.texto);
+            const double sobra = t.lugar.width() * UNIDADES - actual->ancho(t.texto);
             x += t.alineacion == Alineacion::derecha ? sobra : sobra / 2;
         }
-        p.drawText(QPointF(x, t.lugar.top() * UNIDADES + subida), t.texto);
+        p.drawText(QPointF(x, t.lugar.top() * UNIDADES + actual->subida), t.texto);
     }
     for (const LineaImpresa& l : pagina.lineas) {
         p.setPen(QPen(Qt::black, l.grosor * UNIDADES, l.cortada ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap));

@@ -4,11 +4,14 @@
 #include "computation/frmDJ_detalle_op.h"
 #include "core/MDIPrincipal.h"
 #include "core/formulario.h"
+#include "core/reloj.h"
 #include "declarations/frmDJ_buscar.h"
 #include "declarations/frmDJ_detalle.h"
 #include "declarations/frmDJ_editar.h"
 #include "declarations/frmRTN_buscar.h"
 #include "manejo/manejo.h"
+#include "printing/ctlVistaPrevia.h"
+#include "printing/frmReportes.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -370,6 +373,88 @@ TEST_F(Pantallas, OperacionDePuntaAPunta)
     EXPECT_EQ(texto(f, "txtObs"_u), "it's"_u);
     solapa(f, "SSTab1"_u, 1);
     EXPECT_EQ(texto(f, "nroMoA"_u), "0,5000"_u);
+}
+
+TEST_F(Pantallas, BoletaRechazadaYEmitida)
+{
+    const QString dj = nueva_dj();
+    cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=1500.5, SEDJ_ACRED_MONTO=500"_u);
+    fijar_hoy(QDate(2026, 11, 16));
+    auto* lista = cargar<frmDJ_buscar>();
+    lista->mostrar();
+    pulsar(lista, "tlbDJ"_u, "modificar"_u);
+    auto* f = formulario("frmDJ_editar");
+    solapa(f, "SSTab1"_u, 2);
+    EXPECT_EQ(texto(f, "nroImpuesto"_u), "1.000,50"_u);
+    EXPECT_EQ(botones(f, "tlbB", "generar borrar imprimir"), "100"_u);
+    // A refused check leaves the toolbar disabled and the pointer an hourglass.
+    Cajas::durante({{"Ingrese la forma de pago en la boleta de depósito."_u, "Generar boleta de deposito"_u, true, QMessageBox::Information, true}},
+                   [&] { pulsar(f, "tlbB"_u, "generar"_u); });
+    EXPECT_FALSE(control(f, "tlbB"_u)->isEnabled());
+    EXPECT_TRUE(QApplication::overrideCursor());
+    EXPECT_EQ(f->focusWidget(), control(f, "nroEfectivo"_u)->focusProxy());
+    pulsar(f, "tlbDJ"_u, "salir"_u);
+    EXPECT_FALSE(QApplication::overrideCursor());
+    pulsar(lista, "tlbDJ"_u, "modificar"_u);
+    f = formulario("frmDJ_editar");
+    solapa(f, "SSTab1"_u, 2);
+    escribir(f, "nroEfectivo"_u, "1000.50"_u);
+    pulsar(f, "tlbB"_u, "generar"_u);
+    auto* r = formulario("frmReportes");
+    EXPECT_EQ(r->windowTitle(), "Boleta de depósito"_u);
+    EXPECT_FALSE(QApplication::overrideCursor());
+    EXPECT_FALSE(f->isEnabled());
+    QTest::keyClick(r, Qt::Key_Escape);
+    EXPECT_TRUE(control(f, "tlbB"_u)->isEnabled());
+    EXPECT_EQ(botones(f, "tlbB", "generar borrar imprimir"), "111"_u);
+    EXPECT_EQ(filas("select SBDI_NROBOLETA, SBDI_TOTAL, SBDI_FECHA_EMISION from SEL_TB_RTN_BOLDEP"_u), "202"_u + dj + "00|1000.5|2026-11-16"_u);
+    Cajas::durante({{"¿Esta seguro de borrar la boleta seleccionada?"_u, "Borrar boleta"_u, true, QMessageBox::Question}}, [&] { pulsar(f, "tlbB"_u, "borrar"_u); });
+    EXPECT_EQ(botones(f, "tlbB", "generar borrar imprimir"), "100"_u);
+    fijar_hoy({});
+}
+
+TEST_F(Pantallas, ReciboSoloConPartes)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 2);
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 1, 1, 5707029, 1234.5)"_u.arg(dj));
+    QWidget* f = abrirEscritura(dj, false);
+    EXPECT_FALSE(habilitado(f, "tlbDetalle"_u, "recibo"_u));
+    pulsar(f, "tlbDetalle"_u, "cancelar"_u);
+    Cajas::durante({{"Ingrese las partes intervinientes de la escritura\nEscritura incompleta: No se puede emitir el comprobante de retención."_u, "Emitir comprobante de retención"_u, true, QMessageBox::Information, true}},
+                   [&] { pulsar(f, "tlbDetalle"_u, "recibo"_u); });
+    EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_COMP_RET"_u), "0"_u);
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_RSOCIAL) values (1, '%1', 1, '80', 'X')"_u.arg(dj));
+    static_cast<Formulario*>(f)->alActivar();
+    pulsar(f, "tlbDetalle"_u, "recibo"_u);
+    EXPECT_EQ(formulario("frmReportes")->windowTitle(), "Comprobante de retención"_u);
+    EXPECT_EQ(filas("select SEDD_ID, SCRT_ANULADO, SCRT_MONTO_RETENIDO, SCRT_FECHA_ESCRITURA, SCRT_RTN_NOMBRE from SEL_TB_RTN_COMP_RET"_u), "1|N|1234.5|02/10/2026|PÉREZ"_u);
+}
+
+TEST_F(Pantallas, VistaPreviaDeUnaDJLarga)
+{
+    const QString dj = nueva_dj();
+    for (int i = 1; i <= 300; ++i)
+        nueva_escritura(dj, i, i, i, 1);
+    auto* r = cargar<frmReportes>();
+    r->DJ(dj, "9DCABBEC95C60F7B69846C4A8513C009"_u);
+    r->mostrar();
+    EXPECT_TRUE(texto(r, "lblPaginas"_u).endsWith(u'…'));  // the first page shows before the last is laid out
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !texto(r, "lblPaginas"_u).endsWith(u'…'); }));
+    const int paginas = texto(r, "lblPaginas"_u).mid(3).toInt();
+    EXPECT_GT(paginas, 5);
+    auto* vista = r->findChild<ctlVistaPrevia*>();
+    clic(r, "cmdSiguiente"_u);
+    EXPECT_EQ(vista->paginaActual(), 1);
+    teclear(r, "spnPagina"_u, "4"_u);
+    tecla(r, "spnPagina"_u, Qt::Key_Return);
+    EXPECT_EQ(vista->paginaActual(), 3);
+    for (const char* zoom : {"Página entera", "200 %", "50 %", "Ajustar al ancho"}) {
+        elegir(r, "cboZoom"_u, QString::fromUtf8(zoom));
+        EXPECT_EQ(vista->paginas(), paginas);
+        EXPECT_FALSE(vista->grab().isNull());
+    }
+    EXPECT_FALSE(r->guardarPDF("/no/hay/carpeta.pdf"_u));
 }
 
 TEST_F(Pantallas, SalirPreguntaYCierraEnOrden)

@@ -393,6 +393,7 @@ private:
     {
         g_.paso(u("Emisión de ") + nro, [&] {
             auto* f = formulario("frmDJ_buscar");
+            escribir(f, u("nroAnio"), u("20") + nro.mid(11, 2));
             buscarFila(f, nro);
             Cajas::durante({{u("El archivo de la declaración jurada está en:"), f->windowTitle()}},
                            [&] { pulsar(f, u("tlbDJ"), u("emitir")); });
@@ -434,8 +435,9 @@ private:
             buscarFila(f, u("30712345671261000"));
             Cajas::durante({{u("La DJ  Original para la posicion 10/26 ya fue rectificada"), u("Nueva DJ"), false}},
                            [&] { pulsar(f, u("tlbDJ"), u("rectificar")); });
-            pulsar(f, u("tlbDJ"), u("salir"));
         });
+        emitir(u("27145678906250600"), u("emision-sin-movimientos"));
+        g_.paso(u("Cierra la lista"), [&] { pulsar(formulario("frmDJ_buscar"), u("tlbDJ"), u("salir")); });
     }
 
     MDIPrincipal& principal_;
