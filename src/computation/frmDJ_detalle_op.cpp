@@ -484,8 +484,9 @@ void frmDJ_detalle_op::habilitarObligacion()
 {
     const bool si = ui->chkObligAccesoria->isChecked();
     for (QWidget* w : {static_cast<QWidget*>(ui->cboObligAccesoria_modo), static_cast<QWidget*>(ui->optObligAccesoria_porc),
-                       static_cast<QWidget*>(ui->optObligAccesoria_fijo), static_cast<QWidget*>(ui->nroObligAccesoria)})
+                       static_cast<QWidget*>(ui->optObligAccesoria_fijo)})
         w->setEnabled(si);
+    ui->nroObligAccesoria->Habilitar(si);
     const bool poliza = si && ui->cboObligAccesoria_modo->currentText() == u"Seguro de Caución";
     ui->txtObligAccesoria_poliza->setVisible(poliza);
     ui->lblObligAccesoria_poliza->setVisible(poliza);

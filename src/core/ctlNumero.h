@@ -11,6 +11,7 @@ class ctlNumero : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(int CantidadDecimales READ CantidadDecimales WRITE setCantidadDecimales)
+    Q_PROPERTY(double Value READ Value WRITE setValue)
     Q_PROPERTY(int MaxLength READ MaxLength WRITE setMaxLength)
     Q_PROPERTY(bool Enabled READ Enabled WRITE Habilitar)
     Q_PROPERTY(bool Negrita READ Negrita WRITE setNegrita)

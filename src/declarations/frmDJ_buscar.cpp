@@ -6,11 +6,12 @@
 #include "declarations/frmDJ_editar.h"
 #include "declarations/lista_dj.h"
 #include "filing/archivo_dj.h"
+#include "filing/empaquetado.h"
 #include "filing/verificacion.h"
 #include "printing/frmReportes.h"
 #include "ui_frmDJ_buscar.h"
 
-#include <QDir>
+#include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -163,9 +164,11 @@ void frmDJ_buscar::emitir()
                {}, Icono::ninguno);
         return;
     }
-    avisar(QStringLiteral("El archivo de la declaración jurada está en:\n") + QDir::toNativeSeparators(emision.archivo)
-               + QStringLiteral("\n\nCódigo de verificación: ") + emision.codigo,
-           windowTitle());
+    const auto pedir = [this](const QString& propuesto) {
+        return QFileDialog::getSaveFileName(this, QStringLiteral("Guardar la declaración jurada"), propuesto, QStringLiteral("Archivo comprimido (*.rar)"));
+    };
+    if (!comprimir_dj(nro, dialogo, pedir))
+        return;
     auto* reporte = cargar<frmReportes>();
     reporte->DJ(nro, emision.codigo);
     abrir(reporte);

@@ -68,7 +68,7 @@ frmDJ_detalle_parte::frmDJ_detalle_parte() : ui(std::make_unique<Ui::frmDJ_detal
     ui->txtPasaporte->hide();
     ui->nroDoc->ClearText();
     ui->nroExencionPorc->ClearText();
-    ui->nroExencionPorc->setEnabled(false);
+    ui->nroExencionPorc->Habilitar(false);
     ui->chkCUIT_EnTramite->setEnabled(false);
     // The role belongs to the operation's screen.
     ui->cboRol->setEnabled(false);
@@ -153,7 +153,7 @@ void frmDJ_detalle_parte::mostrarParte(const Parte& p)
     if (p.nacionalidad == u"E")
         buscar_en_combo(ui->cboCodigoPais, 1, p.codigoPais);
     ui->chkExento->setChecked(p.porcExento.has_value());
-    ui->nroExencionPorc->setEnabled(p.porcExento.has_value());
+    ui->nroExencionPorc->Habilitar(p.porcExento.has_value());
     if (p.porcExento)
         ui->nroExencionPorc->setValue(*p.porcExento);
 }
@@ -217,7 +217,7 @@ void frmDJ_detalle_parte::clicPais()
 void frmDJ_detalle_parte::clicExento()
 {
     const bool si = ui->chkExento->isEnabled() && ui->chkExento->isChecked();
-    ui->nroExencionPorc->setEnabled(si);
+    ui->nroExencionPorc->Habilitar(si);
     if (si)
         ui->nroExencionPorc->setFocus();
     else

@@ -1,6 +1,7 @@
 // The tab of the deposit slips.
 
 #include "core/ctlEspera.h"
+#include "core/almacen.h"
 #include "core/ctlComunes.h"
 #include "declarations/frmDJ_editar.h"
 #include "payment/boletas.h"
@@ -94,10 +95,15 @@ void frmDJ_editar::generar_boleta()
 void frmDJ_editar::imprimir_boleta(const QString& nro)
 {
     auto* reporte = cargar<frmReportes>();
-    if (reporte->BolDep(nro))
-        abrir(reporte);
-    else
-        reporte->descargar();
+    try {
+        if (reporte->BolDep(nro)) {
+            abrir(reporte);
+            return;
+        }
+    } catch (const ErrorAlmacen&) {
+        // Nothing is told: the slip is stored, and may be printed again.
+    }
+    reporte->descargar();
 }
 
 void frmDJ_editar::tlbB_pulsada(const QString& clave)

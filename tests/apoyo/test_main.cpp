@@ -10,6 +10,7 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // Not the program's own: what a form throws is to reach the test.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication aplicacion(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     return RUN_ALL_TESTS();

@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -52,14 +53,32 @@ QString comparar(const QMessageBox* caja, const CajaEsperada& e)
 
 }  // namespace
 
-Cajas::Cajas(const QList<CajaEsperada>& cajas) : pendientes_(cajas)
+Cajas::Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos) : pendientes_(cajas), archivos_(archivos)
 {
     QObject::connect(&reloj_, &QTimer::timeout, &reloj_, [this] { mirar(); });
     reloj_.start(MIRADA_MS);
 }
 
+void Cajas::elegirArchivo(QFileDialog* dialogo)
+{
+    if (archivos_.isEmpty())
+        falla_ = QStringLiteral("vino un diálogo de archivos que nadie esperaba: ") + dialogo->windowTitle();
+    const QString archivo = archivos_.isEmpty() ? QString() : archivos_.takeFirst();
+    auto* nombre = dialogo->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (archivo.isEmpty() || !nombre) {
+        dialogo->reject();
+        return;
+    }
+    nombre->setText(archivo);
+    QTest::keyClick(nombre, Qt::Key_Return);
+}
+
 void Cajas::mirar()
 {
+    if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); dialogo && dialogo->isVisible()) {
+        elegirArchivo(dialogo);
+        return;
+    }
     auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!caja || !caja->isVisible())
         return;
@@ -78,7 +97,7 @@ void Cajas::mirar()
     QTest::mouseClick(boton, Qt::LeftButton);
 }
 
-void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion)
+void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion, const QStringList& archivos)
 {
     struct Turno
     {
@@ -86,12 +105,14 @@ void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()
         ~Turno() { --vigias; }
     };
     const Turno turno;
-    Cajas c(cajas);
+    Cajas c(cajas, archivos);
     accion();
     QApplication::processEvents();
     c.reloj_.stop();
     if (!c.falla_.isEmpty())
         throw Inesperado(c.falla_);
+    if (!c.archivos_.isEmpty())
+        throw Inesperado(QStringLiteral("no vino el diálogo para ") + c.archivos_.constFirst());
     if (!c.pendientes_.isEmpty())
         throw Inesperado(QStringLiteral("no vino la caja «%1»").arg(c.pendientes_.constFirst().texto));
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QList>
-#include <QString>
+#include <QStringList>
 #include <QTimer>
 #include <QWidget>
 
@@ -33,14 +33,17 @@ struct CajaEsperada
 class Cajas
 {
 public:
-    /// Runs the action; throws Inesperado.
-    static void durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion);
+    /// Runs the action; throws Inesperado. A file dialog that comes gets the next of `archivos` typed,
+    /// or is cancelled for an empty one.
+    static void durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion, const QStringList& archivos = {});
 
 private:
-    explicit Cajas(const QList<CajaEsperada>& cajas);
+    Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos);
     void mirar();
+    void elegirArchivo(class QFileDialog* dialogo);
 
     QList<CajaEsperada> pendientes_;
+    QStringList archivos_;
     QString falla_;
     QTimer reloj_;
 };

@@ -28,6 +28,9 @@ void preparar(const QString& carpeta)
     QFile cfg(carpeta + QStringLiteral("/vedra_rtn.cfg"));
     if (!cfg.open(QIODevice::WriteOnly) || cfg.write("vedra_rtn.db\n") < 0)
         throw Inesperado(QStringLiteral("no se pudo escribir ") + cfg.fileName());
+    const QString rar = QCoreApplication::applicationDirPath() + QStringLiteral("/rar");
+    if (!QFile::copy(rar, carpeta + QStringLiteral("/rar")))
+        throw Inesperado(QStringLiteral("no se pudo copiar ") + rar);
     fijar_carpeta_programa(carpeta);
 }
 
@@ -35,6 +38,7 @@ void preparar(const QString& carpeta)
 
 int main(int argc, char** argv)
 {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Aplicacion aplicacion(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     QCommandLineParser argumentos;

@@ -395,8 +395,10 @@ private:
             auto* f = formulario("frmDJ_buscar");
             escribir(f, u("nroAnio"), u("20") + nro.mid(11, 2));
             buscarFila(f, nro);
-            Cajas::durante({{u("El archivo de la declaración jurada está en:"), f->windowTitle()}},
-                           [&] { pulsar(f, u("tlbDJ"), u("emitir")); });
+            const QString guardado = g_.carpeta() + u("/SRTN") + nro + u(".rar");
+            Cajas::durante({}, [&] { pulsar(f, u("tlbDJ"), u("emitir")); }, {guardado});
+            if (QFileInfo(guardado).size() == 0)
+                throw Inesperado(u("no está el archivo ") + guardado);
             const QString archivo = carpeta_programa() + u("/data/") + nro + u("/SRTN") + nro + u(".txt");
             if (QFileInfo(archivo).size() == 0)
                 throw Inesperado(u("no está el archivo ") + archivo);

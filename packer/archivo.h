@@ -1,0 +1,33 @@
+// A file by its descriptor; every failure throws std::runtime_error with the file's name.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+class Archivo
+{
+public:
+    Archivo(std::string ruta, int modo);
+    ~Archivo();
+    Archivo(const Archivo&) = delete;
+    Archivo& operator=(const Archivo&) = delete;
+
+    /// Bytes read, fewer than asked for at the end alone.
+    size_t leer(void* donde, size_t cuantos);
+    void escribir(const void* que, size_t cuantos);
+    void ir(uint64_t lugar);
+    [[nodiscard]] uint64_t lugar() const { return lugar_; }
+    [[nodiscard]] uint64_t largo() const;
+    [[nodiscard]] uint32_t modificado() const;
+    [[nodiscard]] uint32_t permisos() const;
+    /// To the disk, before a rename makes it count.
+    void asegurar();
+    [[nodiscard]] const std::string& ruta() const { return ruta_; }
+
+private:
+    [[noreturn]] void fallar(const char* que) const;
+
+    std::string ruta_;
+    int fd_;
+    uint64_t lugar_ = 0;
+};

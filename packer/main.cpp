@@ -1,0 +1,68 @@
+// rar a -y ARCHIVE FILE… | rar t ARCHIVE | rar l ARCHIVE
+
+#include "rar5.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <exception>
+
+namespace {
+
+constexpr int USO = 7;
+constexpr int DANADO = 3;
+
+int uso()
+{
+    std::fputs("Uso:\n"
+               "  rar a -y ARCHIVO FICHERO...   crea el archivo o agrega a él\n"
+               "  rar t ARCHIVO                 prueba el archivo\n"
+               "  rar l ARCHIVO                 lista el archivo\n",
+               stderr);
+    return USO;
+}
+
+int probar(const std::string& archivo)
+{
+    int malas = 0;
+    for (const EntradaRar& e : listar_rar(archivo)) {
+        const bool bien = leer_entrada(archivo, e, [](const char*, size_t) {});
+        std::printf("%-5s %s\n", bien ? "OK" : "MAL", e.nombre.c_str());
+        malas += !bien;
+    }
+    std::puts(malas == 0 ? "Todo bien" : "El archivo está dañado");
+    return malas == 0 ? EXIT_SUCCESS : DANADO;
+}
+
+int listar(const std::string& archivo)
+{
+    for (const EntradaRar& e : listar_rar(archivo)) {
+        const std::time_t t = e.modificado;
+        char fecha[20] = {};
+        std::tm partes{};
+        std::strftime(fecha, sizeof fecha, "%d/%m/%Y %H:%M", localtime_r(&t, &partes));
+        std::printf("%14llu  %s  %08X  %s\n", static_cast<unsigned long long>(e.largo), fecha, e.crc, e.nombre.c_str());
+    }
+    return EXIT_SUCCESS;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> a(argv + 1, argv + argc);
+    try {
+        if (a.size() >= 4 && a[0] == "a" && a[1] == "-y") {
+            agregar_rar(a[2], {a.begin() + 3, a.end()});
+            return EXIT_SUCCESS;
+        }
+        if (a.size() == 2 && a[0] == "t")
+            return probar(a[1]);
+        if (a.size() == 2 && a[0] == "l")
+            return listar(a[1]);
+        return uso();
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "rar: %s\n", e.what());
+        return DANADO;
+    }
+}

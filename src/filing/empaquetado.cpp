@@ -1,0 +1,166 @@
+#include "filing/empaquetado.h"
+
+#include "core/modGlobales.h"
+#include "core/modUtiles.h"
+#include "core/numero.h"
+#include "filing/archivo_dj.h"
+#include "rar5.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace {
+
+constexpr int SIN_LIMITE = -1;
+
+[[noreturn]] void fallar(const QString& que, const QString& archivo)
+{
+    throw std::runtime_error(QString(que + QDir::toNativeSeparators(archivo)).toStdString());
+}
+
+void borrar(const QString& archivo)
+{
+    if (!QFileInfo::exists(archivo))
+        return;
+    QFile f(archivo);
+    f.setPermissions(f.permissions() | QFile::WriteOwner);
+    if (!f.remove())
+        fallar(QStringLiteral("No se pudo borrar "), archivo);
+}
+
+// Replaces what stands there; false when the source can't be copied.
+bool copiar(const QString& de, const QString& a)
+{
+    const QString aparte = a + QStringLiteral(".nuevo");
+    QFile::remove(aparte);
+    if (!QFile::copy(de, aparte))
+        return false;
+    QFile::setPermissions(aparte, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    if (std::rename(QFile::encodeName(aparte).constData(), QFile::encodeName(a).constData()) == 0)
+        return true;
+    QFile::remove(aparte);
+    return false;
+}
+
+class Empaquetado
+{
+public:
+    Empaquetado(const QString& nro, Dialogo& dialogo)
+        : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)), testimonios_(carpeta_ + QStringLiteral("/testimonios"))
+    {
+    }
+
+    bool correr(const PedirDestino& pedir)
+    {
+        borrar(lote());
+        borrar(archivo());
+        // The quote in front of the command's name makes the line one name that fails; it does no harm.
+        texto_ = palabra_shell(QStringLiteral("rm ") + archivo()) + u'\n';
+        empaquetar(carpeta_ + QStringLiteral("/SRTN") + nro_ + QStringLiteral(".txt"));
+        if (!QDir().mkpath(testimonios_))
+            fallar(QStringLiteral("No se pudo crear "), testimonios_);
+        for (const QString& viejo : QDir(testimonios_).entryList(QDir::Files | QDir::Hidden))
+            borrar(testimonios_ + u'/' + viejo);
+        if (!copiarTestimonios())
+            return false;
+        escribirLote();
+        QProcess lotes;
+        lotes.setStandardErrorFile(QProcess::nullDevice());
+        lotes.setStandardOutputFile(QProcess::nullDevice());
+        lotes.start(QStringLiteral("/bin/sh"), {lote()});
+        if (QFileInfo::exists(archivo()) && !copiar(archivo(), carpeta_ + QStringLiteral("/dj.rar")))
+            fallar(QStringLiteral("No se pudo copiar "), archivo());
+        return guardar(pedir, lotes);
+    }
+
+private:
+    [[nodiscard]] QString lote() const { return base_ + QStringLiteral("/comprimir.bat"); }
+    [[nodiscard]] QString archivo() const { return base_ + QStringLiteral("/dj.rar"); }
+    [[nodiscard]] QString titulo() const { return QStringLiteral("Emitir DJ ") + nro_; }
+
+    void empaquetar(const QString& fichero)
+    {
+        ficheros_ << QFileInfo(fichero).fileName();
+        texto_ += palabra_shell(base_ + QStringLiteral("/rar")) + QStringLiteral(" a -y ") + palabra_shell(archivo()) + u' ' + palabra_shell(fichero) + u'\n';
+    }
+
+    bool copiarTestimonios()
+    {
+        for (Recordset rs(cnRtn, QStringLiteral("select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDJ_NRO='") + nro_
+                                     + QStringLiteral("'"));
+             !rs.eof(); rs.siguiente()) {
+            const QString origen = fromSQL(rs.texto(2));
+            if (origen.isEmpty())
+                continue;
+            if (!QFileInfo(origen).isFile()) {
+                dialogo_.avisar({QStringLiteral("Error en la escritura Nº ") + rs.texto(1) + QStringLiteral(",  no existe el archivo del testimonio \n") + origen
+                                     + QStringLiteral("\n\nComplete la declaracion jurada e intente mas tarde."),
+                                 titulo(), Icono::informacion});
+                return false;
+            }
+            const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.' + QFileInfo(origen).suffix().toLower();
+            if (!copiar(origen, copia))
+                fallar(QStringLiteral("No se pudo copiar "), origen);
+            empaquetar(copia);
+        }
+        return true;
+    }
+
+    void escribirLote() const
+    {
+        QFile f(lote());
+        const QByteArray bytes = QFile::encodeName(texto_ + u'\n');
+        if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.flush())
+            fallar(QStringLiteral("No se pudo escribir "), lote());
+    }
+
+    // The packer works while the user chooses; the copy waits for its end.
+    bool guardar(const PedirDestino& pedir, QProcess& lotes) const
+    {
+        const QString nombre = QStringLiteral("SRTN") + nro_ + QStringLiteral(".rar");
+        const QString elegido = pedir(QDir::home().filePath(nombre));
+        lotes.waitForFinished(SIN_LIMITE);
+        if (!elegido.isEmpty() && entero(lotes) && copiar(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre))
+            return true;
+        dialogo_.avisar({QStringLiteral("Error: Se canceló la emisión de la declaracion jurada"), titulo(), Icono::informacion});
+        return false;
+    }
+
+    // The shell only tells how its last line ended: the archive itself says whether it holds all.
+    [[nodiscard]] bool entero(const QProcess& lotes) const
+    {
+        if (lotes.exitStatus() != QProcess::NormalExit || lotes.exitCode() != 0)
+            return false;
+        try {
+            QStringList nombres;
+            for (const EntradaRar& e : listar_rar(QFile::encodeName(archivo()).toStdString()))
+                nombres << QFileInfo(QString::fromStdString(e.nombre)).fileName();
+            return std::all_of(ficheros_.begin(), ficheros_.end(), [&](const QString& f) { return nombres.contains(f); });
+        } catch (const std::exception&) {
+            // Another packer's archive may be one that is not read here.
+            return QFileInfo(archivo()).size() > 0;
+        }
+    }
+
+    QString nro_;
+    QStringList ficheros_;
+    Dialogo& dialogo_;
+    QString base_;
+    QString carpeta_;
+    QString testimonios_;
+    QString texto_;
+};
+
+}  // namespace
+
+QString palabra_shell(const QString& texto)
+{
+    return u'\'' + QString(texto).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+}
+
+bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir)
+{
+    return Empaquetado(nro, dialogo).correr(pedir);
+}

@@ -1,0 +1,211 @@
+// The packer against an independent reader of its archives, and the emission's archive.
+
+#include "apoyo/apoyo.h"
+#include "filing/archivo_dj.h"
+#include "filing/empaquetado.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+
+namespace {
+
+class Empaquetado : public ConAlmacen
+{
+protected:
+    QString archivo(const QString& nombre, const QByteArray& datos) const
+    {
+        const QString ruta = carpeta.path() + u'/' + nombre;
+        QDir().mkpath(QFileInfo(ruta).path());
+        QFile f(ruta);
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(datos);
+        return ruta;
+    }
+    static int correr(const QString& programa, const QStringList& argumentos, QString* salida = nullptr)
+    {
+        QProcess p;
+        p.start(programa, argumentos);
+        EXPECT_TRUE(p.waitForFinished(300000));
+        if (salida)
+            *salida = QString::fromUtf8(p.readAllStandardOutput());
+        return p.exitCode();
+    }
+    static int rar(const QStringList& argumentos, QString* salida = nullptr) { return correr(QStringLiteral(RTN_RAR), argumentos, salida); }
+    static QByteArray leer(const QString& ruta)
+    {
+        QFile f(ruta);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no está)");
+    }
+    /// Extracts by bsdtar into a new folder.
+    QString extraer(const QString& rar_)
+    {
+        const QString destino = carpeta.path() + "/sale%1"_u.arg(++veces);
+        QDir().mkpath(destino);
+        EXPECT_EQ(correr("bsdtar"_u, {"-xf"_u, rar_, "-C"_u, destino}), 0);
+        return destino;
+    }
+    int veces = 0;
+};
+
+TEST_F(Empaquetado, OtroProgramaExtraeLoMismo)
+{
+    const QString a = carpeta.path() + "/con 'comillas' y $ñ.rar"_u;
+    const QList<std::pair<QString, QByteArray>> ficheros{{"vacío.pdf"_u, {}}, {"uno.txt"_u, "x"}, {"á ñ $HOME 'q'.pdf"_u, QByteArray(3000000, 'z')}};
+    for (const auto& [nombre, datos] : ficheros)
+        EXPECT_EQ(rar({"a"_u, "-y"_u, a, archivo(nombre, datos)}), 0);
+    EXPECT_EQ(rar({"a"_u, "-y"_u, a, archivo("uno.txt"_u, "otro")}), 0);  // takes the earlier one's place
+    const QString destino = extraer(a);
+    EXPECT_EQ(QDir(destino).entryList(QDir::Files).size(), 3);
+    EXPECT_EQ(leer(destino + "/uno.txt"_u), "otro");
+    EXPECT_EQ(leer(destino + "/vacío.pdf"_u), "");
+    EXPECT_EQ(leer(destino + "/á ñ $HOME 'q'.pdf"_u), QByteArray(3000000, 'z'));
+    QString salida;
+    EXPECT_EQ(rar({"t"_u, a}), 0);
+    EXPECT_EQ(rar({"l"_u, a}, &salida), 0);
+    EXPECT_EQ(salida.count(u'\n'), 3);
+
+    QByteArray malo = leer(a);
+    malo[malo.size() / 2] = char(malo[malo.size() / 2] ^ 1);
+    EXPECT_NE(rar({"t"_u, archivo("malo.rar"_u, malo)}), 0);
+    for (const qsizetype corte : {3, 9, 40, 200})
+        EXPECT_NE(rar({"t"_u, archivo("malo.rar"_u, malo.left(corte))}), 0) << corte;
+    EXPECT_NE(rar({}), 0);
+    EXPECT_NE(rar({"a"_u, a, "x"_u}), 0);
+    EXPECT_NE(rar({"x"_u, a}), 0);
+    const QByteArray antes = leer(a);
+    EXPECT_NE(rar({"a"_u, "-y"_u, a, "/no/existe"_u}), 0);
+    EXPECT_EQ(leer(a), antes);
+}
+
+TEST_F(Empaquetado, UnFicheroDeTresGiB)
+{
+    const QString grande = archivo("grande.bin"_u, "principio");
+    constexpr qint64 LARGO = 3LL << 30;
+    ASSERT_TRUE(QFile::resize(grande, LARGO));
+    const QString a = carpeta.path() + "/g.rar"_u;
+    ASSERT_EQ(rar({"a"_u, "-y"_u, a, grande}), 0);
+    QString salida;
+    EXPECT_EQ(correr("bsdtar"_u, {"-tvf"_u, a}, &salida), 0);
+    EXPECT_TRUE(salida.contains(QString::number(LARGO))) << salida.toStdString();
+    EXPECT_EQ(rar({"t"_u, a}), 0);
+}
+
+TEST_F(Empaquetado, MatadoDejaElDeAntesOElNuevo)
+{
+    QRandomGenerator azar(7);
+    const QString a = carpeta.path() + "/k.rar"_u;
+    const QString fijo = archivo("fijo.bin"_u, QByteArray(1000000, 'f'));
+    ASSERT_EQ(rar({"a"_u, "-y"_u, a, fijo}), 0);
+    const QString nuevo = archivo("nuevo.bin"_u, QByteArray(4000000, 'n'));
+    int nuevos = 0;
+    for (int i = 0; i < 100; ++i) {
+        QProcess p;
+        p.start(QStringLiteral(RTN_RAR), {"a"_u, "-y"_u, a, nuevo});
+        ASSERT_TRUE(p.waitForStarted());
+        QTest::qSleep(azar.bounded(12));
+        p.kill();
+        p.waitForFinished();
+        QString salida;
+        ASSERT_EQ(rar({"t"_u, a}, &salida), 0) << i;
+        ASSERT_TRUE(salida.contains("fijo.bin"_u)) << i;
+        nuevos += salida.contains("nuevo.bin"_u);
+    }
+    EXPECT_EQ(rar({"a"_u, "-y"_u, a, nuevo}), 0);
+    EXPECT_EQ(rar({"t"_u, a}), 0);
+    RecordProperty("nuevos", nuevos);
+}
+
+class EmpaquetadoDJ : public Empaquetado
+{
+protected:
+    void SetUp() override
+    {
+        ConAlmacen::SetUp();
+        // The program's folder has blanks, quotes, dollar signs and accents in its name.
+        base = carpeta.path() + "/mi 'base' $x ñ\"q"_u;
+        QDir().mkpath(base);
+        ASSERT_TRUE(QFile::copy(QStringLiteral(RTN_RAR), base + "/rar"_u));
+        fijar_carpeta_programa(base);
+        destino = carpeta.path() + "/destino"_u;
+        QDir().mkpath(destino);
+        dj = nueva_dj();
+        final_ = destino + "/SRTN"_u + dj + ".rar"_u;
+    }
+    void escritura(int id, const QString& testimonio)
+    {
+        nueva_escritura(dj, id, id, id, 1);
+        Comando c(cnRtn, "update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO=? where SEDD_ID=?"_u);
+        c.parametro("f", QString(testimonio).replace(u'\'', "''"_u));
+        c.parametro("id", id);
+        c.ejecutar();
+    }
+    bool emitir()
+    {
+        (void)generar_archivo_dj(dj);
+        oyente.textos.clear();
+        return comprimir_dj(dj, oyente, [this](const QString& p) {
+            propuesto = p;
+            return cancelar ? QString() : destino + "/otro nombre.rar"_u;
+        });
+    }
+    QString base, destino, dj, final_, propuesto;
+    bool cancelar = false;
+};
+
+TEST_F(EmpaquetadoDJ, ConTestimoniosYSinEllos)
+{
+    EXPECT_TRUE(emitir());
+    EXPECT_EQ(propuesto, QDir::home().filePath("SRTN"_u + dj + ".rar"_u));
+    EXPECT_EQ(leer(extraer(final_) + "/SRTN"_u + dj + ".txt"_u), leer(carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u));
+    EXPECT_EQ(QString::fromUtf8(leer(base + "/comprimir.bat"_u)).count(u'\n'), 3);
+
+    escritura(1, archivo("d'angelo ñ $1.PDF"_u, "uno"));
+    escritura(2, archivo("dos.doc"_u, "dos"));
+    nueva_escritura(dj, 3, 3, 3, 1);
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='' where SEDD_ID=3"_u);
+    archivo("mi 'base' $x ñ\"q/data/%1/testimonios/viejo.pdf"_u.arg(dj), "viejo");
+    EXPECT_TRUE(emitir());
+    const QString sale = extraer(final_);
+    EXPECT_EQ(QDir(sale).entryList(QDir::Files), (QStringList{dj + "-0001.pdf"_u, dj + "-0002.doc"_u, "SRTN"_u + dj + ".txt"_u}));
+    EXPECT_EQ(leer(sale + u'/' + dj + "-0001.pdf"_u), "uno");
+    EXPECT_EQ(QDir(carpeta_dj(dj) + "/testimonios"_u).entryList(QDir::Files).size(), 2);  // nothing of before remains
+    EXPECT_TRUE(oyente.textos.isEmpty());
+}
+
+TEST_F(EmpaquetadoDJ, Trescientos)
+{
+    for (int i = 1; i <= 300; ++i)
+        escritura(i, archivo("t%1.pdf"_u.arg(i), QByteArray(i * 7, char('a' + i % 26))));
+    ASSERT_TRUE(emitir());
+    const QString sale = extraer(final_);
+    EXPECT_EQ(QDir(sale).entryList(QDir::Files).size(), 301);
+    for (const int i : {1, 26, 150, 300})
+        EXPECT_EQ(leer(sale + "/%1-%2.pdf"_u.arg(dj).arg(i, 4, 10, QLatin1Char('0'))), QByteArray(i * 7, char('a' + i % 26)));
+}
+
+TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
+{
+    const QString cancelada = "Error: Se canceló la emisión de la declaracion jurada"_u;
+    escritura(7, "/no/d'existe.pdf"_u);
+    EXPECT_FALSE(emitir());
+    EXPECT_EQ(oyente.ultimo(), "Error en la escritura Nº 7,  no existe el archivo del testimonio \n/no/d'existe.pdf\n\nComplete la declaracion jurada e intente mas tarde."_u);
+    EXPECT_EQ(oyente.titulos.last(), "Emitir DJ "_u + dj);
+    EXPECT_FALSE(QFile::exists(base + "/dj.rar"_u));
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO=null"_u);
+    const QString codigo = dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u);
+    cancelar = true;
+    EXPECT_FALSE(emitir());
+    EXPECT_EQ(oyente.textos, QStringList(cancelada));
+    EXPECT_TRUE(QFile::exists(carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u));
+    EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
+    cancelar = false;
+    QFile::remove(base + "/rar"_u);
+    EXPECT_FALSE(emitir());  // without the packer there is no archive
+    EXPECT_EQ(oyente.textos, QStringList(cancelada));
+    EXPECT_FALSE(QFile::exists(final_));
+}
+
+}  // namespace
