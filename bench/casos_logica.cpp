@@ -6,11 +6,15 @@
 #include "declarations/copiar_dj.h"
 #include "declarations/modABM_dj.h"
 #include "filing/archivo_dj.h"
+#include "filing/lector_dj.h"
 #include "filing/registros.h"
 
+#include <rar5.h>
 #include <sqlcipher/sqlite3.h>
+#include <zlib.h>
 
 #include <QCryptographicHash>
+#include <QTemporaryDir>
 #include <QFile>
 
 #include <cstdio>
@@ -193,10 +197,63 @@ void copia(benchmark::State& estado)
     estado.counters["pedida"] = 3;
 }
 
+void lector(benchmark::State& estado)
+{
+    const AlmacenGrande a;
+    const QString ruta = generar_archivo_dj(AlmacenGrande::dj(2026, 3, 10000)).archivo;
+    const auto leer = [&ruta] {
+        QFile f(ruta);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    };
+    medir(
+        estado, 4, [&] { benchmark::DoNotOptimize(leer_archivo_dj(leer())); },
+        [&] { benchmark::DoNotOptimize(QCryptographicHash::hash(leer(), QCryptographicHash::Md5)); });
+}
+
+// `rar a` of 500 MB beside `cp` of the same file and its CRC-32.
+void packer(benchmark::State& estado)
+{
+    QTemporaryDir dir;
+    const QString origen = dir.filePath(QStringLiteral("origen.bin"));
+    {
+        QFile f(origen);
+        if (!f.open(QIODevice::WriteOnly))
+            std::abort();
+        QByteArray bloque(1 << 20, '\0');
+        for (int i = 0; i < 500; ++i) {
+            for (qsizetype k = 0; k < bloque.size(); k += 97)
+                bloque[k] = char(i * 31 + k);
+            f.write(bloque);
+        }
+    }
+    const std::string rar = dir.filePath(QStringLiteral("a.rar")).toStdString();
+    const std::string copia = dir.filePath(QStringLiteral("copia.bin")).toStdString();
+    medir(
+        estado, 1.3,
+        [&] {
+            std::remove(rar.c_str());
+            agregar_rar(rar, {origen.toStdString()});
+        },
+        [&] {
+            std::remove(copia.c_str());
+            if (std::system(("cp " + origen.toStdString() + " " + copia + " && sync " + copia).c_str()) != 0)
+                std::abort();
+            QFile f(QString::fromStdString(copia));
+            if (!f.open(QIODevice::ReadOnly))
+                std::abort();
+            uLong crc = 0;
+            for (QByteArray b = f.read(1 << 20); !b.isEmpty(); b = f.read(1 << 20))
+                crc = crc32_z(crc, reinterpret_cast<const Bytef*>(b.constData()), z_size_t(b.size()));
+            benchmark::DoNotOptimize(crc);
+        });
+}
+
 }  // namespace
 
 void registrar_logica()
 {
+    benchmark::RegisterBenchmark("leer_dj_de_10000_escrituras", lector)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(9);
+    benchmark::RegisterBenchmark("rar_de_500_MB", packer)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
     benchmark::RegisterBenchmark("archivo_y_codigo_de_10000_escrituras", archivo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(7);
     benchmark::RegisterBenchmark("CalcularImpuesto", calculo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
     benchmark::RegisterBenchmark("copiar_dj_de_1000_escrituras", copia)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);

@@ -175,6 +175,26 @@ TEST_F(EmpaquetadoDJ, ConTestimoniosYSinEllos)
     EXPECT_TRUE(oyente.textos.isEmpty());
 }
 
+TEST_F(EmpaquetadoDJ, LeerDJDesdeArchivoCarpetaYRar)
+{
+    ASSERT_TRUE(emitir());
+    const QString codigo = dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u);
+    for (const QString& entrada : {final_, carpeta_dj(dj), carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u}) {
+        QString salida;
+        EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {entrada, "--codigo"_u, codigo}, &salida), 0) << salida.toStdString();
+        EXPECT_TRUE(salida.contains("Código de integridad: "_u + codigo) && salida.contains("Todo está bien."_u));
+    }
+    QString salida;
+    EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--codigo"_u, "00"_u}, &salida), 1);
+    EXPECT_TRUE(salida.contains("el código del papel no es el del archivo"_u));
+    EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--campos"_u}, &salida), 0);
+    EXPECT_TRUE(salida.contains("SEDJ_TITULAR_NOMBRE"_u));
+    EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--json"_u}, &salida), 0);
+    EXPECT_TRUE(salida.contains("\"SEDJ_TITULAR_NOMBRE\": \"PÉREZ"_u));
+    for (const QString& mala : {carpeta.path(), "/no/existe"_u, QStringLiteral(RTN_LEER_DJ), base + "/rar"_u})
+        EXPECT_NE(correr(QStringLiteral(RTN_LEER_DJ), {mala}), 0);
+}
+
 TEST_F(EmpaquetadoDJ, Trescientos)
 {
     for (int i = 1; i <= 300; ++i)

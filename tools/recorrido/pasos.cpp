@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMenuBar>
+#include <QProcess>
 #include <QTest>
 
 using namespace manejo;
@@ -399,11 +400,21 @@ private:
             Cajas::durante({}, [&] { pulsar(f, u("tlbDJ"), u("emitir")); }, {guardado});
             if (QFileInfo(guardado).size() == 0)
                 throw Inesperado(u("no está el archivo ") + guardado);
+            QProcess lector;
+            lector.start(QCoreApplication::applicationDirPath() + u("/leer_dj"), {guardado, u("--codigo"), codigo(nro)});
+            if (!lector.waitForFinished() || lector.exitCode() != 0)
+                throw Inesperado(u("leer_dj no acepta lo emitido:\n") + QString::fromUtf8(lector.readAllStandardOutput()));
             const QString archivo = carpeta_programa() + u("/data/") + nro + u("/SRTN") + nro + u(".txt");
             if (QFileInfo(archivo).size() == 0)
                 throw Inesperado(u("no está el archivo ") + archivo);
             reporte(u("Declaración Jurada"), nombre);
         });
+    }
+
+    static QString codigo(const QString& nro)
+    {
+        const Recordset rs(cnRtn, u("select SEDJ_MD5 from SEL_TB_RTN_CABDJ where SEDJ_NRO='") + nro + u("'"));
+        return rs.texto(0);
     }
 
     void buscarFila(QWidget* f, const QString& nro)

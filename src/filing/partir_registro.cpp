@@ -1,0 +1,184 @@
+#include "filing/partir_registro.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr int IMPOSIBLE = 1 << 20;
+constexpr size_t LARGO_DE_MAS = 400;   // longer than any quirk makes a record
+constexpr size_t CIFRAS_DE_MAS = 6;
+constexpr size_t BLANCOS_DE_MAS = 60;
+
+bool son_cifras(std::string_view t)
+{
+    for (const char c : t)
+        if (static_cast<unsigned char>(c - '0') > 9)
+            return false;
+    return true;
+}
+
+bool es_clave(const char* nombre)
+{
+    for (const char* clave : {"SEDD_ID", "SEDO_ID", "SEII_ID", "SPIN_ID", "SVCI_ID", "SROL_ID", "SSUB_ID"})
+        if (std::strcmp(nombre, clave) == 0)
+            return true;
+    return false;
+}
+
+std::string_view recortar(std::string_view t)
+{
+    const auto desde = t.find_first_not_of(' ');
+    return desde == std::string_view::npos ? std::string_view() : t.substr(desde, t.find_last_not_of(' ') - desde + 1);
+}
+
+// Whether the signs of a pattern stand in the text at their places ("0000/00").
+bool misma_puntuacion(std::string_view patron, std::string_view t)
+{
+    for (size_t i = 0; i < patron.size(); ++i)
+        if (static_cast<unsigned char>(patron[i] - '0') > 9 && (i >= t.size() || t[i] != patron[i]))
+            return false;
+    return true;
+}
+
+// Whether a piece of the field's own width may be the field.
+bool cabe(const CampoRegistro& c, std::string_view t)
+{
+    switch (c.forma.clase) {
+    case Clase::cifras: return son_cifras(t);
+    case Clase::siNo: return t == "S" || t == "N";
+    case Clase::literal: return t == c.nombre;
+    case Clase::primeraLetra: return t == "F" || t == "P" || t == " ";
+    case Clase::talCual: return !c.forma.nulo || misma_puntuacion(c.forma.nulo, t);
+    default: return true;
+    }
+}
+
+// What a reading of the field with so many characters costs; IMPOSIBLE when it can't be.
+int costo(const CampoRegistro& c, std::string_view t)
+{
+    const auto ancho = size_t(c.ancho);
+    if (t.size() == ancho && cabe(c, t))
+        return 0;
+    switch (c.forma.clase) {
+    case Clase::cifras:
+        if (t.empty())
+            return c.forma.nulo || es_clave(c.nombre) ? IMPOSIBLE : 2;
+        if (t.front() == '-')
+            return t.size() > ancho && son_cifras(t.substr(1)) ? 1 + int(t.size() - ancho - 1) : IMPOSIBLE;
+        return t.size() > ancho && t.front() != '0' && son_cifras(t) ? 2 + int(t.size() - ancho) : IMPOSIBLE;
+    case Clase::talCual:
+        return t.empty() ? 2 : t.size() > ancho && t.size() <= ancho + 2 ? 3 : IMPOSIBLE;
+    case Clase::recortado:
+        // The blanks of the stored text make the field longer by as many.
+        return t.size() > ancho && recortar(t).size() <= ancho && (t.front() == ' ' || t.back() == ' ') ? 4 + int(t.size() - ancho) : IMPOSIBLE;
+    case Clase::hastaElAncho: return t.size() > ancho ? 1 : IMPOSIBLE;
+    default: return IMPOSIBLE;
+    }
+}
+
+std::pair<size_t, size_t> largos(const CampoRegistro& c)
+{
+    const auto ancho = size_t(c.ancho);
+    switch (c.forma.clase) {
+    case Clase::cifras: return {0, ancho + 1 + CIFRAS_DE_MAS};
+    case Clase::talCual: return {0, ancho + 2};
+    case Clase::recortado: return {ancho, ancho + BLANCOS_DE_MAS};
+    case Clase::hastaElAncho: return {ancho, ancho + BLANCOS_DE_MAS};
+    default: return {ancho, ancho};
+    }
+}
+
+// The plain case: every field has its width.
+int partir_llano(RegistroLeido& r)
+{
+    size_t lugar = 1;
+    size_t i = 0;
+    for (const CampoRegistro& c : r.registro->campos) {
+        if (lugar + size_t(c.ancho) > r.bytes.size())
+            return int(i);
+        r.campos[i] = r.bytes.substr(lugar, size_t(c.ancho));
+        if (!cabe(c, r.campos[i]))
+            return int(i);
+        lugar += size_t(c.ancho);
+        ++i;
+    }
+    return lugar == r.bytes.size() ? -1 : int(i) - 1;
+}
+
+// The cheapest reading of all fields over the whole record, from the last field backwards.
+bool partir_por_rarezas(RegistroLeido& r)
+{
+    const auto campos = r.registro->campos;
+    const size_t n = campos.size();
+    const size_t largo = r.bytes.size();
+    struct Paso
+    {
+        int costo = IMPOSIBLE;
+        int maneras = 0;
+        size_t tomados = 0;
+    };
+    std::vector<Paso> tabla((n + 1) * (largo + 1));
+    const auto en = [&](size_t i, size_t p) -> Paso& { return tabla[i * (largo + 1) + p]; };
+    en(n, largo) = {0, 1, 0};
+    for (size_t i = n; i-- > 0;) {
+        const auto [menor, mayor] = largos(campos[i]);
+        for (size_t p = 1; p <= largo; ++p) {
+            Paso& mejor = en(i, p);
+            for (size_t k = menor; k <= mayor && p + k <= largo; ++k) {
+                const Paso& resto = en(i + 1, p + k);
+                if (resto.costo >= IMPOSIBLE)
+                    continue;
+                const int c = costo(campos[i], r.bytes.substr(p, k));
+                if (c >= IMPOSIBLE)
+                    continue;
+                if (c + resto.costo < mejor.costo)
+                    mejor = {c + resto.costo, resto.maneras, k};
+                else if (c + resto.costo == mejor.costo)
+                    mejor.maneras = std::min(2, mejor.maneras + resto.maneras);
+            }
+        }
+    }
+    if (en(0, 1).costo >= IMPOSIBLE)
+        return false;
+    r.dudoso = en(0, 1).maneras > 1;
+    for (size_t i = 0, p = 1; i < n; ++i) {
+        r.campos[i] = r.bytes.substr(p, en(i, p).tomados);
+        p += en(i, p).tomados;
+    }
+    return true;
+}
+
+// Record 8: the deed, and a text of any length between its marks.
+int partir_testimonio(RegistroLeido& r)
+{
+    const std::string_view inicio = MARCA_INICIO;
+    const std::string_view fin = MARCA_FIN;
+    if (r.bytes.size() < 4 || !son_cifras(r.bytes.substr(1, 3)))
+        return 0;
+    if (r.bytes.substr(4, inicio.size()) != inicio)
+        return 1;
+    if (r.bytes.size() < 4 + inicio.size() + fin.size() || r.bytes.substr(r.bytes.size() - fin.size()) != fin)
+        return 3;
+    r.campos[0] = r.bytes.substr(1, 3);
+    r.campos[1] = inicio;
+    r.campos[2] = r.bytes.substr(4 + inicio.size(), r.bytes.size() - 4 - inicio.size() - fin.size());
+    r.campos[3] = fin;
+    return -1;
+}
+
+}  // namespace
+
+int partir_registro(RegistroLeido& r)
+{
+    r.dudoso = false;
+    const int falla = r.registro->tipo == '8' ? partir_testimonio(r) : partir_llano(r);
+    r.entero = falla < 0;
+    if (r.entero || r.registro->tipo == '8')
+        return falla;
+    const auto previsto = size_t(r.registro->ancho()) + 1;
+    if (r.bytes.size() > previsto + LARGO_DE_MAS)
+        return falla;
+    r.entero = partir_por_rarezas(r);
+    return r.entero ? -1 : falla;
+}
