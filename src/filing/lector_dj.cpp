@@ -33,11 +33,13 @@ qint64 numero(std::string_view cifras)
 
 struct Dominio
 {
+    char tipo;
     const char* campo;
     const char* letras;
 };
 // What a field of one letter may hold.
-constexpr Dominio DOMINIOS[] = {{"SEDJ_ESTADO", "01"}, {"SEDD_ESTADO", "PNE"}, {"SEDD_ALCANZADO", "SN"}, {"SPIN_NACIONALIDAD", "AE"}};
+constexpr Dominio DOMINIOS[] = {
+    {'1', "SEDJ_ESTADO", "01"}, {'2', "SEDD_ESTADO", "PNE"}, {'2', "SEDD_ALCANZADO", "SN"}, {'3', "SPIN_NACIONALIDAD", "AE"}};
 
 class Lector
 {
@@ -106,8 +108,11 @@ private:
 
     void digerir()
     {
+        const size_t antes = pendiente_.size();
+        pendiente_.resize(antes + r_.bytes.size());
+        char* a = pendiente_.data() + antes;
         for (const char c : r_.bytes)
-            pendiente_.push_back(codigos_[static_cast<unsigned char>(c)]);
+            *a++ = codigos_[static_cast<unsigned char>(c)];
         if (!r_.bytes.empty() && r_.bytes.front() == '4')
             pendiente_.append("\r\n");
         if (pendiente_.size() > BLOQUE)
@@ -167,7 +172,7 @@ private:
                     break;
                 }
         for (const Dominio& d : DOMINIOS)
-            if (const std::string_view v = r_.campo(d.campo); v.size() == 1 && !std::strchr(d.letras, v.front()))
+            if (const std::string_view v = d.tipo == r_.registro->tipo ? r_.campo(d.campo) : std::string_view(); v.size() == 1 && !std::strchr(d.letras, v.front()))
                 fallaDeValor(d.campo, QStringLiteral("el valor no es de los que admite el campo"));
         switch (r_.registro->tipo) {
         case '1': cabecera(); break;

@@ -106,6 +106,53 @@ int partir_llano(RegistroLeido& r)
     return lugar == r.bytes.size() ? -1 : int(i) - 1;
 }
 
+// One field alone makes up for the length of the record; all others have their width. This is the
+// common case (a number past its mask), and needs no table.
+bool partir_con_una(RegistroLeido& r)
+{
+    const auto campos = r.registro->campos;
+    const auto n = int(campos.size());
+    const auto de_mas = std::ptrdiff_t(r.bytes.size()) - r.registro->ancho() - 1;
+    std::array<size_t, CAMPOS_MAXIMOS + 1> lugares{};
+    lugares[0] = 1;
+    for (int i = 0; i < n; ++i)
+        lugares[size_t(i) + 1] = lugares[size_t(i)] + size_t(campos[size_t(i)].ancho);
+    const auto llano = [&](int i, std::ptrdiff_t corrido) {
+        const auto desde = std::ptrdiff_t(lugares[size_t(i)]) + corrido;
+        const auto ancho = size_t(campos[size_t(i)].ancho);
+        return desde >= 1 && size_t(desde) + ancho <= r.bytes.size() && cabe(campos[size_t(i)], r.bytes.substr(size_t(desde), ancho));
+    };
+    int antes = 0;  // fields from the start that stand at their places
+    while (antes < n && llano(antes, 0))
+        ++antes;
+    int despues = n;  // first of those that stand at their places counted from the end
+    while (despues > 0 && llano(despues - 1, de_mas))
+        --despues;
+    int elegido = -1;
+    int mejor = IMPOSIBLE;
+    bool empate = false;
+    for (int j = std::max(0, despues - 1); j <= std::min(antes, n - 1); ++j) {
+        const auto largo = campos[size_t(j)].ancho + de_mas;
+        if (largo < 0 || lugares[size_t(j)] + size_t(largo) > r.bytes.size())
+            continue;
+        const int c = costo(campos[size_t(j)], r.bytes.substr(lugares[size_t(j)], size_t(largo)));
+        empate = c < IMPOSIBLE && (c == mejor || (empate && c >= mejor));
+        if (c < mejor) {
+            mejor = c;
+            elegido = j;
+        }
+    }
+    if (elegido < 0 || de_mas == 0)
+        return false;
+    r.dudoso = empate;
+    for (int i = 0; i < n; ++i) {
+        const auto corrido = i > elegido ? de_mas : 0;
+        const auto largo = campos[size_t(i)].ancho + (i == elegido ? de_mas : 0);
+        r.campos[size_t(i)] = r.bytes.substr(size_t(std::ptrdiff_t(lugares[size_t(i)]) + corrido), size_t(largo));
+    }
+    return true;
+}
+
 // The cheapest reading of all fields over the whole record, from the last field backwards.
 bool partir_por_rarezas(RegistroLeido& r)
 {
@@ -179,6 +226,6 @@ int partir_registro(RegistroLeido& r)
     const auto previsto = size_t(r.registro->ancho()) + 1;
     if (r.bytes.size() > previsto + LARGO_DE_MAS)
         return falla;
-    r.entero = partir_por_rarezas(r);
+    r.entero = partir_con_una(r) || partir_por_rarezas(r);
     return r.entero ? -1 : falla;
 }

@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(Casos, LectorRarezas, testing::Values(
     Rareza{"update SEL_TB_RTN_CABDJ set SEDJ_OBSERVACIONES='una observación de bastante más de cincuenta caracteres, que corre lo demás'", false},
     Rareza{"update SEL_TB_RTN_CABDJ set SEDJ_ACRED_MONTO=-5", false},
     Rareza{"update SEL_TB_RTN_CABDJ set GLOC_ID=null", false},
-    Rareza{"update SEL_TB_RTN_INS_PARTES set SPIN_DOMICILIO='  con blancos  '", true},
+    Rareza{"update SEL_TB_RTN_INS_PARTES set SPIN_DOMICILIO='  con blancos  '", false},
     Rareza{"update SEL_TB_RTN_INS_OPERACIONES set SINS_BASEIMPONIBLE=null", true},
     Rareza{"update SEL_TB_RTN_INS_OPERACIONES set SINS_MONTO_EXENTO=null", true},   // four numbers of one width stand there
     Rareza{"update SEL_TB_RTN_INS_ROLES set SROL_ID=5707001001", false}));
