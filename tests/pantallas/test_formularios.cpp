@@ -1,0 +1,243 @@
+// Forms of the register, of real estate, of deeds that are not reached, and the finer points of the
+// operation's screen.
+
+#include "apoyo/apoyo.h"
+#include "computation/frmDJ_detalle_op.h"
+#include "core/MDIPrincipal.h"
+#include "declarations/frmDJ_buscar.h"
+#include "declarations/frmDJ_detalle.h"
+#include "declarations/frmRTN_buscar.h"
+#include "manejo/manejo.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+
+namespace {
+
+using namespace manejo;
+
+class PantallasFormularios : public ConAlmacen
+{
+protected:
+    void SetUp() override
+    {
+        ConAlmacen::SetUp();
+        cnRtn.ejecutar("insert into SEL_TB_RTN_PADRON (SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, GLOC_ID) values (101, 101, 'PÉREZ', 20123456786, 1)"_u);
+        principal = std::make_unique<MDIPrincipal>();
+        principal->resize(1200, 760);
+        principal->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(principal.get()));
+    }
+    void TearDown() override
+    {
+        principal.reset();
+        for (Formulario* f : Formulario::cargados())
+            delete f;
+        ConAlmacen::TearDown();
+    }
+    QWidget* abrirEscritura(bool nueva)
+    {
+        auto* lista = cargar<frmDJ_buscar>();
+        lista->mostrar();
+        pulsar(lista, "tlbDJ"_u, "modificar"_u);
+        auto* editor = formulario("frmDJ_editar");
+        solapa(editor, "SSTab1"_u, 1);
+        pulsar(editor, "tlbDetalle"_u, nueva ? "agregar"_u : "editar"_u);
+        return formulario("frmDJ_detalle");
+    }
+    QWidget* abrirOperacion(const char* codigo)
+    {
+        QWidget* e = abrirEscritura(false);
+        solapa(e, "SSTab1"_u, 1);
+        pulsar(e, "tlbOp"_u, "agregar"_u);
+        auto* f = formulario("frmDJ_detalle_op");
+        teclear(f, "ctlCodS"_u, QLatin1StringView(codigo));
+        pulsar(f, "tlb"_u, "guardar_op"_u);
+        return f;
+    }
+    static void valor(QWidget* f, const char* monto)
+    {
+        pulsar(f, "tlbBI"_u, "nuevo"_u);
+        escribir(f, "nroValorContractual"_u, QLatin1StringView(monto));
+        pulsar(f, "tlbBI"_u, "guardar"_u);
+    }
+    std::unique_ptr<MDIPrincipal> principal;
+};
+
+TEST_F(PantallasFormularios, RegistroDeAgentes)
+{
+    auto* lista = cargar<frmRTN_buscar>();
+    lista->mostrar();
+    pulsar(lista, "tlbRTN"_u, "modificar"_u);
+    auto* f = formulario("frmRTN_editar");
+    EXPECT_EQ(texto(f, "cboLocalidad"_u), "PUERTO MARVEN"_u);
+    escribir(f, "txtTitular"_u, "d'angelo ñandú"_u);
+    escribir(f, "txtEmail"_u, "o'x@y"_u);
+    EXPECT_EQ(texto(f, "txtTitular"_u) + texto(f, "txtEmail"_u), "D'ANGELO ÑANDÚox@y"_u);
+    Cajas::durante({{"Ingrese el domicilio del titular"_u, "Modificar agente de retención"_u, true, QMessageBox::Information, true}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
+    EXPECT_EQ(f->focusWidget(), control(f, "txtDomicilio"_u));
+    escribir(f, "txtDomicilio"_u, "calle 1"_u);
+    escribir(f, "txtCodPostal"_u, "9500"_u);
+    escribir(f, "nroRegNotarial"_u, "777"_u);  // the number of a stored agent stays
+    pulsar(f, "tlb"_u, "aceptar"_u);
+    EXPECT_EQ(filas("select SRTN_NRO, SRTN_TITULAR_NOMBRE, SRTN_DOMICILIO, SRTN_EMAIL from SEL_TB_RTN_PADRON"_u), "101|D'ANGELO ÑANDÚ|CALLE 1|ox@y"_u);
+    EXPECT_EQ(en_grilla(lista, "flxRTN"_u, 0, 1), "D'ANGELO ÑANDÚ"_u);
+    const CajaEsperada pregunta{"¿Está seguro que desea eliminar el agente de retención seleccionado?"_u, "Borrar agente de retención"_u, false, QMessageBox::Question, true};
+    Cajas::durante({pregunta}, [&] { pulsar(lista, "tlbRTN"_u, "borrar"_u); });
+    EXPECT_EQ(manejo::filas(lista, "flxRTN"_u), 1);
+    CajaEsperada si = pregunta;
+    si.si = true;
+    Cajas::durante({si}, [&] { pulsar(lista, "tlbRTN"_u, "borrar"_u); });
+    EXPECT_FALSE(habilitado(lista, "tlbRTN"_u, "modificar"_u));
+}
+
+TEST_F(PantallasFormularios, InmuebleDeOtraJurisdiccion)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    QWidget* e = abrirEscritura(false);
+    pulsar(e, "tlbInm"_u, "agregar"_u);
+    auto* f = formulario("frmDJ_editar_inmueble");
+    escribir(f, "txtINM_partida"_u, "1a2"_u);
+    Cajas::durante({{"Indique la ubicación del inmueble"_u, "Alta de inmueble"_u}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
+    elegir(f, "cboProv"_u, "CHACO"_u);
+    elegir(f, "cboU_caracter"_u, "RURAL"_u);
+    EXPECT_EQ(texto(f, "cboProv"_u), "MARVEN"_u);  // whatever it held
+    elegir(f, "cboU_caracter"_u, "EXTRAÑA JURISDICCION"_u);
+    EXPECT_EQ(texto(f, "cboProv"_u), QString());
+    elegir(f, "cboProv"_u, "MENDOZA"_u);
+    elegir(f, "cboU_caracter"_u, "EXTRAÑA JURISDICCION"_u);
+    EXPECT_EQ(texto(f, "cboProv"_u), "MENDOZA"_u);
+    elegir(f, "cboLoc"_u, "MENDOZA"_u);
+    Cajas::durante({{"Indique la valuación fiscal del inmueble"_u}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
+    escribir(f, "nroValFiscal"_u, "1234.5"_u);
+    pulsar(f, "tlb"_u, "aceptar"_u);
+    EXPECT_EQ(filas("select SEII_PARTIDA, SEII_VAL_FISCAL, SEII_UBIC_CIUDAD, SEII_UBIC_PROVINCIA, GTUB_ID, SEII_UBIC_LOTE from SEL_TB_RTN_INS_INMUEBLES"_u), "12|1234.5|MENDOZA|MENDOZA|4|null"_u);
+    pulsar(e, "tlbInm"_u, "editar"_u);
+    f = formulario("frmDJ_editar_inmueble");
+    EXPECT_EQ(texto(f, "cboLoc"_u) + texto(f, "nroValFiscal"_u), "MENDOZA1.234,50"_u);
+    escribir(f, "txtU_Lote"_u, "L1"_u);
+    pulsar(f, "tlb"_u, "cancelar"_u);
+    EXPECT_EQ(dato("select SEII_UBIC_LOTE from SEL_TB_RTN_INS_INMUEBLES"_u), "null"_u);
+    Cajas::durante({{"¿Esta seguro de borrar el inmueble seleccionado?"_u, "Borrar inmueble"_u}}, [&] { pulsar(e, "tlbInm"_u, "quitar"_u); });
+    EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_INS_INMUEBLES"_u), "0"_u);
+}
+
+TEST_F(PantallasFormularios, EscrituraNoAlcanzadaPorOtroMotivo)
+{
+    const QString dj = nueva_dj();
+    QWidget* f = abrirEscritura(true);
+    escribir(f, "txtNroEscritura"_u, "5"_u);
+    escribir(f, "txtFolio"_u, "5"_u);
+    escribir(f, "nroDia"_u, "5"_u);
+    elegir(f, "cboAlcanzado"_u, "No alcanzado"_u);
+    EXPECT_FALSE(control(f, "txtNoAlcanzado_Otro"_u)->isEnabled());
+    elegir(f, "cboDesc_NoAlcanzado"_u, "Otro"_u);
+    EXPECT_EQ(f->focusWidget(), control(f, "txtNoAlcanzado_Otro"_u));
+    Cajas::durante({{"Ingrese la descripcion de la operación No Alcanzada"_u}}, [&] { pulsar(f, "tlbDetalle"_u, "aceptar"_u); });
+    escribir(f, "txtNoAlcanzado_Otro"_u, "Un motivo"_u);
+    pulsar(f, "tlbDetalle"_u, "aceptar"_u);
+    EXPECT_EQ(filas("select SEDD_ESCRITURA_NRO, SEDD_ALCANZADO, SNAD_ID, SNAD_DESC_OTRO from SEL_TB_RTN_DETDJ"_u), "5|N|9|Un motivo"_u);
+    EXPECT_FALSE(control(f, "fraOperaciones"_u)->isEnabled());
+    pulsar(f, "tlbDetalle"_u, "editar"_u);
+    escribir(f, "txtObs"_u, "no se guarda"_u);
+    pulsar(f, "tlbDetalle"_u, "cancelar"_u);
+    EXPECT_EQ(texto(f, "txtObs"_u), QString());
+    pulsar(f, "tlbDetalle"_u, "salir"_u);  // nothing is missing, nothing is asked
+    EXPECT_EQ(en_grilla(formulario("frmDJ_editar"), "flxOp"_u, 0, 4), "No alcanzado"_u);
+    EXPECT_EQ(dj.size(), 17);
+}
+
+TEST_F(PantallasFormularios, ObligacionAccesoriaYPoliza)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    QWidget* f = abrirOperacion("11");
+    valor(f, "1000");
+    clic(f, "chkObligAccesoria"_u);
+    elegir(f, "cboObligAccesoria_modo"_u, "Prenda"_u);  // not in the item's mask: it adds nothing
+    clic(f, "optObligAccesoria_fijo"_u);
+    escribir(f, "nroObligAccesoria"_u, "500"_u);
+    EXPECT_EQ(texto(f, "nroBaseImponible"_u).remove(u'.'), "1000,00"_u);
+    EXPECT_FALSE(control(f, "txtObligAccesoria_poliza"_u)->isVisible());
+    elegir(f, "cboObligAccesoria_modo"_u, "Seguro de Caución"_u);
+    escribir(f, "txtObligAccesoria_poliza"_u, "P-1"_u);
+    solapa(f, "SSTab1"_u, 1);
+    EXPECT_EQ(texto(f, "nroBaseImponible"_u).remove(u'.'), "1500,00"_u);
+    solapa(f, "SSTab1"_u, 0);
+    clic(f, "optObligAccesoria_porc"_u);
+    escribir(f, "nroObligAccesoria"_u, "10"_u);
+    EXPECT_EQ(texto(f, "nroBaseImponible"_u).remove(u'.'), "1100,00"_u);
+    cnRtn.ejecutar("update SEL_TB_ROLES set SROL_REQUERIDO=0"_u);
+    static_cast<frmDJ_detalle_op*>(f)->SeleccionarSubconcepto(5707011);
+    EXPECT_EQ(texto(f, "ctlCodS"_u), "11"_u);  // the code by its place in the identifier
+    clic(f, "chkObligAccesoria"_u);
+    clic(f, "chkObligAccesoria"_u);
+    elegir(f, "cboObligAccesoria_modo"_u, "Seguro de Caución"_u);
+    pulsar(f, "tlb"_u, "guardar_det"_u);
+    EXPECT_EQ(filas("select SINS_OBLIG_ACCESORIA_FOP, SINS_OBLIG_ACCESORIA_VALOR, SINS_OBLIG_ACCESORIA_MODO, SINS_OBLIG_ACCESORIA_POLIZA from SEL_TB_RTN_INS_OPERACIONES"_u), "P|10.0|1|P-1"_u);
+    clic(f, "cmdDetallesSSUB"_u);
+    auto* detalle = formulario("frmDetalleSSUB");
+    EXPECT_EQ(texto(detalle, "txtCodS"_u) + texto(detalle, "txtDescripcion"_u), "11CONSTITUCION DE HIPOTECA"_u);
+    clic(detalle, "cmdCerrar"_u);
+    pulsar(f, "tlb"_u, "salir"_u);
+    pulsar(formulario("frmDJ_detalle"), "tlbOp"_u, "editar"_u);
+    f = formulario("frmDJ_detalle_op");
+    // The column holds 1 or 0: the first mode of that kind shows, not the one that was chosen.
+    EXPECT_EQ(texto(f, "cboObligAccesoria_modo"_u), "Fianza"_u);
+}
+
+TEST_F(PantallasFormularios, PrestamoYValoresBorrados)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    for (const int id : {1, 2})
+        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL) values ('%1', 1, %2, '5', %3)"_u.arg(dj).arg(id).arg(id * 1000));
+    QWidget* f = abrirOperacion("6");
+    valor(f, "5000");
+    Cajas::durante({{"Ingrese la valuación fiscal"_u}}, [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    clic(f, "cmdBienes"_u);
+    celda(f, "flxInm"_u, 1, 1);
+    EXPECT_EQ(texto(f, "lblValuacionFiscal"_u), "Valuación fiscal - Val.Fiscal: $2.000,00"_u);
+    Cajas::durante({{"Ingrese el monto de la hipoteca"_u}}, [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    escribir(f, "nroHipoteca"_u, "6000"_u);
+    // Both the base and the tax are computed on the change of the tab, and each says it.
+    const CajaEsperada prestamo{"El préstamo no puede ser mayor que el precio de venta"_u, "Atención"_u};
+    Cajas::durante({prestamo, prestamo}, [&] { solapa(f, "SSTab1"_u, 1); });
+    EXPECT_EQ(texto(f, "ctlBaseImponiblePesos"_u), "0,00"_u);
+    Cajas::durante({prestamo, prestamo}, [&] { solapa(f, "SSTab1"_u, 0); });
+    escribir(f, "nroHipoteca"_u, "1000"_u);
+    solapa(f, "SSTab1"_u, 1);
+    EXPECT_EQ(texto(f, "ctlBaseImponiblePesos"_u), "4.000,00"_u);
+    solapa(f, "SSTab1"_u, 0);
+    pulsar(f, "tlbBI"_u, "editar"_u);
+    EXPECT_EQ(texto(f, "nroValorContractual"_u).remove(u'.'), "5000,00"_u);
+    escribir(f, "nroValorContractual"_u, "3000"_u);
+    pulsar(f, "tlbBI"_u, "cancelar"_u);
+    EXPECT_EQ(dato("select SVCI_VALOR_CONTRACTUAL from SEL_TB_RTN_INS_VC"_u), "5000.0"_u);
+    Cajas::durante({{"Esta seguro que desea borrar el valor contractual seleccionado?"_u, "Borrar valor contractual"_u}}, [&] { pulsar(f, "tlbBI"_u, "borrar"_u); });
+    EXPECT_EQ(texto(f, "nroTotalVC"_u), "0,00"_u);
+    EXPECT_FALSE(habilitado(f, "tlbBI"_u, "borrar"_u));
+}
+
+TEST_F(PantallasFormularios, RectificarYCancelarNoCopiaDeNuevo)
+{
+    nueva_dj();
+    auto* lista = cargar<frmDJ_buscar>();
+    lista->mostrar();
+    pulsar(lista, "tlbDJ"_u, "rectificar"_u);
+    auto* f = formulario("frmDJ_editar");
+    EXPECT_EQ(f->windowTitle() + texto(f, "cboRectificativa"_u), "Rectificar DJ1"_u);
+    pulsar(f, "tlbDJ"_u, "editar"_u);
+    escribir(f, "txtObs"_u, "x"_u);
+    pulsar(f, "tlbDJ"_u, "cancelar"_u);
+    EXPECT_EQ(texto(f, "txtObs"_u), QString());
+    EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_CABDJ"_u), "2"_u);
+    pulsar(f, "tlbDJ"_u, "salir"_u);
+    EXPECT_EQ(manejo::filas(lista, "flx"_u), 2);
+}
+
+}  // namespace
