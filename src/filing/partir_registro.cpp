@@ -62,6 +62,8 @@ int costo(const CampoRegistro& c, std::string_view t)
         return 0;
     switch (c.forma.clase) {
     case Clase::cifras:
+        if (!t.empty() && t.size() < ancho)
+            return IMPOSIBLE;
         if (t.empty())
             return c.forma.nulo || es_clave(c.nombre) ? IMPOSIBLE : 2;
         if (t.front() == '-')
@@ -153,48 +155,115 @@ bool partir_con_una(RegistroLeido& r)
     return true;
 }
 
-// The cheapest reading of all fields over the whole record, from the last field backwards.
-bool partir_por_rarezas(RegistroLeido& r)
+// The cheapest reading of all fields over the whole record. Only the places that a reading reaches
+// are looked at; the table is kept from record to record, and a turn tells which of it is of this one.
+class Rarezas
 {
-    const auto campos = r.registro->campos;
-    const size_t n = campos.size();
-    const size_t largo = r.bytes.size();
+public:
+    bool partir(RegistroLeido& r)
+    {
+        r_ = &r;
+        campos_ = r.registro->campos;
+        ancho_ = r.bytes.size() + 1;
+        // A record that is too short has something missing: no text of it is longer than it should be.
+        puedeAlargar_ = std::ptrdiff_t(r.bytes.size()) > r.registro->ancho() + 1;
+        if (tabla_.size() < (campos_.size() + 1) * ancho_)
+            tabla_.resize((campos_.size() + 1) * ancho_);
+        ++turno_;
+        if (resolver(0, 1).costo >= IMPOSIBLE)
+            return false;
+        r.dudoso = resolver(0, 1).maneras > 1;
+        for (size_t i = 0, p = 1; i < campos_.size(); ++i) {
+            const size_t tomados = resolver(i, p).tomados;
+            r.campos[i] = r.bytes.substr(p, tomados);
+            p += tomados;
+        }
+        return true;
+    }
+
+private:
     struct Paso
     {
+        unsigned turno = 0;
         int costo = IMPOSIBLE;
         int maneras = 0;
         size_t tomados = 0;
     };
-    std::vector<Paso> tabla((n + 1) * (largo + 1));
-    const auto en = [&](size_t i, size_t p) -> Paso& { return tabla[i * (largo + 1) + p]; };
-    en(n, largo) = {0, 1, 0};
-    for (size_t i = n; i-- > 0;) {
-        const auto [menor, mayor] = largos(campos[i]);
-        for (size_t p = 1; p <= largo; ++p) {
-            Paso& mejor = en(i, p);
-            for (size_t k = menor; k <= mayor && p + k <= largo; ++k) {
-                const Paso& resto = en(i + 1, p + k);
-                if (resto.costo >= IMPOSIBLE)
-                    continue;
-                const int c = costo(campos[i], r.bytes.substr(p, k));
-                if (c >= IMPOSIBLE)
-                    continue;
-                if (c + resto.costo < mejor.costo)
-                    mejor = {c + resto.costo, resto.maneras, k};
-                else if (c + resto.costo == mejor.costo)
-                    mejor.maneras = std::min(2, mejor.maneras + resto.maneras);
+
+    Paso resolver(size_t i, size_t p)
+    {
+        if (i == campos_.size())
+            return p == r_->bytes.size() ? Paso{turno_, 0, 1, 0} : Paso{turno_, IMPOSIBLE, 0, 0};
+        const size_t lugar = i * ancho_ + p;
+        if (tabla_[lugar].turno == turno_)
+            return tabla_[lugar];
+        Paso mejor{turno_, IMPOSIBLE, 0, 0};
+        auto [menor, mayor] = largos(campos_[i]);
+        if (!puedeAlargar_ && campos_[i].forma.clase != Clase::cifras)
+            mayor = std::min(mayor, size_t(campos_[i].ancho));
+        for (size_t k = menor; k <= mayor && p + k <= r_->bytes.size(); ++k) {
+            const int c = costo(campos_[i], r_->bytes.substr(p, k));
+            if (c >= IMPOSIBLE)
+                continue;
+            const Paso resto = resolver(i + 1, p + k);
+            if (c + resto.costo < mejor.costo) {
+                mejor.costo = c + resto.costo;
+                mejor.maneras = resto.maneras;
+                mejor.tomados = k;
+            } else if (resto.costo < IMPOSIBLE && c + resto.costo == mejor.costo) {
+                mejor.maneras = std::min(2, mejor.maneras + resto.maneras);
             }
         }
+        tabla_[lugar] = mejor;
+        return mejor;
     }
-    if (en(0, 1).costo >= IMPOSIBLE)
-        return false;
-    r.dudoso = en(0, 1).maneras > 1;
-    for (size_t i = 0, p = 1; i < n; ++i) {
-        r.campos[i] = r.bytes.substr(p, en(i, p).tomados);
-        p += en(i, p).tomados;
+
+    RegistroLeido* r_ = nullptr;
+    std::span<const CampoRegistro> campos_;
+    size_t ancho_ = 0;
+    bool puedeAlargar_ = true;
+    unsigned turno_ = 0;
+    std::vector<Paso> tabla_;
+};
+
+// Operations of one kind leave the same numbers out: the reading of the last record whose numbers
+// alone were odd is tried on the next one of its length.
+class UltimaRareza
+{
+public:
+    bool partir(RegistroLeido& r) const
+    {
+        if (r.bytes.size() != largo_ || r.registro != registro_)
+            return false;
+        size_t p = 1;
+        for (size_t i = 0; i < r.registro->campos.size(); p += tomados_[i], ++i) {
+            r.campos[i] = r.bytes.substr(p, tomados_[i]);
+            if (costo(r.registro->campos[i], r.campos[i]) >= IMPOSIBLE)
+                return false;
+        }
+        r.dudoso = dudoso_;
+        return true;
     }
-    return true;
-}
+    void recordar(const RegistroLeido& r)
+    {
+        registro_ = nullptr;
+        for (size_t i = 0; i < r.registro->campos.size(); ++i) {
+            tomados_[i] = r.campos[i].size();
+            // A text with blanks at its ends is that record's own.
+            if (tomados_[i] != size_t(r.registro->campos[i].ancho) && r.registro->campos[i].forma.clase != Clase::cifras)
+                return;
+        }
+        registro_ = r.registro;
+        largo_ = r.bytes.size();
+        dudoso_ = r.dudoso;
+    }
+
+private:
+    const Registro* registro_ = nullptr;
+    size_t largo_ = 0;
+    std::array<size_t, CAMPOS_MAXIMOS> tomados_{};
+    bool dudoso_ = false;
+};
 
 // Record 8: the deed, and a text of any length between its marks.
 int partir_testimonio(RegistroLeido& r)
@@ -226,6 +295,12 @@ int partir_registro(RegistroLeido& r)
     const auto previsto = size_t(r.registro->ancho()) + 1;
     if (r.bytes.size() > previsto + LARGO_DE_MAS)
         return falla;
-    r.entero = partir_con_una(r) || partir_por_rarezas(r);
+    static Rarezas rarezas;
+    static UltimaRareza ultima;
+    r.entero = ultima.partir(r) || partir_con_una(r);
+    if (!r.entero && rarezas.partir(r)) {
+        r.entero = true;
+        ultima.recordar(r);
+    }
     return r.entero ? -1 : falla;
 }
