@@ -2,26 +2,12 @@
 
 #include <QComboBox>
 #include <QEvent>
-#include <QKeyEvent>
+#include <QFocusEvent>
 #include <QLineEdit>
+#include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 
 namespace {
-
-class FiltroDigitos : public QObject
-{
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject* objeto, QEvent* evento) override
-    {
-        if (evento->type() != QEvent::KeyPress)
-            return QObject::eventFilter(objeto, evento);
-        const auto* k = static_cast<QKeyEvent*>(evento);
-        const QString t = k->text();
-        const bool orden = k->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-        return !orden && !t.isEmpty() && t.front().isPrint() && !(t.front() >= u'0' && t.front() <= u'9');
-    }
-};
 
 // On leaving the combo, what was typed goes to the first entry that starts with it.
 class FiltroCompletar : public QObject
@@ -82,7 +68,8 @@ void a_mayusculas(QLineEdit* texto)
 
 void solo_digitos_en(QLineEdit* texto)
 {
-    texto->installEventFilter(new FiltroDigitos(texto));
+    static const QRegularExpression digitos(QStringLiteral("[0-9]*"));
+    texto->setValidator(new QRegularExpressionValidator(digitos, texto));
 }
 
 void habilitar_texto(QLineEdit* texto, bool si)

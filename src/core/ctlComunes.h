@@ -11,7 +11,7 @@ class QWidget;
 
 /// Turns what is typed to capitals at once, the caret staying where it was.
 void a_mayusculas(QLineEdit* texto);
-/// Lets only digits be typed.
+/// Lets only digits be typed or pasted.
 void solo_digitos_en(QLineEdit* texto);
 /// Back colour of a window or of a face, and the enabled state.
 void habilitar_texto(QLineEdit* texto, bool si);
