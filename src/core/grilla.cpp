@@ -35,6 +35,12 @@ int pixeles(const QWidget* w, int twips)
     return twips * w->logicalDpiX() / 1440;
 }
 
+int ancho_columna(const QWidget* w, int twips)
+{
+    const double escala = std::max(1.0, w->fontMetrics().horizontalAdvance(u'0') / DIGITO_ORIGINAL);
+    return int(pixeles(w, twips) * escala);
+}
+
 void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos)
 {
     grilla->preparar(titulos, anchos);
@@ -43,11 +49,10 @@ void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int
 void Grilla::preparar(const QStringList& titulos, const QList<int>& anchos)
 {
     modelo_.preparar(titulos);
-    const double escala = std::max(1.0, fontMetrics().horizontalAdvance(u'0') / DIGITO_ORIGINAL);
     for (int i = 0; i < titulos.size(); ++i) {
         setColumnHidden(i, anchos.value(i) == 0);
         if (anchos.value(i) > 0)
-            setColumnWidth(i, std::max(int(pixeles(this, anchos[i]) * escala), horizontalHeader()->sectionSizeHint(i)));
+            setColumnWidth(i, std::max(ancho_columna(this, anchos[i]), horizontalHeader()->sectionSizeHint(i)));
     }
 }
 
@@ -76,7 +81,7 @@ void Grilla::llenar(const std::function<void()>& rellenar)
             int fila = 0;
             if (!anterior.isEmpty())
                 for (int i = 0; i < g.filas() && fila == 0; ++i)
-                    fila = g.celda(i, 0) == anterior ? i : 0;
+                    fila = g.celda(i, g.columnaClave_) == anterior ? i : 0;
             g.verticalScrollBar()->setValue(desplazamiento);
             g.irAFila(fila, columna);
         }

@@ -17,7 +17,7 @@ public:
     /// Titles, and widths in twips; a width of 0 hides the column.
     void preparar(const QStringList& titulos, const QList<int>& anchos);
     /// Empties the grid and fills it by the function, which calls `agregar`. The row that was
-    /// selected, known by its first cell, is selected again, else the first one. When the function
+    /// selected, known by its key cell, is selected again, else the first one. When the function
     /// throws, the rows that it added stay.
     void llenar(const std::function<void()>& rellenar);
     void agregar(const QStringList& celdas) { modelo_.agregar(celdas); }
@@ -32,8 +32,10 @@ public:
     void irAFila(int fila, int columna = -1);
     [[nodiscard]] QString celda(int fila, int columna) const { return modelo_.texto(fila, columna); }
     void ponerCelda(int fila, int columna, const QString& texto) { modelo_.ponerTexto(fila, columna, texto); }
-    /// The first cell of the current row, empty without one.
-    [[nodiscard]] QString clave() const { return celda(filaActual(), 0); }
+    /// The column whose cells tell the rows apart; the first one unless it is set.
+    void setColumnaClave(int columna) { columnaClave_ = columna; }
+    /// The key cell of the current row, empty without one.
+    [[nodiscard]] QString clave() const { return celda(filaActual(), columnaClave_); }
 
 signals:
     /// A double click on a row, or Enter on it.
@@ -47,10 +49,13 @@ private:
     [[nodiscard]] int primeraVisible() const;
 
     ModeloGrilla modelo_;
+    int columnaClave_ = 0;
 };
 
 /// Pixels of a length in twips at the window's resolution.
 [[nodiscard]] int pixeles(const QWidget* w, int twips);
+/// Pixels of a column's width in twips, which was drawn for a narrower font than the one in use.
+[[nodiscard]] int ancho_columna(const QWidget* w, int twips);
 
 /// Titles and widths of a grid, as the forms set them.
 void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos);
