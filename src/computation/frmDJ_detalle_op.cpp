@@ -69,7 +69,6 @@ frmDJ_detalle_op::frmDJ_detalle_op() : ui(std::make_unique<Ui::frmDJ_detalle_op>
     ui->flxInm->hide();
     ui->fraEditarVC->hide();
     ui->SSTab1->hide();
-    ui->cmdBuscarSubcon->setEnabled(false);
     for (const auto& [clave, texto] : {std::pair{"nuevo", "Nuevo valor contractual parcial"},
                                        std::pair{"editar", "Editar el valor contractual parcial seleccionado"},
                                        std::pair{"borrar", "Borrar el valor contractual parcial seleccionado"}})
@@ -100,6 +99,11 @@ void frmDJ_detalle_op::conectar()
     connect(ui->ctlCodS, &ctlNumero::KeyPress, this, [this](int& tecla) {
         if (tecla == 13 && seleccionarPorCodigo())
             ponerEstado(Estado::cambiando);
+    });
+    connect(ui->cmdBuscarSubcon, &QPushButton::clicked, this, [this] {
+        auto* catalogo = cargar<frmSubconceptos>();
+        catalogo->fijarLey(ley_);
+        abrir(catalogo);
     });
     connect(ui->cmdDetallesSSUB, &QPushButton::clicked, this, [this] {
         if (!subconcepto_)
@@ -162,7 +166,7 @@ void frmDJ_detalle_op::Iniciar(Modo operacion, int id)
     if (operacion == Modo::nuevo) {
         setWindowTitle(QStringLiteral("Nueva operación"));
         ui->fraSSUB->setEnabled(true);
-        ui->ctlCodS->Habilitar(true);
+        habilitarEleccion(true);
         ponerEstado(Estado::nueva);
         ui->ctlCodS->setFocus();
     } else if (operacion == Modo::modificar) {
@@ -174,7 +178,7 @@ void frmDJ_detalle_op::Iniciar(Modo operacion, int id)
         cargarOperacion();
         cargando_ = false;
         recargarRoles();
-        ui->ctlCodS->Habilitar(false);
+        habilitarEleccion(false);
         ponerEstado(Estado::consulta);
     }
     DialogoPantalla dialogo(this);
@@ -226,10 +230,19 @@ void frmDJ_detalle_op::tlb_pulsada(const QString& clave)
         cancelar();
 }
 
+// Three characters from the sixth one: deliberate, though the code of a law of four digits has but
+// two of them there.
 void frmDJ_detalle_op::SeleccionarSubconcepto(int id)
 {
     ui->ctlCodS->setValue(QString::number(id).mid(5, 3).toInt());
     seleccionarPorCodigo();
+}
+
+// The code of an item, and the way to find it by its text.
+void frmDJ_detalle_op::habilitarEleccion(bool si)
+{
+    ui->ctlCodS->Habilitar(si);
+    ui->cmdBuscarSubcon->setEnabled(si);
 }
 
 // True when the item on the screen is another than the current one.
@@ -348,14 +361,14 @@ void frmDJ_detalle_op::guardarOperacion()
         alturaCompleta();
         recargarRoles();
         ponerEstado(Estado::reciengrabada);
-        ui->ctlCodS->Habilitar(false);
+        habilitarEleccion(false);
         guardado_ = true;
         return;
     }
     adaptarRoles();
     recargarValores();
     calcularImpuesto();
-    ui->ctlCodS->Habilitar(false);
+    habilitarEleccion(false);
     ponerEstado(Estado::editando);
 }
 
@@ -369,7 +382,7 @@ void frmDJ_detalle_op::cambiarOperacion()
                       windowTitle() + QStringLiteral(" - Cambiar operación")))
         return;
     codigoAnterior_ = codigo();
-    ui->ctlCodS->Habilitar(true);
+    habilitarEleccion(true);
     ui->ctlCodS->setFocus();
     ponerEstado(Estado::cambiando);
 }
@@ -466,7 +479,7 @@ void frmDJ_detalle_op::cancelar()
         adaptarRoles();
         calcularImpuesto();
     }
-    ui->ctlCodS->Habilitar(false);
+    habilitarEleccion(false);
     ponerEstado(Estado::consulta);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "catalogue/clsSubconcepto.h"
+#include "catalogue/frmSubconceptos.h"
 #include "computation/calculo.h"
 #include "core/formulario.h"
 
@@ -15,7 +16,7 @@ struct ClaveOperacion;
 struct ParteRol;
 class ctlNumero;
 
-class frmDJ_detalle_op : public Formulario
+class frmDJ_detalle_op : public Formulario, public ReceptorSubconcepto
 {
     Q_OBJECT
 
@@ -29,7 +30,7 @@ public:
     /// Sets the screen up for a new operation, or loads one; then finds the law of the deed's date.
     void Iniciar(Modo operacion, int id);
     /// Takes the item that was picked in the catalogue, by its identifier.
-    void SeleccionarSubconcepto(int id);
+    void SeleccionarSubconcepto(int id) override;
 
 protected:
     bool consultarDescarga() override;
@@ -44,6 +45,7 @@ private:
     void conectar();
     void tlb_pulsada(const QString& clave);
 
+    void habilitarEleccion(bool si);
     bool seleccionarPorCodigo();
     bool cargarSubconcepto();
     void limpiarSubconcepto();

@@ -1,5 +1,6 @@
 #include "core/MDIPrincipal.h"
 
+#include "catalogue/frmSubconceptos.h"
 #include "core/arranque.h"
 #include "core/formulario.h"
 #include "core/frmAcercaDe.h"
@@ -26,6 +27,12 @@ MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
     Formulario::fijarArea(ui->area);
 
     connect(ui->ssmRTN, &QAction::triggered, this, [] { cargar<frmRTN_buscar>()->mostrar(); });
+    connect(ui->smSubconceptos, &QAction::triggered, this, [this] {
+        auto* catalogo = cargar<frmSubconceptos>();
+        Hab_Deshab_Menu(false);
+        connect(catalogo, &frmSubconceptos::cerrado, this, [this] { Hab_Deshab_Menu(true); });
+        catalogo->mostrar();
+    });
     connect(ui->ssmDJ, &QAction::triggered, this, [] { cargar<frmDJ_buscar>()->mostrar(); });
     connect(ui->ssmBackup, &QAction::triggered, this, [] { cargar<frmBackup>()->mostrar(); });
     connect(ui->smAcercaDe, &QAction::triggered, this, [] { cargar<frmAcercaDe>()->mostrar(); });

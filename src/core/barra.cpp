@@ -20,9 +20,10 @@ constexpr std::array BOTONES{
     Boton{"agregar", "Agregar", "agregar"},
     Boton{"alta", "A&lta", "agregar"},
     Boton{"borrar", "&Borrar", "borrar"},
-    Boton{"buscar", "&Buscar", "buscar"},
+    Boton{"buscar", "B&uscar", "buscar"},
     Boton{"cambiar_op", "Cambiar &operación", "cambiar"},
     Boton{"cancelar", "&Cancelar", "cancelar"},
+    Boton{"desmarcar", "&Desmarcar", "desmarcar"},
     Boton{"editar", "&Editar", "editar"},
     Boton{"editar_det", "&Editar", "editar"},
     Boton{"emitir", "&Emitir", "emitir"},
@@ -31,6 +32,7 @@ constexpr std::array BOTONES{
     Boton{"guardar_det", "Guardar &datos", "guardar"},
     Boton{"guardar_op", "G&uardar operación", "aceptar"},
     Boton{"imprimir", "&Imprimir", "imprimir"},
+    Boton{"marcar", "Mar&car", "marcar"},
     Boton{"modificar", "&Modificar", "editar"},
     Boton{"nueva", "&Nueva", "nueva"},
     Boton{"nuevo", "&Nuevo", "nueva"},
@@ -38,6 +40,7 @@ constexpr std::array BOTONES{
     Boton{"quitar", "&Quitar", "borrar"},
     Boton{"recibo", "&Recibo", "recibo"},
     Boton{"rectificar", "&Rectificar", "rectificar"},
+    Boton{"seleccionar", "Selecciona&r", "aceptar"},
     Boton{"salir", "Sal&ir", "salir"},
 };
 

@@ -1,9 +1,11 @@
 #include "core/formulario.h"
 
+#include "core/barra.h"
 #include "core/mensajes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -145,6 +147,15 @@ void Formulario::changeEvent(QEvent* evento)
     if (evento->type() == QEvent::ActivationChange && !subventana_ && isActiveWindow() && !descargada_
         && isVisible() && ultima_activa != this)
         activarse();
+}
+
+void Formulario::keyPressEvent(QKeyEvent* evento)
+{
+    const bool acepta = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+    if (barra_ && (acepta || evento->key() == Qt::Key_Escape))
+        barra_->pulsar(acepta ? QStringLiteral("aceptar") : QStringLiteral("cancelar"));
+    else
+        QWidget::keyPressEvent(evento);
 }
 
 void Formulario::abrir(Formulario* hijo)

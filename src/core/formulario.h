@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class BarraHerramientas;
 class QMdiArea;
 class QMdiSubWindow;
 
@@ -49,12 +50,15 @@ protected:
     void enfocar(const QString& control);
     /// Whether the control, or what stands inside it, has the focus.
     [[nodiscard]] bool esActivo(const QWidget* control) const;
+    /// Enter anywhere on the form presses "aceptar" of the bar, Escape "cancelar".
+    void teclasDeBarra(BarraHerramientas* barra) { barra_ = barra; }
     /// Brings a form that this one opens into its place: caller set, window shown.
     void abrir(Formulario* hijo);
 
     void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void changeEvent(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
 
 private:
     void traerAlFrente();
@@ -62,6 +66,7 @@ private:
 
     QPointer<QMdiSubWindow> subventana_;
     bool descargada_ = false;
+    BarraHerramientas* barra_ = nullptr;
 };
 
 template <class F>

@@ -2,7 +2,11 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <QVarLengthArray>
+
+#include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -54,32 +58,68 @@ void fn_iif(sqlite3_context* ctx, int, sqlite3_value** v)
     sqlite3_result_value(ctx, sqlite3_value_int(v[0]) != 0 ? v[1] : v[2]);
 }
 
-bool coincide(const QChar* p, const QChar* pFin, const QChar* t, const QChar* tFin)
+using Unidades = QVarLengthArray<char16_t, 256>;
+
+// The characters of a text without regard to case.
+void plegar(sqlite3_value* v, Unidades& destino)
 {
-    for (; p != pFin; ++p, ++t) {
-        if (*p == u'%') {
-            while (p != pFin && *p == u'%')
-                ++p;
-            if (p == pFin)
-                return true;
-            for (; t != tFin; ++t)
-                if (coincide(p, pFin, t, tFin))
-                    return true;
+    const auto* bytes = sqlite3_value_text(v);
+    const int n = sqlite3_value_bytes(v);
+    destino.resize(n);
+    for (int i = 0; i < n; ++i) {
+        if (bytes[i] >= 0x80) {
+            const QString entero = QString::fromUtf8(reinterpret_cast<const char*>(bytes), n);
+            destino.resize(entero.size());
+            std::transform(entero.begin(), entero.end(), destino.begin(), [](QChar c) { return c.toCaseFolded().unicode(); });
+            return;
+        }
+        destino[i] = bytes[i] >= 'A' && bytes[i] <= 'Z' ? char16_t(bytes[i] + ('a' - 'A')) : char16_t(bytes[i]);
+    }
+}
+
+// "%" stands for any run of characters, "_" for one. On a mismatch the last "%" takes one more.
+bool coincide(const Unidades& patron, const Unidades& texto)
+{
+    qsizetype p = 0;
+    qsizetype t = 0;
+    qsizetype comodin = -1;
+    qsizetype desde = 0;
+    while (t < texto.size()) {
+        if (p < patron.size() && patron[p] == u'%') {
+            comodin = p++;
+            desde = t;
+        } else if (p < patron.size() && (patron[p] == u'_' || patron[p] == texto[t])) {
+            ++p;
+            ++t;
+        } else if (comodin >= 0) {
+            p = comodin + 1;
+            t = ++desde;
+        } else {
             return false;
         }
-        if (t == tFin || (*p != u'_' && p->toCaseFolded() != t->toCaseFolded()))
-            return false;
     }
-    return t == tFin;
+    while (p < patron.size() && patron[p] == u'%')
+        ++p;
+    return p == patron.size();
 }
 
 void fn_like(sqlite3_context* ctx, int n, sqlite3_value** v)
 {
     if (alguno_nulo(ctx, n, v))
         return;
-    const QString patron = texto_de(v[0]);
-    const QString texto = texto_de(v[1]);
-    sqlite3_result_int(ctx, coincide(patron.cbegin(), patron.cend(), texto.cbegin(), texto.cend()));
+    // The pattern is the same for every row of a statement.
+    auto* patron = static_cast<Unidades*>(sqlite3_get_auxdata(ctx, 0));
+    std::unique_ptr<Unidades> nuevo;
+    if (!patron) {
+        nuevo = std::make_unique<Unidades>();
+        plegar(v[0], *nuevo);
+        patron = nuevo.get();
+    }
+    Unidades texto;
+    plegar(v[1], texto);
+    sqlite3_result_int(ctx, coincide(*patron, texto));
+    if (nuevo)
+        sqlite3_set_auxdata(ctx, 0, nuevo.release(), [](void* p) { delete static_cast<Unidades*>(p); });
 }
 
 // Position of a letter in the Spanish alphabet, accents and case apart.

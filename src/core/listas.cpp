@@ -31,3 +31,11 @@ Entradas localidades_propias()
                              + QStringLiteral(" order by L.GLOC_DESCRIPCION collate ESPANOL "),
                          "GLOC_DESCRIPCION", "GLOC_ID");
 }
+
+Entradas conceptos_sellos()
+{
+    Entradas lista;
+    for (Recordset rs(cnRtn, QStringLiteral("select SCON_ID, SCON_DESCRIPCION from SEL_TB_CONCEPTOS")); !rs.eof(); rs.siguiente())
+        lista.push_back({rs.texto("SCON_ID") + QStringLiteral(" - ") + rs.texto("SCON_DESCRIPCION"), rs.valor("SCON_ID")});
+    return lista;
+}

@@ -21,3 +21,5 @@ using Entradas = std::vector<Entrada>;
 [[nodiscard]] Entradas provincias();
 [[nodiscard]] Entradas localidades(int provincia);
 [[nodiscard]] Entradas localidades_propias();
+/// The concepts of the catalogue, each as its number, " - " and its name.
+[[nodiscard]] Entradas conceptos_sellos();

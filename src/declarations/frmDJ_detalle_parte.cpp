@@ -74,7 +74,6 @@ frmDJ_detalle_parte::frmDJ_detalle_parte() : ui(std::make_unique<Ui::frmDJ_detal
     ui->cboRol->setEnabled(false);
     ui->cboRol->hide();
     ui->lblRol->hide();
-    ui->tlb->habilitar(QStringLiteral("buscar"), false);
     conectar();
 }
 
@@ -100,7 +99,9 @@ void frmDJ_detalle_parte::conectar()
     connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
         if (clave == u"aceptar")
             aceptar();
-        else if (clave == u"cancelar")
+        else if (clave == u"buscar")
+            buscar();
+        else
             descargar();
     });
 }
@@ -128,7 +129,15 @@ void frmDJ_detalle_parte::Inicializar(Modo operacion, int id)
         mostrarParte(*p);
 }
 
-void frmDJ_detalle_parte::mostrarParte(const Parte& p)
+void frmDJ_detalle_parte::buscar()
+{
+    auto* busqueda = cargar<frmDJ_buscar_parte>();
+    busqueda->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());
+    abrir(busqueda);
+}
+
+// The document, the name and what always goes with them.
+void frmDJ_detalle_parte::mostrarPersona(const Parte& p)
 {
     seleccionar_item(ui->cboTipoSociedad, p.tipoSociedad.value_or(-1));
     seleccionar_item(ui->cboTipoDoc, p.tipoDoc.isEmpty() ? -1 : p.tipoDoc.toInt());
@@ -146,16 +155,48 @@ void frmDJ_detalle_parte::mostrarParte(const Parte& p)
     ui->txtDomicilio->setText(p.domicilio);
     ui->txtCP->setText(p.codPostal);
     ui->txtObs->setText(p.observaciones);
+}
+
+void frmDJ_detalle_parte::mostrarExencion(double porcentaje)
+{
+    ui->chkExento->setChecked(true);
+    ui->nroExencionPorc->Habilitar(true);
+    ui->nroExencionPorc->setValue(porcentaje);
+}
+
+void frmDJ_detalle_parte::mostrarParte(const Parte& p)
+{
+    mostrarPersona(p);
     seleccionar_item(ui->cboProv, p.provincia.value_or(-1));
     cargar_localidades();
     seleccionar_item(ui->cboLoc, p.localidad.value_or(-1));
     (p.nacionalidad == u"E" ? ui->optExtranjera : ui->optArgentina)->setChecked(true);
     if (p.nacionalidad == u"E")
         buscar_en_combo(ui->cboCodigoPais, 1, p.codigoPais);
-    ui->chkExento->setChecked(p.porcExento.has_value());
-    ui->nroExencionPorc->Habilitar(p.porcExento.has_value());
     if (p.porcExento)
-        ui->nroExencionPorc->setValue(*p.porcExento);
+        mostrarExencion(*p.porcExento);
+}
+
+void frmDJ_detalle_parte::copiarParte(const Parte& p)
+{
+    ui->nroDoc->ClearText();
+    ui->txtPasaporte->clear();
+    mostrarPersona(p);
+    if (p.provincia) {
+        seleccionar_item(ui->cboProv, *p.provincia);
+        cargar_localidades();
+    }
+    if (p.localidad)
+        seleccionar_item(ui->cboLoc, *p.localidad);
+    if (p.nacionalidad == u"A")
+        ui->optArgentina->setChecked(true);
+    else if (p.nacionalidad == u"E")
+        ui->optExtranjera->setChecked(true);
+    if (p.porcExento)
+        mostrarExencion(*p.porcExento);
+    if (!p.codigoPais.isEmpty())
+        buscar_en_combo(ui->cboCodigoPais, 1, p.codigoPais);
+    salirDeNumero();
 }
 
 void frmDJ_detalle_parte::mostrarCampoNumero()

@@ -1,7 +1,7 @@
 // One party of a deed.
 #pragma once
 
-#include "core/formulario.h"
+#include "declarations/frmDJ_buscar_parte.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ namespace Ui {
 class frmDJ_detalle_parte;
 }
 
-class frmDJ_detalle_parte : public Formulario
+class frmDJ_detalle_parte : public Formulario, public ReceptorParte
 {
     Q_OBJECT
 
@@ -24,8 +24,14 @@ public:
     /// Whether a CUIT under way may be entered.
     void permitirCuitEnTramite(bool si);
 
+    /// Takes the data of a person; what the stored row lacks stays as the screen has it.
+    void copiarParte(const Parte& p) override;
+
 private:
-    void mostrarParte(const struct Parte& p);
+    void mostrarParte(const Parte& p);
+    void mostrarPersona(const Parte& p);
+    void mostrarExencion(double porcentaje);
+    void buscar();
     void aceptar();
     void mostrarCampoNumero();
     void habilitarEnTramite();

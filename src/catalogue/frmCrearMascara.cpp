@@ -1,0 +1,58 @@
+#include "catalogue/frmCrearMascara.h"
+
+#include "core/modGlobales.h"
+#include "ui_frmCrearMascara.h"
+
+#include <QSignalBlocker>
+
+frmCrearMascara::frmCrearMascara() : ui(std::make_unique<Ui::frmCrearMascara>())
+{
+    ui->setupUi(this);
+    connect(ui->lstElem, &QListWidget::itemChanged, this, &frmCrearMascara::sumar);
+    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        if (clave == u"aceptar" && destino_)
+            destino_->setText(ui->txtMascara->text());
+        descargar();
+    });
+}
+
+frmCrearMascara::~frmCrearMascara() = default;
+
+void frmCrearMascara::volcar_en(QLineEdit* control)
+{
+    destino_ = control;
+}
+
+void frmCrearMascara::cargar_elementos(const QString& tabla, const QString& campo_id, const QString& campo_descripcion)
+{
+    const QSignalBlocker callado(ui->lstElem);
+    for (Recordset rs(cnRtn, QStringLiteral("select ") + campo_id + QStringLiteral(", ") + campo_descripcion + QStringLiteral(" from ") + tabla
+                                 + QStringLiteral(" order by ") + campo_id);
+         !rs.eof(); rs.siguiente()) {
+        auto* elemento = new QListWidgetItem(rs.texto(1), ui->lstElem);
+        elemento->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        elemento->setCheckState(Qt::Unchecked);
+        elemento->setData(Qt::UserRole, rs.entero(0));
+        marcados_ << false;
+    }
+}
+
+void frmCrearMascara::mostrar_mascara(int valor)
+{
+    for (int i = 0; i < ui->lstElem->count(); ++i) {
+        QListWidgetItem* elemento = ui->lstElem->item(i);
+        elemento->setCheckState((elemento->data(Qt::UserRole).toInt() & valor) > 0 ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+// The mask follows each tick, by the user or by program.
+void frmCrearMascara::sumar(const QListWidgetItem* elemento)
+{
+    const bool marcado = elemento->checkState() == Qt::Checked;
+    bool& anterior = marcados_[ui->lstElem->row(elemento)];
+    if (marcado == anterior)
+        return;
+    anterior = marcado;
+    const int dato = elemento->data(Qt::UserRole).toInt();
+    ui->txtMascara->setText(QString::number(ui->txtMascara->text().toInt() + (marcado ? dato : -dato)));
+}

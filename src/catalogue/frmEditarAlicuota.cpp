@@ -1,0 +1,47 @@
+#include "catalogue/frmEditarAlicuota.h"
+
+#include "ui_frmEditarAlicuota.h"
+
+frmEditarAlicuota::frmEditarAlicuota() : frmEditarRango(RANGOS_ALICUOTAS), ui(std::make_unique<Ui::frmEditarAlicuota>())
+{
+    ui->setupUi(this);
+    armar({ui->toolbar, ui->nroDesde, ui->chkValorHasta, ui->nroHasta});
+    connect(ui->nroDivisor, &ctlNumero::salida, this, &frmEditarAlicuota::calcularFraccion);
+    connect(ui->nroDividendo, &ctlNumero::KeyPress, this, [this](int& tecla) {
+        if (tecla == 13)
+            calcularFraccion();
+    });
+}
+
+frmEditarAlicuota::~frmEditarAlicuota() = default;
+
+void frmEditarAlicuota::Inicializar(Modo operacion, qint32 subconcepto, const clsAlicuotaSellos& rango)
+{
+    setWindowTitle(operacion == Modo::modificar ? QStringLiteral("Modificar alicuota") : QStringLiteral("Nueva alicuota"));
+    iniciarRango(operacion, subconcepto, rango.IdAlicuota, rango.ValorDesde, rango.ValorHasta);
+    if (operacion != Modo::modificar)
+        return;
+    ui->nroAlicuota->setValue(rango.ValorAlicuota);
+    ui->nroDivisor->setValue(rango.Divisor);
+    ui->nroDividendo->setValue(rango.Dividendo);
+}
+
+// The rate from its fraction; without a divisor it stays as it was typed.
+void frmEditarAlicuota::calcularFraccion()
+{
+    if (ui->nroDivisor->Value() != 0)
+        ui->nroAlicuota->setValue(ui->nroDividendo->Value() / ui->nroDivisor->Value());
+}
+
+bool frmEditarAlicuota::aceptarValor()
+{
+    if (ui->nroAlicuota->Value() != 0 || preguntar(QStringLiteral("La alicuota es nula\n¿Está seguro que desea darla de alta?"), windowTitle()))
+        return true;
+    ui->nroAlicuota->setFocus();
+    return false;
+}
+
+QStringList frmEditarAlicuota::valores() const
+{
+    return {ui->nroAlicuota->toSQL(), ui->nroDivisor->toSQL(), ui->nroDividendo->toSQL()};
+}

@@ -1,0 +1,338 @@
+#include "catalogue/frmEditarSubconceptoSellos.h"
+
+#include "catalogue/frmCrearMascara.h"
+#include "core/ctlComunes.h"
+#include "core/modGlobales.h"
+#include "ui_frmEditarSubconceptoSellos.h"
+
+#include <QScopedValueRollback>
+
+namespace {
+
+constexpr int SOLAPA_RANGOS = 2;
+constexpr int SOLAPA_ROLES = 3;
+
+QVariant leer_control(const QWidget* w)
+{
+    if (const auto* numero = qobject_cast<const ctlNumero*>(w))
+        return numero->toSQL();
+    if (const auto* boton = qobject_cast<const QAbstractButton*>(w))
+        return boton->isChecked();
+    if (const auto* combo = qobject_cast<const QComboBox*>(w))
+        return item_data(combo);
+    if (const auto* fecha = qobject_cast<const QDateEdit*>(w))
+        return fecha->date();
+    if (const auto* texto = qobject_cast<const QLineEdit*>(w))
+        return texto->text();
+    return {};
+}
+
+void poner_boton(QAbstractButton* boton, bool si)
+{
+    boton->setAutoExclusive(false);
+    boton->setChecked(si);
+    boton->setAutoExclusive(qobject_cast<QRadioButton*>(boton));
+}
+
+void poner_control(QWidget* w, const QVariant& valor)
+{
+    if (auto* numero = qobject_cast<ctlNumero*>(w))
+        valor.toString().isEmpty() ? numero->ClearText() : numero->setValue(numero_de_texto_sql(valor.toString()));
+    else if (qobject_cast<QCheckBox*>(w) || qobject_cast<QRadioButton*>(w))
+        poner_boton(qobject_cast<QAbstractButton*>(w), valor.toBool());
+    else if (auto* combo = qobject_cast<QComboBox*>(w))
+        seleccionar_item(combo, valor.toInt());
+    else if (auto* fecha = qobject_cast<QDateEdit*>(w))
+        fecha->setDate(valor.toDate());
+    else if (auto* texto = qobject_cast<QLineEdit*>(w))
+        texto->setText(valor.toString());
+}
+
+void habilitar_control(QWidget* w, bool si)
+{
+    if (auto* numero = qobject_cast<ctlNumero*>(w)) {
+        numero->Habilitar(si);
+    } else if (auto* lista = qobject_cast<ctlCombo*>(w)) {
+        lista->Habilitar(si);
+        lista->Locked(true);
+    } else if (auto* texto = qobject_cast<QLineEdit*>(w)) {
+        habilitar_texto(texto, si);
+    } else {
+        w->setEnabled(si);
+    }
+}
+
+}  // namespace
+
+frmEditarSubconceptoSellos::frmEditarSubconceptoSellos() : ui(std::make_unique<Ui::frmEditarSubconceptoSellos>())
+{
+    ui->setupUi(this);
+    Entradas conceptos{{QStringLiteral("(sin filtro)"), 0}};
+    for (Entrada& e : conceptos_sellos())
+        conceptos.push_back(std::move(e));
+    llenar_combo(ui->cboConcepto, conceptos);
+    ui->ctlTipoCalculo->AddColumn(QStringLiteral("Cálculo"), 1, QStringLiteral("calculo"), 2400);
+    ui->ctlTipoCalculo->AddColumn(QStringLiteral("Observaciones"), 2, QStringLiteral("obs"), 4800);
+    Recordset tipos(cnRtn, QStringLiteral("select STIC_ID, STIC_DESCRIPCION, STIC_OBSERVACIONES from SEL_TB_TIPOS_CALCULOS"));
+    ui->ctlTipoCalculo->Origen(tipos);
+    prepararRangos();
+    conectar();
+}
+
+frmEditarSubconceptoSellos::~frmEditarSubconceptoSellos() = default;
+
+void frmEditarSubconceptoSellos::conectar()
+{
+    for (QLineEdit* texto : {ui->txtDescripcion, ui->txtLeyVigencia, ui->txtObservaciones}) {
+        a_mayusculas(texto);
+        connect(texto, &QLineEdit::textEdited, this, [this] { ponerEdicion(true); });
+    }
+    for (QLineEdit* mascara : {ui->txtGarantiaCumplimiento_suma, ui->txtObligAccesoria_suma})
+        solo_digitos_en(mascara);
+    for (const QCheckBox* casilla : findChildren<QCheckBox*>())
+        connect(casilla, &QCheckBox::toggled, this, [this, nombre = casilla->objectName()](bool si) { cambioCasilla(nombre, si); });
+    connect(ui->ctlTipoCalculo, &ctlCombo::ItemClick, this, &frmEditarSubconceptoSellos::elegirTipoCalculo);
+    connect(ui->cmdElegirTCBI, &QPushButton::clicked, this, &frmEditarSubconceptoSellos::elegirTipoBI);
+    connect(ui->cmdObligAccesoria_suma, &QPushButton::clicked, this, [this] {
+        crearMascara(ui->txtObligAccesoria_suma, "GLB_TB_TIPOS_OBLIG_ACCESORIAS", "GTOA_ID", "GTOA_DESCRIPCION",
+                     QStringLiteral("Modalidad de pago - Obligación Accesoria"));
+    });
+    connect(ui->cmdGaranCump_generar, &QPushButton::clicked, this, [this] {
+        crearMascara(ui->txtGarantiaCumplimiento_suma, "GLB_TB_TIPOS_GARANTIA_CUMPL", "GTGC_ID", "GTGC_DESCRIPCION",
+                     QStringLiteral("Modalidad de pago - Garantia de Cumplimiento"));
+    });
+    connect(ui->toolbar, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::pulsada);
+    connect(ui->tlbAlicuotas, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::tlbAlicuotas_pulsada);
+    connect(ui->tlbModulos, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::tlbModulos_pulsada);
+    connect(ui->tlbRoles, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::tlbRoles_pulsada);
+}
+
+int frmEditarSubconceptoSellos::codigo() const
+{
+    return int(ui->nroCodigo->Value());
+}
+
+void frmEditarSubconceptoSellos::Inicializar(Modo operacion, int id, int concepto)
+{
+    Operacion = operacion;
+    const bool nuevo = operacion == Modo::nuevo;
+    setWindowTitle(nuevo ? QStringLiteral("Nuevo subconcepto de sellos") : QStringLiteral("Modificar subconcepto de sellos"));
+    mostrar(subconcepto_nuevo(concepto));
+    if (const auto fila = nuevo ? std::nullopt : cargar_subconcepto(id)) {
+        guardado_ = true;
+        mostrar(*fila);
+    }
+    if (guardado_) {
+        obtener_alicuotas();
+        obtener_modulos();
+        obtener_roles();
+    }
+    ponerEdicion(false);
+    if (nuevo)
+        ui->toolbar->pulsar(QStringLiteral("editar"));
+}
+
+void frmEditarSubconceptoSellos::alActivar()
+{
+    if (!guardado_)
+        return;
+    obtener_alicuotas();
+    obtener_modulos();
+    obtener_roles();
+}
+
+ControlesSubconcepto frmEditarSubconceptoSellos::leer_controles() const
+{
+    ControlesSubconcepto c = ocultos_;
+    const auto tomar = [&](const char* nombre) {
+        const QString control = QString::fromUtf8(nombre);
+        if (const auto* w = nombre ? findChild<QWidget*>(control) : nullptr)
+            c[control] = leer_control(w);
+    };
+    for (const CampoSubconcepto& campo : campos_subconcepto()) {
+        tomar(campo.control);
+        tomar(campo.asociado);
+    }
+    c[QStringLiteral("txtTipoCalculoBI")] = ui->txtTipoCalculoBI->text();
+    c[QStringLiteral("ctlTipoCalculo")] = tipoCalculo_ ? QVariant(tipoCalculo_) : QVariant();
+    return c;
+}
+
+void frmEditarSubconceptoSellos::mostrar(const ControlesSubconcepto& c)
+{
+    const QScopedValueRollback mostrando(mostrando_, true);
+    for (const CampoSubconcepto& campo : campos_subconcepto())
+        for (const char* nombre : {campo.control, campo.asociado})
+            if (auto* w = nombre ? findChild<QWidget*>(QString::fromUtf8(nombre)) : nullptr)
+                poner_control(w, c.value(QString::fromUtf8(nombre)));
+    ocultos_ = {{TIPO_CALCULO_BI, c.value(TIPO_CALCULO_BI)}, {USOS, c.value(USOS)}};
+    ui->txtTipoCalculoBI->setText(c.value(QStringLiteral("txtTipoCalculoBI")).toString());
+    for (QLineEdit* texto : findChildren<QLineEdit*>())
+        texto->setCursorPosition(0);
+    tipoCalculo_ = c.value(QStringLiteral("ctlTipoCalculo")).toInt();
+    QString clave = QString::number(tipoCalculo_);
+    ui->ctlTipoCalculo->SeleccionarItem(clave, false);
+    mostrarRangos(ui->ctlTipoCalculo->Value());
+}
+
+// What works follows from the state and the boxes.
+void frmEditarSubconceptoSellos::habilitarControles()
+{
+    const ControlesSubconcepto c = leer_controles();
+    const auto habilitar = [&](const char* nombre) {
+        if (auto* w = nombre ? findChild<QWidget*>(QString::fromUtf8(nombre)) : nullptr)
+            habilitar_control(w, editando_ && habilitado_por_casillas(QString::fromUtf8(nombre), c));
+    };
+    for (const CampoSubconcepto& campo : campos_subconcepto()) {
+        if (campo.forma != Forma::codigo)
+            habilitar(campo.control);
+        habilitar(campo.asociado);
+    }
+    for (const char* nombre : {"cmdElegirTCBI", "cmdGaranCump_generar", "cmdObligAccesoria_suma", "lblMontoCR"})
+        habilitar(nombre);
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::vaciarDependientes(const QString& casilla)
+{
+    for (const DependenciaSubconcepto& d : dependencias_subconcepto())
+        if (d.vaciar && casilla == QString::fromUtf8(d.casilla))
+            if (auto* w = findChild<QWidget*>(QString::fromUtf8(d.control)))
+                poner_control(w, {});
+}
+
+void frmEditarSubconceptoSellos::cambioCasilla(const QString& casilla, bool si)
+{
+    if (mostrando_)
+        return;
+    const int tipo = ocultos_.value(TIPO_CALCULO_BI).toInt();
+    if (const auto mensaje = si ? std::nullopt : casilla_sujeta(casilla, tipo, windowTitle())) {
+        {
+            const QScopedValueRollback mostrando(mostrando_, true);
+            findChild<QCheckBox*>(casilla)->setChecked(true);
+        }
+        avisar(mensaje->texto, mensaje->titulo, mensaje->icono);
+        return;
+    }
+    if (!si)
+        vaciarDependientes(casilla);
+    if (!si && casilla == u"chkBaseImponible")
+        ocultos_[TIPO_CALCULO_BI] = {};
+    habilitarControles();
+}
+
+void frmEditarSubconceptoSellos::TCBI(int id, const QString& descripcion)
+{
+    ocultos_[TIPO_CALCULO_BI] = id;
+    ui->txtTipoCalculoBI->setText(descripcion);
+    const auto casillas = casillas_de_tipo_bi(id);
+    for (const auto& [casilla, si] : casillas.asKeyValueRange())
+        findChild<QCheckBox*>(casilla)->setChecked(si);
+}
+
+void frmEditarSubconceptoSellos::elegirTipoBI()
+{
+    auto* tipos = cargar<frmTiposCalculoBI>();
+    tipos->fijarTCBI(ocultos_.value(TIPO_CALCULO_BI).toInt());
+    abrir(tipos);
+}
+
+void frmEditarSubconceptoSellos::crearMascara(QLineEdit* destino, const char* tabla, const char* id, const char* descripcion, const QString& titulo)
+{
+    auto* mascara = cargar<frmCrearMascara>();
+    mascara->cargar_elementos(QLatin1StringView(tabla), QLatin1StringView(id), QLatin1StringView(descripcion));
+    mascara->volcar_en(destino);
+    mascara->setWindowTitle(titulo);
+    mascara->mostrar_mascara(destino->text().toInt());
+    abrir(mascara);
+}
+
+// The brackets that the item has bind it to its kind of calculation.
+void frmEditarSubconceptoSellos::elegirTipoCalculo(const ctlCombo::Fila& fila)
+{
+    const bool fijo = fila.texto == u"FIJO" || fila.texto == u"FIJO PROPORCIONAL";
+    QString clave = fila.clave;
+    if (fila.texto == u"VARIABLE" && !modulos_.isEmpty()) {
+        avisar(QStringLiteral("No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. "
+                              "Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo."),
+               windowTitle());
+        clave = QStringLiteral("k") + QString::number(tipoCalculo_);
+    } else if (fijo && !alicuotas_.isEmpty()) {
+        avisar(QStringLiteral("No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. "
+                              "Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas."),
+               windowTitle());
+        clave = QStringLiteral("k") + QString::number(tipoCalculo_);
+    } else {
+        tipoCalculo_ = clave.mid(1).toInt();
+        mostrarRangos(fila.texto);
+    }
+    ui->ctlTipoCalculo->SeleccionarItem(clave, true);
+}
+
+// Any other kind leaves the tab as it is.
+void frmEditarSubconceptoSellos::mostrarRangos(const QString& tipo)
+{
+    const bool variable = tipo == u"VARIABLE";
+    if (!variable && tipo != u"FIJO" && tipo != u"FIJO PROPORCIONAL")
+        return;
+    ui->SSTab1->setTabText(SOLAPA_RANGOS, variable ? QStringLiteral("Alícuotas") : QStringLiteral("Módulos"));
+    ui->fraAlicuotas->setVisible(variable);
+    ui->fraModulos->setVisible(!variable);
+    if (guardado_)
+        variable ? obtener_alicuotas() : obtener_modulos();
+}
+
+void frmEditarSubconceptoSellos::ponerEdicion(bool si)
+{
+    editando_ = si;
+    for (const char* clave : {"aceptar", "cancelar"})
+        ui->toolbar->habilitar(QLatin1StringView(clave), si);
+    for (const char* clave : {"editar", "salir"})
+        ui->toolbar->habilitar(QLatin1StringView(clave), !si);
+    // Brackets and roles hang on a stored item.
+    for (const int solapa : {SOLAPA_RANGOS, SOLAPA_ROLES})
+        ui->SSTab1->setTabEnabled(solapa, guardado_);
+    habilitarControles();
+}
+
+void frmEditarSubconceptoSellos::pulsada(const QString& clave)
+{
+    if (clave == u"salir") {
+        descargar();
+    } else if (clave == u"aceptar") {
+        aceptar();
+    } else if (clave == u"cancelar") {
+        // What was typed stays on the screen, deliberately, until the form is opened anew.
+        ponerEdicion(false);
+    } else {
+        if (guardado_)
+            Operacion = Modo::modificar;
+        ponerEdicion(true);
+    }
+}
+
+void frmEditarSubconceptoSellos::aceptar()
+{
+    // A choice in a list that is still open is told when the list loses the focus.
+    if (ui->ctlTipoCalculo->abierta())
+        ui->ctlTipoCalculo->setFocus();
+    ControlesSubconcepto c = leer_controles();
+    const auto falla = validar_subconcepto(c);
+    for (const CampoSubconcepto& campo : campos_subconcepto())
+        if (campo.forma == Forma::texto || campo.forma == Forma::mascara)
+            poner_control(findChild<QWidget*>(QString::fromUtf8(campo.control)), c.value(QString::fromUtf8(campo.control)));
+    if (falla) {
+        mostrarFalla(*falla);
+        if (falla->control == u"cmdElegirTCBI")
+            ui->cmdElegirTCBI->click();
+        return;
+    }
+    try {
+        Operacion == Modo::nuevo ? alta_subconcepto(c) : modificar_subconcepto(c);
+    } catch (const ErrorAlmacen& e) {
+        avisar(motivo_de_escritura(e), windowTitle());
+        return;
+    }
+    guardado_ = true;
+    ponerEdicion(false);
+}

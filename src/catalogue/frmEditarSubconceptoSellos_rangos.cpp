@@ -1,0 +1,151 @@
+// The tabs of brackets and roles.
+
+#include "catalogue/frmEditarAlicuota.h"
+#include "catalogue/frmEditarModulo.h"
+#include "catalogue/frmEditarRol.h"
+#include "catalogue/frmEditarSubconceptoSellos.h"
+#include "catalogue/roles_catalogo.h"
+#include "core/clsLocaleInfo.h"
+#include "core/modGlobales.h"
+#include "ui_frmEditarSubconceptoSellos.h"
+
+namespace {
+
+// A number of the store in the separators of the user's locale, with the decimals that it has.
+QString numero_local(double valor)
+{
+    return numero_sql(valor).replace(u'.', clsLocaleInfo().sDecimal());
+}
+
+QString cota(double valor)
+{
+    return valor == SIN_LIMITE ? QStringLiteral("Sin límite") : numero_local(valor);
+}
+
+QString si_no(bool si)
+{
+    return si ? QStringLiteral("Si") : QStringLiteral("No");
+}
+
+// The bracket or role of the grid's current row, which stands in the order of the list.
+template <class T>
+const T* elegido(const Grilla* grilla, const QList<T>& lista)
+{
+    const int fila = grilla->filaActual();
+    return fila < 0 || fila >= lista.size() ? nullptr : &lista[fila];
+}
+
+}  // namespace
+
+void frmEditarSubconceptoSellos::prepararRangos()
+{
+    preparar_grilla(ui->grillaAlicuotas, {QStringLiteral("Desde"), QStringLiteral("Hasta"), QStringLiteral("Alicuota"), QStringLiteral("Expresión")},
+                    {2000, 2000, 1600, 2000});
+    preparar_grilla(ui->grillaModulos, {QStringLiteral("Desde"), QStringLiteral("Hasta"), QStringLiteral("Monto Impuesto")}, {2000, 2000, 2000});
+    preparar_grilla(ui->grillaRoles,
+                    {QStringLiteral("Id"), QStringLiteral("Descripción"), QStringLiteral("Interviene"), QStringLiteral("Obligado"), QStringLiteral("Requrido SM"),
+                     QStringLiteral("Depende de"), QStringLiteral("Con valor de"), QStringLiteral("de la Tabla"), QStringLiteral("CuitEnTramite")},
+                    {1300, 2600, 1200, 900, 1200, 2000, 1200, 1600, 1200});
+    for (const auto& [grilla, barra, clave] : {std::tuple{ui->grillaAlicuotas, ui->tlbAlicuotas, "modificar"},
+                                               std::tuple{ui->grillaModulos, ui->tlbModulos, "modificar"},
+                                               std::tuple{ui->grillaRoles, ui->tlbRoles, "editar"}})
+        connect(grilla, &Grilla::elegida, this, [barra, clave] { barra->pulsar(QLatin1StringView(clave)); });
+    ui->fraModulos->hide();
+}
+
+void frmEditarSubconceptoSellos::obtener_alicuotas()
+{
+    alicuotas_ = alicuotas_de(codigo());
+    ui->grillaAlicuotas->llenar([this] {
+        for (const clsAlicuotaSellos& a : std::as_const(alicuotas_))
+            ui->grillaAlicuotas->agregar(QStringList{numero_local(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
+                                          a.Divisor == 0 ? QString() : numero_local(a.Dividendo) + u'/' + numero_local(a.Divisor)});
+    });
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::obtener_modulos()
+{
+    modulos_ = modulos_de(codigo());
+    ui->grillaModulos->llenar([this] {
+        for (const clsModuloSellos& m : std::as_const(modulos_))
+            ui->grillaModulos->agregar(QStringList{numero_local(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
+    });
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::obtener_roles()
+{
+    roles_ = roles_de(codigo());
+    ui->grillaRoles->llenar([this] {
+        for (const clsRol& r : std::as_const(roles_))
+            ui->grillaRoles->agregar({QString::number(r.IdRol), r.Descripcion, r.Requerido ? QStringLiteral("Siempre") : QStringLiteral("Esporádico"),
+                                      si_no(r.ParicipaImpuesto), si_no(r.CargaOblig_SM), r.SSUBAtributo, r.SSUBAtributo_valor, r.SSUBAtributo_tabla,
+                                      si_no(r.Permite_CuitEnTramite)});
+    });
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::habilitarBarras()
+{
+    const bool si = editando_ && guardado_;
+    for (const auto& [barra, filas] : {std::pair{ui->tlbAlicuotas, alicuotas_.size()}, {ui->tlbModulos, modulos_.size()}, {ui->tlbRoles, roles_.size()}}) {
+        barra->habilitar(QStringLiteral("alta"), si);
+        for (const char* clave : {"modificar", "editar", "borrar"})
+            barra->habilitar(QLatin1StringView(clave), si && filas > 0);
+    }
+}
+
+void frmEditarSubconceptoSellos::borrar(const QString& pregunta, const QString& titulo, const QString& tituloError, const std::function<void()>& accion)
+{
+    if (!preguntar(pregunta, titulo))
+        return;
+    try {
+        accion();
+    } catch (const ErrorAlmacen& e) {
+        avisar(motivo_de_escritura(e), tituloError);
+    }
+}
+
+void frmEditarSubconceptoSellos::tlbAlicuotas_pulsada(const QString& clave)
+{
+    const clsAlicuotaSellos* a = elegido(ui->grillaAlicuotas, alicuotas_);
+    if (clave == u"borrar" && a) {
+        borrar(QStringLiteral("¿Está seguro que desea borrar la alicuota seleccionada?"), QStringLiteral("Borrar alicuota de sellos"),
+               QStringLiteral("Borrar alicuota de sellos"), [id = a->IdAlicuota] { borrar_rango(RANGOS_ALICUOTAS, id); });
+        obtener_alicuotas();
+    } else if (clave == u"alta" || (clave == u"modificar" && a)) {
+        auto* editor = cargar<frmEditarAlicuota>();
+        clave == u"alta" ? editor->Inicializar(Modo::nuevo, codigo(), {}) : editor->Inicializar(Modo::modificar, codigo(), *a);
+        abrir(editor);
+    }
+}
+
+void frmEditarSubconceptoSellos::tlbModulos_pulsada(const QString& clave)
+{
+    const clsModuloSellos* m = elegido(ui->grillaModulos, modulos_);
+    if (clave == u"borrar" && m) {
+        // The title of the question is that of the rates, deliberately.
+        borrar(QStringLiteral("¿Está seguro que desea borrar el rango seleccionado?"), QStringLiteral("Borrar alicuota de sellos"),
+               QStringLiteral("Borrar rango de módulos de sellos"), [id = m->IdModulo] { borrar_rango(RANGOS_MODULOS, id); });
+        obtener_modulos();
+    } else if (clave == u"alta" || (clave == u"modificar" && m)) {
+        auto* editor = cargar<frmEditarModulo>();
+        clave == u"alta" ? editor->Inicializar(Modo::nuevo, codigo(), {}) : editor->Inicializar(Modo::modificar, codigo(), *m);
+        abrir(editor);
+    }
+}
+
+void frmEditarSubconceptoSellos::tlbRoles_pulsada(const QString& clave)
+{
+    const clsRol* r = elegido(ui->grillaRoles, roles_);
+    if (clave == u"borrar" && r) {
+        borrar(QStringLiteral("¿Está seguro que desea borrar la parte seleccionada?"), QStringLiteral("Borrar parte"), QStringLiteral("Borrar rol"),
+               [id = r->IdRol] { borrar_rol(id); });
+        obtener_roles();
+    } else if (clave == u"alta" || (clave == u"editar" && r)) {
+        auto* editor = cargar<frmEditarRol>();
+        clave == u"alta" ? editor->Inicializar(Modo::nuevo, codigo(), {}) : editor->Inicializar(Modo::modificar, codigo(), *r);
+        abrir(editor);
+    }
+}

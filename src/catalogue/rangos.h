@@ -1,0 +1,44 @@
+// The brackets of an item, of rates or of modules: one design over two tables.
+#pragma once
+
+#include "catalogue/clsSubconcepto.h"
+
+#include <QStringList>
+
+/// Upper bound of a bracket without limit.
+constexpr double SIN_LIMITE = -1;
+
+struct TablaRangos
+{
+    const char* tabla;
+    const char* id;
+    const char* desde;
+    const char* hasta;
+    QStringList valores;  ///< what the bracket gives
+};
+extern const TablaRangos RANGOS_ALICUOTAS;
+extern const TablaRangos RANGOS_MODULOS;
+
+/// A bracket as its editor holds it: each number as a statement takes it.
+struct Rango
+{
+    qint32 subconcepto = 0;
+    QString desde;
+    bool conHasta = false;
+    QString hasta;
+    QStringList valores;
+};
+
+/// Whether the bracket meets one that its item already has. Throws ErrorAlmacen.
+[[nodiscard]] bool se_solapa(const TablaRangos& t, const Rango& r);
+/// The identifier that the item's next bracket gets. Throws ErrorAlmacen.
+[[nodiscard]] qint64 proximo_rango(const TablaRangos& t, qint32 subconcepto);
+/// Throws ErrorAlmacen.
+void alta_rango(const TablaRangos& t, const Rango& r);
+/// Writes what a bracket gives; its bounds stay. Throws ErrorAlmacen.
+void modificar_rango(const TablaRangos& t, qint64 id, const QStringList& valores);
+void borrar_rango(const TablaRangos& t, qint64 id);
+
+/// The brackets of an item. Throws ErrorAlmacen.
+[[nodiscard]] QList<clsAlicuotaSellos> alicuotas_de(qint32 subconcepto);
+[[nodiscard]] QList<clsModuloSellos> modulos_de(qint32 subconcepto);
