@@ -188,7 +188,7 @@ void frmEditarSubconceptoSellos::habilitarControles()
             habilitar(campo.control);
         habilitar(campo.asociado);
     }
-    for (const char* nombre : {"cmdElegirTCBI", "cmdGaranCump_generar", "cmdObligAccesoria_suma", "lblMontoCR"})
+    for (const char* nombre : {"cmdElegirTCBI", "cmdGaranCump_generar", "cmdObligAccesoria_suma", "lblMontoCR", "lblMontoMaxSM"})
         habilitar(nombre);
     habilitarBarras();
 }

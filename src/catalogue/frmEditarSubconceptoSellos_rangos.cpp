@@ -19,7 +19,7 @@ QString numero_local(double valor)
 
 QString cota(double valor)
 {
-    return valor == SIN_LIMITE ? QStringLiteral("Sin límite") : numero_local(valor);
+    return valor == SIN_LIMITE ? QStringLiteral("Sin límite") : formato_importe(valor);
 }
 
 QString si_no(bool si)
@@ -58,7 +58,7 @@ void frmEditarSubconceptoSellos::obtener_alicuotas()
     alicuotas_ = alicuotas_de(codigo());
     ui->grillaAlicuotas->llenar([this] {
         for (const clsAlicuotaSellos& a : std::as_const(alicuotas_))
-            ui->grillaAlicuotas->agregar(QStringList{numero_local(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
+            ui->grillaAlicuotas->agregar(QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
                                           a.Divisor == 0 ? QString() : numero_local(a.Dividendo) + u'/' + numero_local(a.Divisor)});
     });
     habilitarBarras();
@@ -69,7 +69,7 @@ void frmEditarSubconceptoSellos::obtener_modulos()
     modulos_ = modulos_de(codigo());
     ui->grillaModulos->llenar([this] {
         for (const clsModuloSellos& m : std::as_const(modulos_))
-            ui->grillaModulos->agregar(QStringList{numero_local(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
+            ui->grillaModulos->agregar(QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
     });
     habilitarBarras();
 }

@@ -27,11 +27,11 @@ QString igual_o_no_exento(const FiltroSubconceptos& f)
     const bool con_valor = !f.porcExencion.isEmpty();
     switch (f.exenciones) {
     case Exenciones::subjetivas:
-        return con_valor ? QStringLiteral(" (SSUB_EXENCION_PORC=") + f.porcExencion + QStringLiteral(" or SSUB_EXENCION=false) ") : QString();
+        return con_valor ? QStringLiteral(" (SSUB_EXENCION_PORC=") + f.porcExencion + QStringLiteral(" or SSUB_EXENCION=0) ") : QString();
     case Exenciones::no_exentos:
-        return QStringLiteral(" SSUB_EXENCION=false ");
+        return QStringLiteral(" SSUB_EXENCION=0 ");
     case Exenciones::exentos:
-        return QStringLiteral(" SSUB_EXENCION=true ")
+        return QStringLiteral(" SSUB_EXENCION=1 ")
             + (con_valor ? QStringLiteral(" and (SSUB_EXENCION_PORC=") + f.porcExencion + QStringLiteral(") ") : QString());
     case Exenciones::sin_filtro:
         break;
@@ -77,7 +77,7 @@ QString consulta_subconceptos(const FiltroSubconceptos& f)
     agregar(norma_parecida(f.porLey, "LEY", f.textoLey));
     agregar(norma_parecida(f.porArticulo, "ART", f.textoArticulo));
     agregar(norma_parecida(f.porInciso, "INC", f.textoInciso));
-    agregar(f.selladoMultiple ? QStringLiteral(" SSUB_SELLADO_MULTIPLE=true ") : QString());
+    agregar(f.selladoMultiple ? QStringLiteral(" SSUB_SELLADO_MULTIPLE=1 ") : QString());
     agregar(igual_o_no_exento(f));
 
     const QString campo = f.orden.isEmpty() ? QStringLiteral("SSUB_LEYVIGENCIA") : f.orden;

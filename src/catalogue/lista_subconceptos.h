@@ -18,17 +18,17 @@ struct FiltroSubconceptos
     int concepto = 0;             ///< 0 without filter
     int ley = 0;                  ///< 0 without filter
     Criterio criterio = Criterio::ninguno;
-    QString texto;
+    QString texto = {};
     bool porLey = false;
-    QString textoLey;
+    QString textoLey = {};
     bool porArticulo = false;
-    QString textoArticulo;
+    QString textoArticulo = {};
     bool porInciso = false;
-    QString textoInciso;
+    QString textoInciso = {};
     bool selladoMultiple = false;
     Exenciones exenciones = Exenciones::sin_filtro;
-    QString porcExencion;         ///< as a statement takes it, empty for none
-    QString orden;                ///< field of the column clicked, empty for the law
+    QString porcExencion = {};         ///< as a statement takes it, empty for none
+    QString orden = {};                ///< field of the column clicked, empty for the law
 };
 
 /// One column of the list.

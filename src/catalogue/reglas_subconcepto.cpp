@@ -15,6 +15,7 @@ constexpr std::array DEPENDENCIAS{
     DependenciaSubconcepto{"nroPagoACuentaPorc", "chkPermitePagoACuenta"},
     DependenciaSubconcepto{"lblMontoCR", "chkCargaRapida"},
     DependenciaSubconcepto{"nroMontoCRapida", "chkCargaRapida"},
+    DependenciaSubconcepto{"lblMontoMaxSM", "chkSelladoMultiple"},
     DependenciaSubconcepto{"nroMontoMaxSM", "chkSelladoMultiple"},
     // Clearing the base keeps what its tab holds, the type apart: ticked again, all is there.
     DependenciaSubconcepto{"cmdElegirTCBI", "chkBaseImponible"},

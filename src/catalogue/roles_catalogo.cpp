@@ -8,11 +8,6 @@
 
 namespace {
 
-QString logico(bool si)
-{
-    return si ? QStringLiteral("true") : QStringLiteral("false");
-}
-
 QString texto(const QString& t)
 {
     return texto_o_null(toSQL(t));
@@ -95,21 +90,21 @@ void alta_rol(const clsRol& rol, qint32 subconcepto)
                    + QStringLiteral(" SSUB_ID, ") + QStringLiteral(" SROL_PARTICIPA_IMPUESTO, ") + QStringLiteral(" SROL_SM_CARGA_OBLIG, ")
                    + QStringLiteral(" SROL_SSUB_ATRIBUTO, ") + QStringLiteral(" SROL_SSUB_ATRIBUTO_VALOR, ") + QStringLiteral(" SROL_SSUB_ATRIBUTO_TABLA, ")
                    + QStringLiteral(" SROL_PERMITE_CUIT_EN_TRAMITE, ") + QStringLiteral(" AUSU_ID, ") + QStringLiteral(" SROL_FULTMOD ") + QStringLiteral(" ) values (")
-                   + QString::number(rol.IdRol) + QStringLiteral(", ") + texto(rol.Descripcion) + QStringLiteral(", ") + logico(rol.Requerido) + QStringLiteral(", ")
-                   + QString::number(subconcepto) + QStringLiteral(", ") + logico(rol.ParicipaImpuesto) + QStringLiteral(", ") + logico(rol.CargaOblig_SM)
+                   + QString::number(rol.IdRol) + QStringLiteral(", ") + texto(rol.Descripcion) + QStringLiteral(", ") + logico_sql(rol.Requerido) + QStringLiteral(", ")
+                   + QString::number(subconcepto) + QStringLiteral(", ") + logico_sql(rol.ParicipaImpuesto) + QStringLiteral(", ") + logico_sql(rol.CargaOblig_SM)
                    + QStringLiteral(", ") + texto(rol.SSUBAtributo) + QStringLiteral(", ") + texto(rol.SSUBAtributo_valor) + QStringLiteral(", ")
-                   + texto(rol.SSUBAtributo_tabla) + QStringLiteral(", ") + logico(rol.Permite_CuitEnTramite) + QStringLiteral(", 'ZQ'") + QStringLiteral(", ")
+                   + texto(rol.SSUBAtributo_tabla) + QStringLiteral(", ") + logico_sql(rol.Permite_CuitEnTramite) + QStringLiteral(", 'ZQ'") + QStringLiteral(", ")
                    + fecha_sql(hoy()) + QStringLiteral(")"));
 }
 
 void modificar_rol(const clsRol& rol, qint32 subconcepto)
 {
     cnRtn.ejecutar(QStringLiteral("update SEL_TB_ROLES set ") + QStringLiteral("SROL_DESCRIPCION=") + texto(rol.Descripcion) + QStringLiteral(", SROL_REQUERIDO=")
-                   + logico(rol.Requerido) + QStringLiteral(", SSUB_ID=") + QString::number(subconcepto) + QStringLiteral(", SROL_PARTICIPA_IMPUESTO=")
-                   + logico(rol.ParicipaImpuesto) + QStringLiteral(", SROL_SM_CARGA_OBLIG=") + logico(rol.CargaOblig_SM) + QStringLiteral(", SROL_SSUB_ATRIBUTO=")
+                   + logico_sql(rol.Requerido) + QStringLiteral(", SSUB_ID=") + QString::number(subconcepto) + QStringLiteral(", SROL_PARTICIPA_IMPUESTO=")
+                   + logico_sql(rol.ParicipaImpuesto) + QStringLiteral(", SROL_SM_CARGA_OBLIG=") + logico_sql(rol.CargaOblig_SM) + QStringLiteral(", SROL_SSUB_ATRIBUTO=")
                    + texto(rol.SSUBAtributo) + QStringLiteral(", SROL_SSUB_ATRIBUTO_VALOR=") + texto(rol.SSUBAtributo_valor)
                    + QStringLiteral(", SROL_SSUB_ATRIBUTO_TABLA=") + texto(rol.SSUBAtributo_tabla) + QStringLiteral(", SROL_PERMITE_CUIT_EN_TRAMITE=")
-                   + logico(rol.Permite_CuitEnTramite) + QStringLiteral(", AUSU_ID='ZQ'") + QStringLiteral(", SROL_FULTMOD=") + fecha_sql(hoy())
+                   + logico_sql(rol.Permite_CuitEnTramite) + QStringLiteral(", AUSU_ID='ZQ'") + QStringLiteral(", SROL_FULTMOD=") + fecha_sql(hoy())
                    + QStringLiteral(" where SROL_ID=") + QString::number(rol.IdRol));
 }
 

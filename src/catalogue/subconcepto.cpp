@@ -80,7 +80,7 @@ QString literal(const CampoSubconcepto& campo, const ControlesSubconcepto& c)
     case Forma::codigo: return texto;
     case Forma::texto: return texto_o_null(toSQL(texto));
     case Forma::fecha: return fecha_sql(valor.toDate());
-    case Forma::logico: return valor.toBool() ? QStringLiteral("true") : QStringLiteral("false");
+    case Forma::logico: return logico_sql(valor.toBool());
     case Forma::numero: return asociado() && !texto.isEmpty() ? texto : nulo;
     case Forma::modo: return valor.toBool() ? QStringLiteral("'F'") : asociado() ? QStringLiteral("'P'") : nulo;
     case Forma::lista:

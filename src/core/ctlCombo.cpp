@@ -79,7 +79,7 @@ void ctlCombo::Habilitar(bool si)
 void ctlCombo::pintarFondo()
 {
     QPalette p = palette();
-    p.setColor(QPalette::Base, p.color(habilitado_ ? QPalette::Base : QPalette::Button));
+    p.setColor(QPalette::Base, p.color(QPalette::Active, habilitado_ ? QPalette::Base : QPalette::Button));
     txt_->setPalette(p);
 }
 

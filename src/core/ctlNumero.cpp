@@ -49,7 +49,7 @@ void ctlNumero::Habilitar(bool si)
 void ctlNumero::pintarFondo()
 {
     QPalette p = palette();
-    p.setColor(QPalette::Base, p.color(Enabled() ? QPalette::Base : QPalette::Button));
+    p.setColor(QPalette::Base, p.color(QPalette::Active, Enabled() ? QPalette::Base : QPalette::Button));
     txt_->setPalette(p);
 }
 

@@ -91,6 +91,8 @@ void Formulario::activarse()
 {
     ultima_activa = this;
     if (Llamador) {
+        if (Llamador->isEnabled())
+            Llamador->foco_ = Llamador->focusWidget();
         Llamador->setEnabled(false);
         if (Llamador->subventana_)
             Llamador->subventana_->setEnabled(false);
@@ -125,6 +127,8 @@ void Formulario::closeEvent(QCloseEvent* evento)
     if (Llamador->subventana_)
         Llamador->subventana_->setEnabled(true);
     Llamador->traerAlFrente();
+    if (Llamador->foco_ && Llamador->foco_->isVisible() && Llamador->foco_->isEnabled())
+        Llamador->foco_->setFocus();
 }
 
 // A field that only shows has the colour of the window's face.

@@ -67,6 +67,7 @@ private:
     QPointer<QMdiSubWindow> subventana_;
     bool descargada_ = false;
     BarraHerramientas* barra_ = nullptr;
+    QPointer<QWidget> foco_;  ///< what had the focus when another form was opened
 };
 
 template <class F>

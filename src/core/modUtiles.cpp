@@ -73,6 +73,11 @@ QString fecha_sql(const QDate& fecha)
     return u'\'' + fecha.toString(Qt::ISODate) + u'\'';
 }
 
+QString logico_sql(bool si)
+{
+    return si ? QStringLiteral("1") : QStringLiteral("0");
+}
+
 QString entre_comillas(const QString& texto)
 {
     return u'\'' + texto + u'\'';

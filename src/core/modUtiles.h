@@ -21,6 +21,8 @@ QString compactar_espacios(QString& texto);
 
 /// 'YYYY-MM-DD' between apostrophes.
 [[nodiscard]] QString fecha_sql(const QDate& fecha);
+/// 1 or 0, as the store holds booleans.
+[[nodiscard]] QString logico_sql(bool si);
 /// The text between apostrophes, as it stands.
 [[nodiscard]] QString entre_comillas(const QString& texto);
 /// "null" for an empty text, else the text between apostrophes, as it stands.

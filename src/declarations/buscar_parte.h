@@ -13,14 +13,14 @@ enum class Criterio { sin_filtro = 0, exacta = 1, comienza = 2, contiene = 3, te
 
 struct FiltroPartes
 {
-    QString dj;             ///< parties of this DJ are left out,
-    QString renglon;        ///< and so are those of this deed's number in any DJ
+    QString dj = {};             ///< parties of this DJ are left out,
+    QString renglon = {};        ///< and so are those of this deed's number in any DJ
     int tipoSociedad = 0;   ///< 0 without filter
     Criterio criterio = Criterio::sin_filtro;
-    QString razonSocial;
+    QString razonSocial = {};
     int tipoDoc = 0;        ///< 0 without filter
-    QString tipoDocTexto;
-    QString nroDoc;
+    QString tipoDocTexto = {};
+    QString nroDoc = {};
 };
 
 /// The name without commas, semicolons and parentheses, each run of blanks as one.

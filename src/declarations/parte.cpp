@@ -86,7 +86,7 @@ void modificar_parte(const ControlesParte& c)
     cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_INS_PARTES set ") + QStringLiteral("  SPIN_ID=") + id + QStringLiteral(", SEDJ_NRO='") + c.dj
                    + QStringLiteral("'") + QStringLiteral(", SEDD_ID=") + c.renglon
                    + (c.tipoDoc ? QStringLiteral(", GTDC_ID='") + QString::number(*c.tipoDoc) + QStringLiteral("'") : QStringLiteral(", GTDC_ID=null"))
-                   + asignar_documento(c) + QStringLiteral(", SPIN_CUIT_EN_TRAMITE=") + (c.enTramite ? QStringLiteral("1") : QStringLiteral("0"))
+                   + asignar_documento(c) + QStringLiteral(", SPIN_CUIT_EN_TRAMITE=") + logico_sql(c.enTramite)
                    + texto("SPIN_RSOCIAL", c.razonSocial) + QStringLiteral(", SPIN_PORCEXENTO=")
                    + (c.exento && !c.exencionPorc.vacio() ? c.exencionPorc.toSQL() : c.exento ? QStringLiteral("0") : QStringLiteral("null"))
                    + texto("SPIN_OBS", c.observaciones) + QStringLiteral(", GTSO_ID=") + id_o_null(c.tipoSociedad)

@@ -1,9 +1,8 @@
 // Forms of the register, of real estate, of deeds that are not reached, and the finer points of the
 // operation's screen.
 
-#include "apoyo/apoyo.h"
+#include "apoyo/ventanas.h"
 #include "computation/frmDJ_detalle_op.h"
-#include "core/MDIPrincipal.h"
 #include "declarations/frmDJ_buscar.h"
 #include "declarations/frmDJ_detalle.h"
 #include "declarations/frmRTN_buscar.h"
@@ -19,35 +18,9 @@ namespace {
 
 using namespace manejo;
 
-class PantallasFormularios : public ConAlmacen
+class PantallasFormularios : public ConVentanas
 {
 protected:
-    void SetUp() override
-    {
-        ConAlmacen::SetUp();
-        cnRtn.ejecutar("insert into SEL_TB_RTN_PADRON (SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, GLOC_ID) values (101, 101, 'PÉREZ', 20123456786, 1)"_u);
-        principal = std::make_unique<MDIPrincipal>();
-        principal->resize(1200, 760);
-        principal->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(principal.get()));
-    }
-    void TearDown() override
-    {
-        principal.reset();
-        for (Formulario* f : Formulario::cargados())
-            delete f;
-        ConAlmacen::TearDown();
-    }
-    QWidget* abrirEscritura(bool nueva)
-    {
-        auto* lista = cargar<frmDJ_buscar>();
-        lista->mostrar();
-        pulsar(lista, "tlbDJ"_u, "modificar"_u);
-        auto* editor = formulario("frmDJ_editar");
-        solapa(editor, "SSTab1"_u, 1);
-        pulsar(editor, "tlbDetalle"_u, nueva ? "agregar"_u : "editar"_u);
-        return formulario("frmDJ_detalle");
-    }
     QWidget* abrirOperacion(const char* codigo)
     {
         QWidget* e = abrirEscritura(false);
@@ -64,7 +37,6 @@ protected:
         escribir(f, "nroValorContractual"_u, QLatin1StringView(monto));
         pulsar(f, "tlbBI"_u, "guardar"_u);
     }
-    std::unique_ptr<MDIPrincipal> principal;
 };
 
 TEST_F(PantallasFormularios, RegistroDeAgentes)

@@ -1,6 +1,7 @@
 #include "manejo/manejo.h"
 
 #include "core/barra.h"
+#include "core/ctlCombo.h"
 #include "core/ctlNumero.h"
 #include "core/formulario.h"
 #include "core/grilla.h"
@@ -17,6 +18,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
 #include <QToolButton>
 
 namespace {
@@ -195,8 +198,33 @@ void escribir(QWidget* form, const QString& nombre, const QString& texto)
     });
 }
 
+namespace {
+
+void elegir_fila(ctlCombo* combo, const QString& texto)
+{
+    exigir_activo(combo);
+    const auto filas = combo->lista();
+    const auto it = std::find_if(filas.begin(), filas.end(), [&](const ctlCombo::Fila& f) { return f.texto.startsWith(texto); });
+    if (it == filas.end())
+        throw Inesperado(QStringLiteral("%1 no tiene «%2»").arg(combo->objectName(), texto));
+    vigilar([&] {
+        QTest::mouseClick(combo->findChild<QToolButton*>(QStringLiteral("cmd")), Qt::LeftButton);
+        auto* lista = combo->findChild<QTreeWidget*>(QStringLiteral("lvw"));
+        lista->setFocus();
+        QTest::keyClick(lista, Qt::Key_Home);
+        for (int i = 1; i < it->indice; ++i)
+            QTest::keyClick(lista, Qt::Key_Down);
+        QTest::keyClick(lista, Qt::Key_Return);
+        QApplication::processEvents();
+    });
+}
+
+}  // namespace
+
 void elegir(QWidget* form, const QString& nombre, const QString& texto)
 {
+    if (auto* lista = qobject_cast<ctlCombo*>(control(form, nombre)))
+        return elegir_fila(lista, texto);
     auto* combo = qobject_cast<QComboBox*>(control(form, nombre));
     if (!combo)
         throw Inesperado(nombre + QStringLiteral(" no es una lista"));

@@ -6,6 +6,7 @@
 #include "manejo/manejo.h"
 #include "printing/frmReportes.h"
 #include "recorrido/guia.h"
+#include "recorrido/pasos_catalogo.h"
 
 #include <QAction>
 #include <QApplication>
@@ -46,7 +47,7 @@ struct ValorPapel
 // An operation with what it must yield.
 struct OperacionPapel
 {
-    const char* codigo;
+    const char* codigo;       // null when it is picked in the catalogue
     const char* titulo;
     QList<ValorPapel> valores;
     QStringList roles;
@@ -223,8 +224,12 @@ private:
         solapa(deed, u("SSTab1"), 1);
         pulsar(deed, u("tlbOp"), u("agregar"));
         auto* f = formulario("frmDJ_detalle_op");
-        teclear(f, u("ctlCodS"), u(o.codigo));
-        tecla(f, u("ctlCodS"), Qt::Key_Return);
+        if (o.codigo) {
+            teclear(f, u("ctlCodS"), u(o.codigo));
+            tecla(f, u("ctlCodS"), Qt::Key_Return);
+        } else {
+            nuevo_subconcepto(g_, f);
+        }
         comprobar(u("subconcepto"), texto(f, u("txtSubconcepto")), u(o.titulo));
         pulsar(f, u("tlb"), u("guardar_op"));
         for (const ValorPapel& v : o.valores)
@@ -336,6 +341,20 @@ private:
             aceptarEscritura();
             salirDeEscritura();
         });
+        g_.paso(u("Escritura 8: un subconcepto nuevo, y una parte de una DJ anterior"), [&] {
+            escritura({"8", "12", "20", "PASO", nullptr, nullptr});
+            aceptarEscritura({{u("Falta el archivo del testimonio.")}});
+            pulsar(formulario("frmDJ_detalle"), u("tlbPartes"), u("agregar"));
+            auto* f = formulario("frmDJ_detalle_parte");
+            parte_anterior(g_, f);
+            comprobar(u("parte hallada"), texto(f, u("txtRazonSocial")), u("SOSA ROSA"));
+            g_.foto(u("parte-hallada"));
+            pulsar(f, u("tlb"), u("aceptar"));
+            parte("UNIPERSONAL", "DNI", "31222333", "peralta inés");
+            // Whoever bears the tax is exempt by half.
+            operacion({nullptr, "CESIÓN DE MARCAS Y PATENTES", {{"PESOS", "2000000", nullptr}}, {u("CEDENTE"), u("CESIONARIO")}, nullptr, "10.000,00"});
+            salirDeEscritura();
+        });
     }
 
     // The report that stands open: its picture, its PDF, and away with Escape.
@@ -363,12 +382,12 @@ private:
         g_.paso(u("Una boleta de depósito, con un cheque"), [&] {
             auto* f = formulario("frmDJ_editar");
             solapa(f, u("SSTab1"), 2);
-            comprobar(u("impuesto a depositar"), texto(f, u("nroImpuesto")), u("37.250,00"));
-            escribir(f, u("nroEfectivo"), u("7250"));
+            comprobar(u("impuesto a depositar"), texto(f, u("nroImpuesto")), u("47.250,00"));
+            escribir(f, u("nroEfectivo"), u("17250"));
             escribir(f, u("txtCheque1_nro"), u("12345678"));
             escribir(f, u("txtCheque1_banco"), u("BANCO DEL SUR"));
             escribir(f, u("nroCheque1_monto"), u("30000"));
-            comprobar(u("total de la boleta"), texto(f, u("nroTotalBoleta")), u("37.250,00"));
+            comprobar(u("total de la boleta"), texto(f, u("nroTotalBoleta")), u("47.250,00"));
             pulsar(f, u("tlbB"), u("generar"));
             reporte(u("Boleta de depósito"), u("boleta"));
             comprobar(u("boleta"), en_grilla(f, u("flxB"), 0, 0), u("2023071234567126100000"));
@@ -382,8 +401,8 @@ private:
     {
         g_.paso(u("La lista de escrituras y los totales"), [&] {
             auto* f = formulario("frmDJ_editar");
-            comprobar(u("escrituras"), QString::number(filas(f, u("flxOp"))), u("8"));
-            comprobar(u("total retenido"), texto(f, u("nroTotalRetenido")), u("37.250,00"));
+            comprobar(u("escrituras"), QString::number(filas(f, u("flxOp"))), u("9"));
+            comprobar(u("total retenido"), texto(f, u("nroTotalRetenido")), u("47.250,00"));
             g_.foto(u("dj-renglones"));
         });
         boletas();
