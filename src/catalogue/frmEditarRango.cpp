@@ -79,7 +79,9 @@ bool frmEditarRango::guardar()
         }
         const Rango r{subconcepto_, c_.nroDesde->toSQL(), c_.chkValorHasta->isChecked(), c_.nroHasta->toSQL(), valores()};
         if (se_solapa(tabla_, r)) {
-            avisar(QStringLiteral("El rango ingresado se solapa con otro rango ya ingresado para el subconcepto"), windowTitle());
+            mostrarFalla({.mensaje = QStringLiteral("El rango ingresado se solapa con otro rango ya ingresado para el subconcepto"),
+                          .control = QStringLiteral("nroDesde"),
+                          .titulo = {}});
             return false;
         }
         alta_rango(tabla_, r);

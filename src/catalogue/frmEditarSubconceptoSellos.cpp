@@ -67,6 +67,8 @@ void habilitar_control(QWidget* w, bool si)
 frmEditarSubconceptoSellos::frmEditarSubconceptoSellos() : ui(std::make_unique<Ui::frmEditarSubconceptoSellos>())
 {
     ui->setupUi(this);
+    for (QWidget* w : findChildren<QWidget*>())
+        controles_.insert(w->objectName(), w);
     Entradas conceptos{{QStringLiteral("(sin filtro)"), 0}};
     for (Entrada& e : conceptos_sellos())
         conceptos.push_back(std::move(e));
@@ -117,10 +119,10 @@ void frmEditarSubconceptoSellos::Inicializar(Modo operacion, int id, int concept
     Operacion = operacion;
     const bool nuevo = operacion == Modo::nuevo;
     setWindowTitle(nuevo ? QStringLiteral("Nuevo subconcepto de sellos") : QStringLiteral("Modificar subconcepto de sellos"));
-    mostrar(subconcepto_nuevo(concepto));
+    poner_controles(subconcepto_nuevo(concepto));
     if (const auto fila = nuevo ? std::nullopt : cargar_subconcepto(id)) {
         guardado_ = true;
-        mostrar(*fila);
+        poner_controles(*fila);
     }
     if (guardado_) {
         obtener_alicuotas();
@@ -145,9 +147,8 @@ ControlesSubconcepto frmEditarSubconceptoSellos::leer_controles() const
 {
     ControlesSubconcepto c = ocultos_;
     const auto tomar = [&](const char* nombre) {
-        const QString control = QString::fromUtf8(nombre);
-        if (const auto* w = nombre ? findChild<QWidget*>(control) : nullptr)
-            c[control] = leer_control(w);
+        if (const QWidget* w = control(nombre))
+            c[w->objectName()] = leer_control(w);
     };
     for (const CampoSubconcepto& campo : campos_subconcepto()) {
         tomar(campo.control);
@@ -158,13 +159,13 @@ ControlesSubconcepto frmEditarSubconceptoSellos::leer_controles() const
     return c;
 }
 
-void frmEditarSubconceptoSellos::mostrar(const ControlesSubconcepto& c)
+void frmEditarSubconceptoSellos::poner_controles(const ControlesSubconcepto& c)
 {
     const QScopedValueRollback mostrando(mostrando_, true);
     for (const CampoSubconcepto& campo : campos_subconcepto())
         for (const char* nombre : {campo.control, campo.asociado})
-            if (auto* w = nombre ? findChild<QWidget*>(QString::fromUtf8(nombre)) : nullptr)
-                poner_control(w, c.value(QString::fromUtf8(nombre)));
+            if (QWidget* w = control(nombre))
+                poner_control(w, c.value(w->objectName()));
     ocultos_ = {{TIPO_CALCULO_BI, c.value(TIPO_CALCULO_BI)}, {USOS, c.value(USOS)}};
     ui->txtTipoCalculoBI->setText(c.value(QStringLiteral("txtTipoCalculoBI")).toString());
     for (QLineEdit* texto : findChildren<QLineEdit*>())
@@ -180,8 +181,8 @@ void frmEditarSubconceptoSellos::habilitarControles()
 {
     const ControlesSubconcepto c = leer_controles();
     const auto habilitar = [&](const char* nombre) {
-        if (auto* w = nombre ? findChild<QWidget*>(QString::fromUtf8(nombre)) : nullptr)
-            habilitar_control(w, editando_ && habilitado_por_casillas(QString::fromUtf8(nombre), c));
+        if (QWidget* w = control(nombre))
+            habilitar_control(w, editando_ && habilitado_por_casillas(w->objectName(), c));
     };
     for (const CampoSubconcepto& campo : campos_subconcepto()) {
         if (campo.forma != Forma::codigo)
@@ -197,7 +198,7 @@ void frmEditarSubconceptoSellos::vaciarDependientes(const QString& casilla)
 {
     for (const DependenciaSubconcepto& d : dependencias_subconcepto())
         if (d.vaciar && casilla == QString::fromUtf8(d.casilla))
-            if (auto* w = findChild<QWidget*>(QString::fromUtf8(d.control)))
+            if (QWidget* w = control(d.control))
                 poner_control(w, {});
 }
 
@@ -313,14 +314,13 @@ void frmEditarSubconceptoSellos::pulsada(const QString& clave)
 
 void frmEditarSubconceptoSellos::aceptar()
 {
-    // A choice in a list that is still open is told when the list loses the focus.
-    if (ui->ctlTipoCalculo->abierta())
-        ui->ctlTipoCalculo->setFocus();
+    // A choice in a list that is still open is told when it closes.
+    ui->ctlTipoCalculo->Cerrarse();
     ControlesSubconcepto c = leer_controles();
     const auto falla = validar_subconcepto(c);
     for (const CampoSubconcepto& campo : campos_subconcepto())
         if (campo.forma == Forma::texto || campo.forma == Forma::mascara)
-            poner_control(findChild<QWidget*>(QString::fromUtf8(campo.control)), c.value(QString::fromUtf8(campo.control)));
+            poner_control(control(campo.control), c.value(QString::fromUtf8(campo.control)));
     if (falla) {
         mostrarFalla(*falla);
         if (falla->control == u"cmdElegirTCBI")

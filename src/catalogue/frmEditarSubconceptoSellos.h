@@ -34,7 +34,7 @@ public:
 private:
     // Controls, by the table that joins them to columns and conditions.
     [[nodiscard]] ControlesSubconcepto leer_controles() const;
-    void mostrar(const ControlesSubconcepto& c);
+    void poner_controles(const ControlesSubconcepto& c);
     void habilitarControles();
     void vaciarDependientes(const QString& casilla);
     void cambioCasilla(const QString& casilla, bool si);
@@ -58,8 +58,10 @@ private:
     void borrar(const QString& pregunta, const QString& titulo, const QString& tituloError, const std::function<void()>& accion);
 
     [[nodiscard]] int codigo() const;
+    [[nodiscard]] QWidget* control(const char* nombre) const { return controles_.value(QString::fromUtf8(nombre)); }
 
     std::unique_ptr<Ui::frmEditarSubconceptoSellos> ui;
+    QHash<QString, QWidget*> controles_;
     ControlesSubconcepto ocultos_;  ///< what no control shows
     int tipoCalculo_ = 0;
     bool guardado_ = false;         ///< the item is in the store

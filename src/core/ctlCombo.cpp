@@ -207,8 +207,10 @@ void ctlCombo::escribir(QTreeWidgetItem* fila)
 
 void ctlCombo::elegir()
 {
-    if (permiteElegir_ && lvw_->currentItem())
-        escribir(lvw_->currentItem());
+    if (!permiteElegir_ || !lvw_->currentItem())
+        return;
+    escribir(lvw_->currentItem());
+    pendiente_ = true;
 }
 
 ctlCombo::Fila ctlCombo::fila_de(const QTreeWidgetItem* fila) const
@@ -266,8 +268,8 @@ void ctlCombo::abrir()
 
 void ctlCombo::Cerrarse()
 {
-    // With the focus in it the list loses it, and that is told.
-    if (lvw_->hasFocus())
+    // With the focus in it the list loses it, and that is told; so is a click that was not told yet.
+    if (lvw_->hasFocus() || pendiente_)
         perderFoco();
     lvw_->hide();
     ajustarAltura();
@@ -313,6 +315,7 @@ void ctlCombo::perderFoco()
 {
     if (!abierta())
         return;
+    pendiente_ = false;
     lvw_->hide();
     resize(width(), alturaCerrada());
     txt_->setFocus();

@@ -64,7 +64,7 @@ public:
     /// Selects the row of a key, which gets its "k" here unless it is complete. A key that is not
     /// there changes nothing. The form is not told.
     void SeleccionarItem(QString& clave, bool completa);
-    /// Closes the list. With the focus in it, it loses it, and the form is told.
+    /// Closes the list. The form is told when the list had the focus, or a click of it was not told yet.
     void Cerrarse();
 
     [[nodiscard]] QList<Fila> lista() const;
@@ -117,6 +117,7 @@ private:
     QString separador_;
     bool permiteElegir_ = true;
     bool elegido_ = false;
+    bool pendiente_ = false;             ///< a click in the list was not told yet
     QTreeWidgetItem* ultima_ = nullptr;  ///< the row that the text box shows
     bool habilitado_ = true;
     Qt::SortOrder orden_ = Qt::AscendingOrder;

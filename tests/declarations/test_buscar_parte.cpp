@@ -56,12 +56,10 @@ protected:
     QList<Fila> todas_;
 };
 
-bool parecido(const QString& nombre, const QString& patron)
+QRegularExpression expresion(const QString& patron)
 {
     return QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::escape(patron).replace("\\%"_u, ".*"_u).replace(u'_', u'.')),
-                              QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption)
-        .match(nombre)
-        .hasMatch();
+                              QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
 }
 
 TEST_F(BuscarParte, ContraUnRecorridoSimple)
@@ -71,7 +69,7 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
     const QStringList apellidos{"PEREZ"_u, "D'ANGELO"_u, "ÑANDÚ"_u, "O'BRIEN"_u, "SOSA"_u, "100%"_u, "LÓPEZ  PAZ"_u};
     const QStringList nombres{"JUAN"_u, "ANA MARIA"_u, "JOSÉ"_u, "S.A."_u, "PEREZ"_u};
     const QStringList tipos{"80"_u, "86"_u, "96"_u, "94"_u, QString()};
-    for (int i = 0; i < 500; ++i) {
+    for (int i = 0; i < 300; ++i) {
         const QString tipo = uno_de(tipos);
         const bool cuit = tipo == u"80" || tipo == u"86";
         const QString nro = azar() % 8 == 0 ? QString() : QString::number(cuit ? 20100000000 + azar() % 40 : 30000000 + azar() % 40);
@@ -80,7 +78,7 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
     }
     const QHash<QString, QString> textos{{"80"_u, "CUIT"_u}, {"86"_u, "CUIL"_u}, {"96"_u, "DNI"_u}};
     int con_algo = 0;
-    for (int i = 0; i < 600; ++i) {
+    for (int i = 0; i < 400; ++i) {
         FiltroPartes f{.dj = "20123456786261000"_u,
                        .renglon = QString::number(azar() % 4 + 1),
                        .tipoSociedad = azar() % 3 == 0 ? int(azar() % 3 + 1) : 0,
@@ -97,13 +95,18 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
         const QString directo = palabras.join(u'%');
         std::reverse(palabras.begin(), palabras.end());
         const auto con = [&](const QString& s) { return (cabeza ? "%"_u : QString()) + s + (cola ? "%"_u : QString()); };
+        QList<QRegularExpression> vale{expresion(con(f.razonSocial))};
+        if (palabras.size() > 1)
+            vale << expresion(con(directo)) << expresion(con(palabras.join(u'%')));
         QSet<QString> esperadas;
         for (const Fila& x : std::as_const(todas_)) {
-            const bool nombre = f.criterio == Criterio::sin_filtro || f.razonSocial.isEmpty() || parecido(x.nombre, con(f.razonSocial))
-                || (palabras.size() > 1 && (parecido(x.nombre, con(directo)) || parecido(x.nombre, con(palabras.join(u'%')))));
+            if (x.dj == f.dj || x.renglon == f.renglon.toInt() || x.tipo.isEmpty() || (f.tipoSociedad != 0 && f.tipoSociedad != x.sociedad))
+                continue;
+            const bool nombre = f.criterio == Criterio::sin_filtro || f.razonSocial.isEmpty()
+                || std::any_of(vale.begin(), vale.end(), [&x](const QRegularExpression& e) { return e.match(x.nombre).hasMatch(); });
             const bool doc = f.tipoDoc == 0 || f.nroDoc.isEmpty()
                 || (f.tipoDoc == 96 ? x.tipo == u"96" && x.nro == f.nroDoc : x.cuit == f.nroDoc.toDouble());
-            if (x.dj != f.dj && x.renglon != f.renglon.toInt() && !x.tipo.isEmpty() && (f.tipoSociedad == 0 || f.tipoSociedad == x.sociedad) && nombre && doc)
+            if (nombre && doc)
                 esperadas << x.tipo + u'|' + x.nro + u'|' + x.nombre;
         }
         QStringList halladas = hallar(f);
@@ -113,7 +116,7 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
         ASSERT_EQ(halladas.size(), esperadas.size()) << f.razonSocial.toStdString() << " criterio " << int(f.criterio);
         ASSERT_EQ(QSet<QString>(halladas.begin(), halladas.end()), esperadas);
     }
-    EXPECT_GT(con_algo, 150);
+    EXPECT_GT(con_algo, 100);
 }
 
 TEST_F(BuscarParte, LaSentenciaYElDocumentoQueNoVale)
