@@ -49,11 +49,11 @@ void dj_a_pdf(benchmark::State& estado)
 {
     const AlmacenGrande a;
     const QString nro = AlmacenGrande::dj(2026, 3, 2000);
-    const auto dj = leer_dj_impresa(nro);
+    const DJImpresa dj = leer_dj_impresa(nro);
     QTemporaryDir dir;
     std::vector<std::vector<QString>> paginas;
     {
-        rpt_dj informe(*dj, CODIGO, QStringLiteral("v"));
+        rpt_dj informe(dj, CODIGO, QStringLiteral("v"));
         for (int n = 0; n < informe.paginas(); ++n) {
             paginas.emplace_back();
             const Pagina pagina = informe.pagina(n).value_or(Pagina());
@@ -67,7 +67,7 @@ void dj_a_pdf(benchmark::State& estado)
     medir(
         estado, 1.5,
         [&] {
-            rpt_dj informe(*dj, CODIGO, QStringLiteral("v"));
+            rpt_dj informe(dj, CODIGO, QStringLiteral("v"));
             if (!guardar_pdf(informe, dir.filePath(QStringLiteral("dj.pdf")), QStringLiteral("DJ")))
                 std::abort();
         },
@@ -79,8 +79,8 @@ void dj_a_pdf(benchmark::State& estado)
 void primera_pagina(benchmark::State& estado)
 {
     const AlmacenGrande a;
-    const auto larga = leer_dj_impresa(AlmacenGrande::dj(2026, 3, 2000));
-    const auto corta = leer_dj_impresa(AlmacenGrande::dj(2026, 4, 50));
+    const DJImpresa larga = leer_dj_impresa(AlmacenGrande::dj(2026, 3, 2000));
+    const DJImpresa corta = leer_dj_impresa(AlmacenGrande::dj(2026, 4, 50));
     const auto mostrar = [](const DJImpresa& dj) {
         rpt_dj informe(dj, CODIGO, QStringLiteral("v"));
         QImage papel(900, 1273, QImage::Format_RGB32);
@@ -88,7 +88,7 @@ void primera_pagina(benchmark::State& estado)
         QPainter p(&papel);
         pintar_pagina(p, *informe.pagina(0), 900 / ANCHO_A4);
     };
-    medir(estado, 1.5, [&] { mostrar(*larga); }, [&] { mostrar(*corta); });
+    medir(estado, 1.5, [&] { mostrar(larga); }, [&] { mostrar(corta); });
 }
 
 }  // namespace

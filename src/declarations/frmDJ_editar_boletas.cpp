@@ -1,10 +1,11 @@
 // The tab of the deposit slips.
 
-#include "core/ctlEspera.h"
 #include "core/almacen.h"
 #include "core/ctlComunes.h"
+#include "core/ctlEspera.h"
 #include "declarations/frmDJ_editar.h"
 #include "payment/boletas.h"
+#include "printing/datos_impresos.h"
 #include "printing/frmReportes.h"
 #include "ui_frmDJ_editar.h"
 
@@ -94,16 +95,20 @@ void frmDJ_editar::generar_boleta()
 
 void frmDJ_editar::imprimir_boleta(const QString& nro)
 {
-    auto* reporte = cargar<frmReportes>();
+    std::optional<BoletaImpresa> boleta;
     try {
-        if (reporte->BolDep(nro)) {
-            abrir(reporte);
-            return;
-        }
+        boleta = leer_boleta(nro);
     } catch (const ErrorAlmacen&) {
         // Nothing is told: the slip is stored, and may be printed again.
     }
-    reporte->descargar();
+    if (!boleta) {
+        habilitarBoletas(true);
+        puntero_normal();
+        return;
+    }
+    auto* reporte = cargar<frmReportes>();
+    reporte->BolDep(*boleta);
+    abrir(reporte);
 }
 
 void frmDJ_editar::tlbB_pulsada(const QString& clave)

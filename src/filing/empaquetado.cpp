@@ -56,6 +56,8 @@ public:
     {
         borrar(lote());
         borrar(archivo());
+        // The batch file stands from here on, empty until all its lines are known.
+        escribirLote({});
         // The quote in front of the command's name makes the line one name that fails; it does no harm.
         texto_ = palabra_shell(QStringLiteral("rm ") + archivo()) + u'\n';
         empaquetar(carpeta_ + QStringLiteral("/SRTN") + nro_ + QStringLiteral(".txt"));
@@ -65,7 +67,7 @@ public:
             borrar(testimonios_ + u'/' + viejo);
         if (!copiarTestimonios())
             return false;
-        escribirLote();
+        escribirLote(texto_ + u'\n');
         QProcess lotes;
         lotes.setStandardErrorFile(QProcess::nullDevice());
         lotes.setStandardOutputFile(QProcess::nullDevice());
@@ -108,10 +110,10 @@ private:
         return true;
     }
 
-    void escribirLote() const
+    void escribirLote(const QString& texto) const
     {
         QFile f(lote());
-        const QByteArray bytes = QFile::encodeName(texto_ + u'\n');
+        const QByteArray bytes = QFile::encodeName(texto);
         if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.flush())
             fallar(QStringLiteral("No se pudo escribir "), lote());
     }

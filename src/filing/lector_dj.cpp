@@ -7,6 +7,7 @@
 #include <QCryptographicHash>
 
 #include <cstring>
+#include <limits>
 #include <set>
 
 namespace {
@@ -29,6 +30,16 @@ qint64 numero(std::string_view cifras)
     for (const char c : cifras.substr(negativo))
         n = n < (qint64(1) << 58) ? n * 10 + (c - '0') : n;
     return negativo ? -n : n;
+}
+
+// A sum that no file of this form comes to stays at the end of its range.
+void sumar(qint64& suma, qint64 n)
+{
+    using Limites = std::numeric_limits<qint64>;
+    if (n > 0)
+        suma = suma > Limites::max() - n ? Limites::max() : suma + n;
+    else
+        suma = suma < Limites::min() - n ? Limites::min() : suma + n;
 }
 
 struct Dominio
@@ -201,7 +212,7 @@ private:
         const qint64 id = numero(r_.campo("SEDD_ID"));
         if (!escrituras_.emplace(id, Escritura_{numero(r_.campo("SEDD_TOTAL_IMPUESTO")), 0, false, false, linea_}).second)
             fallaDeValor("SEDD_ID", QStringLiteral("el renglón está repetido"));
-        suma_ += numero(r_.campo("SEDD_TOTAL_IMPUESTO"));
+        sumar(suma_, numero(r_.campo("SEDD_TOTAL_IMPUESTO")));
         dudosas_ = dudosas_ || r_.dudoso;
     }
 
@@ -219,7 +230,7 @@ private:
             partes_.emplace(id, numero(r_.campo("SPIN_ID")));
         } else if (tipo == '5') {
             operaciones_.emplace(id, operacion);
-            it->second.operaciones += numero(r_.campo("SINS_MONTO_FINAL"));
+            sumar(it->second.operaciones, numero(r_.campo("SINS_MONTO_FINAL")));
             it->second.conOperacion = true;
             it->second.dudosa = it->second.dudosa || r_.dudoso;
         } else if (tipo == '6' || tipo == '7') {

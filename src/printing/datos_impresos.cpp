@@ -229,17 +229,19 @@ OperacionImpresa leer_operacion(const Recordset& rs)
 
 }  // namespace
 
-std::optional<DJImpresa> leer_dj_impresa(const QString& nro)
+DJImpresa leer_dj_impresa(const QString& nro)
 {
-    auto cabecera = leer_cabecera_impresa(nro);
-    if (!cabecera)
-        return {};
-    DJImpresa dj{*cabecera, {}};
+    DJImpresa dj;
     {
         const Recordset rs(cnRtn, QStringLiteral("select count(*) as CANT_MOV from SEL_TB_RTN_DETDJ where SEDJ_NRO='") + nro + QStringLiteral("'"));
-        if (rs.entero("cant_mov") == 0)
-            return dj;
+        dj.sinMovimientos = rs.entero("cant_mov") == 0;
     }
+    const auto cabecera = leer_cabecera_impresa(nro);
+    if (!cabecera)
+        return dj;
+    dj.cabecera = *cabecera;
+    if (dj.sinMovimientos)
+        return dj;
     cargar_tmp_dj_oper(nro);
     QString anterior;
     for (Recordset rs(cnRtn, consulta_escrituras(nro)); !rs.eof(); rs.siguiente()) {
@@ -253,9 +255,8 @@ std::optional<DJImpresa> leer_dj_impresa(const QString& nro)
     return dj;
 }
 
-std::optional<ReciboImpreso> leer_recibo(const QString& nro, const QString& dj)
+std::optional<ReciboImpreso> leer_recibo(const QString& nro)
 {
-    cargar_tmp_dj_oper(dj);
     const Recordset rs(cnRtn, QStringLiteral("select SEL_TB_RTN_DETDJ.SEDJ_NRO, SEL_TB_RTN_DETDJ.SEDD_ESCRITURA_NRO, SEL_TB_RTN_DETDJ.SEDD_FOLIO, SEL_TB_RTN_COMP_RET.*, "
                                              "C.SEDJ_ADSCRIPTO1_NOMBRE, C.SEDJ_ADSCRIPTO2_NOMBRE, T.PARTES, T.INMUEBLES "
                                              " from SEL_TB_RTN_DETDJ inner join SEL_TB_RTN_COMP_RET on SEL_TB_RTN_COMP_RET.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO "

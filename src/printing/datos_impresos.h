@@ -45,10 +45,12 @@ struct EscrituraImpresa
 struct DJImpresa
 {
     CabeceraImpresa cabecera;
-    QList<EscrituraImpresa> escrituras;  ///< empty for a DJ without movements
+    QList<EscrituraImpresa> escrituras;
+    bool sinMovimientos = false;  ///< it has no deeds in the store
 };
-/// Nothing for a header without a locality, which drops out of the printed DJ.
-[[nodiscard]] std::optional<DJImpresa> leer_dj_impresa(const QString& nro);
+/// A header without a locality drops out of the printed DJ, and its deeds with it: header and deeds
+/// are empty then. Throws ErrorAlmacen.
+[[nodiscard]] DJImpresa leer_dj_impresa(const QString& nro);
 /// Fills SEL_TMP_DJ_OPER with the texts of the parties and the real estate of each deed of a DJ.
 void cargar_tmp_dj_oper(const QString& nro);
 
@@ -57,8 +59,9 @@ struct ReciboImpreso
     QString nro, dj, escritura, folio, fechaRetencion, fechaEscritura, titular, adscripto1, adscripto2, partes, inmuebles;
     double monto = 0;
 };
-/// Nothing for an annulled receipt or one of a deed that did not pass.
-[[nodiscard]] std::optional<ReciboImpreso> leer_recibo(const QString& nro, const QString& dj);
+/// Nothing for an annulled receipt or one of a deed that did not pass; the texts of its DJ are filled
+/// before. Throws ErrorAlmacen.
+[[nodiscard]] std::optional<ReciboImpreso> leer_recibo(const QString& nro);
 
 /// The digits of a slip's code for reading: eight pairs of five, each pair with two blanks behind it.
 [[nodiscard]] QString codigo_legible_boleta(const QString& codigo);

@@ -1,5 +1,6 @@
 #include "printing/frmReportes.h"
 
+#include "core/almacen.h"
 #include "core/ctlEspera.h"
 #include "declarations/frmDJ_editar.h"
 #include "printing/datos_impresos.h"
@@ -77,23 +78,19 @@ void frmReportes::poner(const QString& titulo, const QString& nombre, std::share
     puntero_normal();
 }
 
-bool frmReportes::BolDep(const QString& nro)
+void frmReportes::BolDep(const BoletaImpresa& boleta)
 {
     puntero_de_espera();
-    const auto boleta = leer_boleta(nro);
-    if (!boleta)
-        return false;
-    poner(QStringLiteral("Boleta de depósito"), QStringLiteral("boleta-") + nro, std::make_shared<rptRTN_boldep1>(*boleta));
-    return true;
+    poner(QStringLiteral("Boleta de depósito"), QStringLiteral("boleta-") + boleta.nro, std::make_shared<rptRTN_boldep1>(boleta));
 }
 
 void frmReportes::DJ(const QString& nro, const QString& codigo)
 {
     puntero_de_espera();
-    const DJImpresa dj = leer_dj_impresa(nro).value_or(DJImpresa());
+    const DJImpresa dj = leer_dj_impresa(nro);
     const QString version = QStringLiteral("VEDRA RTN v.") + QCoreApplication::applicationVersion();
     std::shared_ptr<Informe> informe;
-    if (dj.escrituras.isEmpty())
+    if (dj.sinMovimientos)
         informe = std::make_shared<rpt_dj_sin_mov>(dj, codigo, version);
     else
         informe = std::make_shared<rpt_dj>(dj, codigo, version);
@@ -103,7 +100,15 @@ void frmReportes::DJ(const QString& nro, const QString& codigo)
 void frmReportes::recibo(const QString& nro, const QString& dj)
 {
     puntero_de_espera();
-    poner(QStringLiteral("Comprobante de retención"), QStringLiteral("comprobante-") + nro, std::make_shared<rpt_recibo>(leer_recibo(nro, dj)));
+    const QString titulo = QStringLiteral("Comprobante de retención");
+    cargar_tmp_dj_oper(dj);
+    std::optional<ReciboImpreso> datos;
+    try {
+        datos = leer_recibo(nro);
+    } catch (const ErrorAlmacen& e) {
+        avisar(e.descripcion, titulo);
+    }
+    poner(titulo, QStringLiteral("comprobante-") + nro, std::make_shared<rpt_recibo>(datos));
 }
 
 void frmReportes::cambiarZoom(int indice)

@@ -21,8 +21,8 @@ public:
 
     void alActivar() override;
 
-    /// The deposit slip of this number; false when there is none.
-    bool BolDep(const QString& nro);
+    /// A deposit slip.
+    void BolDep(const struct BoletaImpresa& boleta);
     /// The printed DJ with its integrity code.
     void DJ(const QString& nro, const QString& codigo);
     /// The withholding receipt; an annulled one gives the empty form.

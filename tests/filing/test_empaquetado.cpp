@@ -190,7 +190,8 @@ TEST_F(EmpaquetadoDJ, LeerDJDesdeArchivoCarpetaYRar)
     EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--campos"_u}, &salida), 0);
     EXPECT_TRUE(salida.contains("SEDJ_TITULAR_NOMBRE"_u));
     EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--json"_u}, &salida), 0);
-    EXPECT_TRUE(salida.contains("\"SEDJ_TITULAR_NOMBRE\": \"PÉREZ"_u));
+    for (const char* dice : {"\"SEDJ_TITULAR_NOMBRE\": \"PÉREZ", "\"cuit\": \"20123456786\"", "\"estado\": \"0\"", "\"secuencia\": \"0", "\"totalRetenido\": 0", "\"agente\": \""})
+        EXPECT_TRUE(salida.contains(QString::fromUtf8(dice))) << dice;
     for (const QString& mala : {carpeta.path(), "/no/existe"_u, QStringLiteral(RTN_LEER_DJ), base + "/rar"_u})
         EXPECT_NE(correr(QStringLiteral(RTN_LEER_DJ), {mala}), 0);
 }
@@ -214,6 +215,8 @@ TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
     EXPECT_EQ(oyente.ultimo(), "Error en la escritura Nº 7,  no existe el archivo del testimonio \n/no/d'existe.pdf\n\nComplete la declaracion jurada e intente mas tarde."_u);
     EXPECT_EQ(oyente.titulos.last(), "Emitir DJ "_u + dj);
     EXPECT_FALSE(QFile::exists(base + "/dj.rar"_u));
+    EXPECT_TRUE(QFile::exists(base + "/comprimir.bat"_u));
+    EXPECT_EQ(QFileInfo(base + "/comprimir.bat"_u).size(), 0);  // made, never filled
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO=null"_u);
     const QString codigo = dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u);
     cancelar = true;

@@ -123,6 +123,22 @@ INSTANTIATE_TEST_SUITE_P(Casos, LectorFallas, testing::Values(
     Alteracion{"000000003050PS", "000000003050XS", "SEDD_ESTADO", "admite"}, Alteracion{"tag_fin_tes", "tag_fin_tez", "<_d59fb4af70161c458a82b02558160ca6_tag_fin_tes>", "no cabe"},
     Alteracion{"\r\n4001", "X\r\n4001", "GTSO_ID", "no cabe"}, Alteracion{"PE\xD1", "\x01\xD1", "", "carácter de control"}));
 
+// Amounts far past any sum: told as they are, without running over.
+TEST_F(LectorDJ, ImportesQueNoCabenEnSuSuma)
+{
+    QByteArray bytes = archivo();
+    const auto desde = bytes.indexOf("\r\n2001") + 2;
+    const QByteArray escritura = bytes.mid(desde, bytes.indexOf("\r\n", desde) + 2 - desde);
+    QByteArray muchas;
+    for (int i = 100; i < 140; ++i)
+        muchas += QByteArray(escritura).replace("2001", "2" + QByteArray::number(i)).replace("000000003050", i % 2 ? "9999999999999999999" : "8888888888888888888");
+    ASSERT_EQ(muchas.count("9999999999999999999"), 20);
+    bytes.insert(desde, muchas);
+    const LecturaDJ l = leer_archivo_dj(bytes);
+    EXPECT_GT(l.totalEscrituras, 9e16);
+    EXPECT_TRUE(std::any_of(l.fallas.begin(), l.fallas.end(), [](const FallaLectura& f) { return f.campo == u"SEDJ_TOTAL_RETENIDO"; }));
+}
+
 TEST_F(LectorDJ, CadaByteCambiadoSeNombraOCambiaElCodigo)
 {
     const QByteArray bueno = archivo();

@@ -179,12 +179,11 @@ TEST_F(Impresos, DJDeSesentaEscriturasDelAlmacen)
     QString inmuebles;
     for (int i = 1; i <= 80; ++i)
         cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL, GTUB_ID) values ('%1', 2, %2, 'P%2x', 1234567.5, 1)"_u.arg(dj).arg(i));
-    const auto impresa = leer_dj_impresa(dj);
-    ASSERT_TRUE(impresa);
-    ASSERT_EQ(impresa->escrituras.size(), 60);
-    EXPECT_EQ(impresa->escrituras[0].operaciones.size(), 2);
-    EXPECT_EQ(impresa->escrituras[0].partes, "O'HIGGINS DNI 22333444; SILVA 50000000316 AB1; NUEVA S.A. CUIT (CUIT en trámite); "_u);
-    rpt_dj informe(*impresa, QLatin1StringView(CODIGO), "v"_u);
+    const DJImpresa impresa = leer_dj_impresa(dj);
+    ASSERT_EQ(impresa.escrituras.size(), 60);
+    EXPECT_EQ(impresa.escrituras[0].operaciones.size(), 2);
+    EXPECT_EQ(impresa.escrituras[0].partes, "O'HIGGINS DNI 22333444; SILVA 50000000316 AB1; NUEVA S.A. CUIT (CUIT en trámite); "_u);
+    rpt_dj informe(impresa, QLatin1StringView(CODIGO), "v"_u);
     const QString todo = textos(informe).join(QString()).simplified();
     for (const char* dice : {"UN MOTIVO PROPIO", "Testamento", "ANULADA/ERROSE", "ANULADA/NO PASO", "No alcanzada", "COMPRAVENTA DE INMUEBLES", "PODER GENERAL", "Base imponible $ 1.000,00", "O'HIGGINS"})
         EXPECT_TRUE(todo.contains(QString::fromUtf8(dice))) << dice;
@@ -196,7 +195,15 @@ TEST_F(Impresos, DJDeSesentaEscriturasDelAlmacen)
         EXPECT_GE(lugar, 0) << i;
     }
     cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set GLOC_ID=null"_u);
-    EXPECT_FALSE(leer_dj_impresa(dj));  // without its locality a header drops out
+    // Without its locality the header drops out, and the deeds with it; it is no DJ without movements.
+    const DJImpresa sin_cabecera = leer_dj_impresa(dj);
+    EXPECT_TRUE(sin_cabecera.cabecera.nro.isEmpty() && sin_cabecera.escrituras.isEmpty());
+    EXPECT_FALSE(sin_cabecera.sinMovimientos);
+    rpt_dj vacio(sin_cabecera, QLatin1StringView(CODIGO), "v"_u);
+    const QString lo_que_queda = textos(vacio).join(QString());
+    EXPECT_FALSE(lo_que_queda.contains("SIN MOVIMIENTOS"_u));
+    EXPECT_TRUE(lo_que_queda.contains(codigo_legible_dj(QLatin1StringView(CODIGO)).trimmed()));
+    EXPECT_TRUE(leer_dj_impresa(nueva_dj(1)).sinMovimientos);
 }
 
 TEST_F(Impresos, ReciboYReciboAnulado)
@@ -208,17 +215,18 @@ TEST_F(Impresos, ReciboYReciboAnulado)
     for (int i = 0; i < 2; ++i)
         emitir_comprobante(proximo_comprobante(dj), {dj, "1"_u, "1234.5"_u, QDate(2026, 10, 3), "PÉREZ"_u});
     fijar_hoy({});
-    rpt_recibo vigente(leer_recibo("02-20123-2026-00002"_u, dj));
+    cargar_tmp_dj_oper(dj);
+    rpt_recibo vigente(leer_recibo("02-20123-2026-00002"_u));
     const QString texto = textos(vigente).join(QString());
     for (const char* dice : {"02-20123-2026-00002", "04/05/2026", "03/10/2026", "77", "88", "RÍOS DNI 22333444", "PÉREZ", "1.234,50",
                              "SON PESOS: un mil doscientos treinta y cuatro con 50/100"})
         EXPECT_TRUE(texto.contains(QString::fromUtf8(dice))) << dice;
-    rpt_recibo anulado(leer_recibo("02-20123-2026-00001"_u, dj));
+    rpt_recibo anulado(leer_recibo("02-20123-2026-00001"_u));
     const QString vacio = textos(anulado).join(QString());
     EXPECT_TRUE(vacio.contains("COMPROBANTE DE RETENCIÓN"_u));
     EXPECT_FALSE(vacio.contains("RÍOS"_u) || vacio.contains("SON PESOS"_u));
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_ESTADO='N'"_u);
-    EXPECT_FALSE(leer_recibo("02-20123-2026-00002"_u, dj));
+    EXPECT_FALSE(leer_recibo("02-20123-2026-00002"_u));
 }
 
 }  // namespace

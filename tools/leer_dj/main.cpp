@@ -106,6 +106,22 @@ QJsonObject registro_json(const RegistroLeido& r)
     return {{QStringLiteral("linea"), r.linea}, {QStringLiteral("tipo"), QString(QLatin1Char(r.registro->tipo))}, {QStringLiteral("campos"), campos}};
 }
 
+QJsonObject resumen_json(const LecturaDJ& l, const QJsonArray& registros)
+{
+    return {{QStringLiteral("codigo"), l.codigo},
+            {QStringLiteral("agente"), l.agente},
+            {QStringLiteral("titular"), l.titular},
+            {QStringLiteral("cuit"), l.cuit},
+            {QStringLiteral("posicion"), l.posicion},
+            {QStringLiteral("secuencia"), l.secuencia},
+            {QStringLiteral("estado"), l.estado},
+            {QStringLiteral("totalRetenido"), l.totalRetenido},
+            {QStringLiteral("totalEscrituras"), l.totalEscrituras},
+            {QStringLiteral("fallas"), en_json(l.fallas)},
+            {QStringLiteral("avisos"), en_json(l.avisos)},
+            {QStringLiteral("registros"), registros}};
+}
+
 void resumir(const QString& ruta, const LecturaDJ& l)
 {
     decir(QStringLiteral("Archivo: ") + ruta);
@@ -153,12 +169,7 @@ int main(int argc, char** argv)
         if (codigo.remove(u' '); !codigo.isEmpty() && codigo != l.codigo)
             l.fallas.push_back({0, 0, {}, codigo, QStringLiteral("el código del papel no es el del archivo (") + l.codigo + u')'});
         if (json)
-            std::fputs(QJsonDocument(QJsonObject{{QStringLiteral("codigo"), l.codigo}, {QStringLiteral("titular"), l.titular},
-                                                 {QStringLiteral("posicion"), l.posicion}, {QStringLiteral("fallas"), en_json(l.fallas)},
-                                                 {QStringLiteral("avisos"), en_json(l.avisos)}, {QStringLiteral("registros"), registros_json}})
-                           .toJson()
-                           .constData(),
-                       stdout);
+            std::fputs(QJsonDocument(resumen_json(l, registros_json)).toJson().constData(), stdout);
         else
             resumir(ruta, l);
         return l.fallas.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
