@@ -12,6 +12,9 @@
 
 namespace {
 
+// A text is not set smaller than this.
+constexpr double PUNTOS_MINIMOS = 3.25;
+
 // Texts are laid out in hundredths of a millimetre, so that a font measures the same everywhere.
 constexpr double UNIDADES = 100;
 constexpr double MM_POR_PUNTO = 25.4 / 72;
@@ -135,9 +138,9 @@ double ancho_texto(const QString& texto, double puntos, bool negrita)
     return letra(puntos, negrita).ancho(texto) / UNIDADES;
 }
 
-QStringList en_lineas(const QString& texto, double ancho, double puntos)
+QStringList en_lineas(const QString& texto, double ancho, double puntos, bool negrita)
 {
-    Letra& medidas = letra(puntos, false);
+    Letra& medidas = letra(puntos, negrita);
     QStringList lineas;
     QString linea;
     double usado = 0;
@@ -167,6 +170,28 @@ QStringList en_lineas(const QString& texto, double ancho, double puntos)
     }
     cerrar();
     return lineas;
+}
+
+void Pagina::ajustado(QRectF lugar, const QString& texto_, double puntos, Alineacion alineacion, bool negrita)
+{
+    while (puntos > PUNTOS_MINIMOS && ancho_texto(texto_, puntos, negrita) > lugar.width())
+        puntos -= 0.25;
+    texto(lugar, texto_, puntos, alineacion, negrita);
+}
+
+std::vector<Pagina> lineas_tituladas(const QString& titulo, const QString& texto, const Titulado& como)
+{
+    const double propia = titulo.isEmpty() ? 0 : ancho_texto(titulo, como.puntos, como.tituloNegrita) + 1.5;
+    const double sangria = como.sangria < 0 ? propia : como.sangria;
+    const double alto = alto_linea(como.puntos);
+    QStringList lineas = en_lineas(texto, como.ancho - sangria, como.puntos, como.textoNegrita);
+    if (lineas.isEmpty())
+        lineas << QString();
+    std::vector<Pagina> paginas(size_t(lineas.size()));
+    paginas.front().texto({como.x, 0, sangria, alto}, titulo, como.puntos, Alineacion::izquierda, como.tituloNegrita);
+    for (size_t i = 0; i < paginas.size(); ++i)
+        paginas[i].texto({como.x + sangria, 0, como.ancho - sangria, alto}, lineas[qsizetype(i)], como.puntos, Alineacion::izquierda, como.textoNegrita);
+    return paginas;
 }
 
 void pintar_pagina(QPainter& p, const Pagina& pagina, double escala)

@@ -26,11 +26,11 @@ Banda rptRTN_boldep1::copia(const QString& para, bool ultima) const
     Pagina& p = banda.contenido;
     const auto fila = [&](double x, double y, double ancho, const QString& titulo, const QString& valor) {
         p.texto({x, y, ancho, 4}, titulo, 7);
-        p.texto({x, y + 3, ancho, 4}, valor, 8.5, Alineacion::izquierda, true);
+        p.ajustado({x, y + 3, ancho, 4}, valor, 8.5, Alineacion::izquierda, true);
     };
     const auto monto = [&](double x, double y, const QString& titulo, double importe, bool negrita = false) {
         p.texto({x, y, 30, 4}, titulo, 8);
-        p.texto({x + 26, y, 32, 4}, importe_impreso(importe), 8.5, Alineacion::derecha, negrita);
+        p.ajustado({x + 26, y, 32, 4}, importe_impreso(importe), 8.5, Alineacion::derecha, negrita);
     };
     const double x = MARGEN;
     p.texto({x, 0, 110, 5}, QStringLiteral("IMPUESTO DE SELLOS - BOLETA DE DEPÓSITO"), 10, Alineacion::izquierda, true);
@@ -40,14 +40,14 @@ Banda rptRTN_boldep1::copia(const QString& para, bool ultima) const
     p.linea(x, 5.2, x + ANCHO_UTIL, 5.2);
 
     fila(x, 6, 62, QStringLiteral("Boleta Nº"), b_.nro);
-    fila(x + 64, 6, 80, QStringLiteral("Agente de Retención Nº ") + b_.agenteNro, b_.titular);
+    fila(x + 64, 6, 84, QStringLiteral("Agente de Retención Nº ") + b_.agenteNro, b_.titular);
     fila(x + 150, 6, 36, QStringLiteral("CUIT"), b_.cuit);
     fila(x, 14, 62, QStringLiteral("Banco"), b_.banco);
     fila(x + 64, 14, 30, QStringLiteral("Cuenta"), b_.cuenta);
-    fila(x + 96, 14, 50, QStringLiteral("Filial"), b_.filial);
+    fila(x + 96, 14, 31, QStringLiteral("Filial"), b_.filial);
     fila(x, 22, 62, QStringLiteral("Posición"), b_.posicion);
     fila(x + 64, 22, 30, QStringLiteral("Emisión"), fecha_impresa(b_.emision));
-    fila(x + 96, 22, 50, QStringLiteral("Vencimiento"), fecha_impresa(b_.vencimiento));
+    fila(x + 96, 22, 31, QStringLiteral("Vencimiento"), fecha_impresa(b_.vencimiento));
 
     monto(x + 128, 14, QStringLiteral("Impuesto $"), b_.importe);
     monto(x + 128, 18, QStringLiteral("Interés $"), b_.interes);
@@ -60,7 +60,7 @@ Banda rptRTN_boldep1::copia(const QString& para, bool ultima) const
         const double y = 31 + 4.0 * i;
         if (c.monto == 0 && c.nro.isEmpty())
             continue;
-        p.texto({x + 64, y, 62, 4}, QStringLiteral("Cheque Nº %1 %2").arg(c.nro, c.banco), 8);
+        p.ajustado({x + 64, y, 88, 4}, QStringLiteral("Cheque Nº %1 %2").arg(c.nro, c.banco), 8);
         monto(x + 128, y, {}, c.monto);
     }
     double y = 39;

@@ -27,17 +27,8 @@ void renglones(std::vector<Banda>& bandas, double x, double ancho, const QString
 {
     if (texto.isEmpty())
         return;
-    const double sangrado = titulo.isEmpty() ? 0 : ancho_texto(titulo, PUNTOS, true) + 1.5;
-    bool primera = true;
-    for (const QString& linea : en_lineas(texto, ancho - sangrado, PUNTOS)) {
-        Banda b;
-        b.alto = alto_linea(PUNTOS);
-        if (primera)
-            b.contenido.texto({x, 0, sangrado, b.alto}, titulo, PUNTOS, Alineacion::izquierda, true);
-        b.contenido.texto({x + sangrado, 0, ancho - sangrado, b.alto}, linea, PUNTOS);
-        bandas.push_back(b);
-        primera = false;
-    }
+    for (Pagina& p : lineas_tituladas(titulo, texto, {.x = x, .ancho = ancho, .puntos = PUNTOS, .tituloNegrita = true}))
+        bandas.push_back({alto_linea(PUNTOS), std::move(p)});
 }
 
 }  // namespace
@@ -74,35 +65,33 @@ Banda rpt_dj_sin_mov::agente() const
         const QString t = QString::fromUtf8(titulo);
         const double sangria = ancho_texto(t, PUNTOS) + 1.5;
         b.contenido.texto({MARGEN + x, y, ancho, FILA}, t, PUNTOS);
-        b.contenido.texto({MARGEN + x + sangria, y, ancho - sangria, FILA}, valor, PUNTOS, Alineacion::izquierda, true);
+        b.contenido.ajustado({MARGEN + x + sangria, y, ancho - sangria, FILA}, valor, PUNTOS, Alineacion::izquierda, true);
+    };
+    const auto largo = [&](const char* titulo, const QString& valor) {
+        for (const Pagina& linea : lineas_tituladas(QString::fromUtf8(titulo), valor, {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .textoNegrita = true})) {
+            b.contenido.agregar(linea, y);
+            y += FILA;
+        }
     };
     dato(0, 40, "Agente Nº", c.agenteNro);
-    dato(42, 100, "Titular", c.titular);
+    dato(42, 102, "Titular", c.titular);
     dato(146, 40, "CUIT", c.cuit);
     y += FILA;
-    for (const QString& linea : en_lineas(c.domicilio, 150, PUNTOS)) {
-        dato(0, 186, "Domicilio", linea);
-        y += FILA;
-    }
+    largo("Domicilio", c.domicilio);
     dato(0, 80, "Localidad", c.localidad);
     dato(82, 40, "Cód. Postal", c.codPostal);
     dato(124, 62, "Teléfono", c.telefono);
     y += FILA;
-    if (!c.email.isEmpty()) {
-        dato(0, 186, "e-mail", c.email);
-        y += FILA;
-    }
+    if (!c.email.isEmpty())
+        largo("e-mail", c.email);
     for (const auto& [nombre, cuit] : {std::pair{c.adscripto1, c.adscripto1Cuit}, {c.adscripto2, c.adscripto2Cuit}})
         if (!nombre.isEmpty()) {
-            dato(0, 140, "Adscripto", nombre);
+            dato(0, 144, "Adscripto", nombre);
             dato(146, 40, "CUIT", cuit);
             y += FILA;
         }
-    const auto observaciones = en_lineas(c.observaciones, 158, PUNTOS);
-    for (const QString& linea : observaciones) {
-        dato(0, 186, "Observaciones", linea);
-        y += FILA;
-    }
+    if (!c.observaciones.isEmpty())
+        largo("Observaciones", c.observaciones);
     b.contenido.linea(MARGEN, y + 1, MARGEN + ANCHO_UTIL, y + 1);
     b.alto = y + 3;
     return b;
@@ -116,7 +105,7 @@ void rpt_dj_sin_mov::cierre(std::vector<Banda>& bandas) const
     double y = 2;
     total.contenido.linea(MARGEN + 96, 1, MARGEN + ANCHO_UTIL, 1, 0.4);
     const auto importe = [&](const QString& titulo, double valor) {
-        total.contenido.texto({MARGEN + 80, y, 70, FILA}, titulo, 9, Alineacion::derecha, true);
+        total.contenido.texto({MARGEN + 74, y, 76, FILA}, titulo, 9, Alineacion::derecha, true);
         total.contenido.texto({MARGEN + 150, y, 36, FILA}, importe_impreso(valor), 9, Alineacion::derecha, true);
         y += 5;
     };

@@ -25,18 +25,9 @@ bool rpt_recibo::siguientes(std::vector<Banda>& bandas)
 {
     const ReciboImpreso r = r_.value_or(ReciboImpreso());
     const auto dato = [&](const char* titulo, const QString& valor, bool negrita = false) {
-        const QString t = QString::fromUtf8(titulo);
-        bool primera = true;
-        const auto lineas = en_lineas(valor, ANCHO_UTIL - 46, PUNTOS);
-        for (const QString& linea : lineas.isEmpty() ? QStringList(QString()) : lineas) {
-            Banda b;
-            b.alto = primera && lineas.size() < 2 ? FILA + 1 : FILA;
-            if (primera)
-                b.contenido.texto({MARGEN, 0, 44, FILA}, t, PUNTOS);
-            b.contenido.texto({MARGEN + 46, 0, ANCHO_UTIL - 46, FILA}, linea, PUNTOS, Alineacion::izquierda, negrita);
-            bandas.push_back(b);
-            primera = false;
-        }
+        auto lineas = lineas_tituladas(QString::fromUtf8(titulo), valor, {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .sangria = 46, .textoNegrita = negrita});
+        for (Pagina& linea : lineas)
+            bandas.push_back({lineas.size() < 2 ? FILA + 1 : FILA, std::move(linea)});
     };
     dato("Comprobante Nº", r.nro, true);
     dato("Fecha de retención", r.fechaRetencion);

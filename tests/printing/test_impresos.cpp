@@ -229,4 +229,72 @@ TEST_F(Impresos, ReciboYReciboAnulado)
     EXPECT_FALSE(leer_recibo("02-20123-2026-00002"_u));
 }
 
+// Every text as wide as its column allows: none leaves its place, none lies over another.
+void nada_se_encima(Informe& informe)
+{
+    for (int n = 0; n < informe.paginas(); ++n) {
+        const auto pagina = informe.pagina(n);
+        QList<QPair<QRectF, QString>> tinta;
+        for (const TextoImpreso& t : pagina->textos) {
+            if (t.texto.isEmpty())
+                continue;
+            const double ancho = ancho_texto(t.texto, t.puntos, t.negrita);
+            const double sobra = t.lugar.width() - ancho;
+            EXPECT_GE(sobra, -0.01) << t.texto.toStdString();
+            const double x = t.lugar.left() + (t.alineacion == Alineacion::derecha ? sobra : t.alineacion == Alineacion::centro ? sobra / 2 : 0);
+            EXPECT_LE(x + ancho, ANCHO_A4 - 4) << t.texto.toStdString();
+            // The ink of a line of capitals: what hangs below it apart.
+            const QRectF lugar(x, t.lugar.top() + 0.4, ancho, alto_linea(t.puntos) * 0.6);
+            for (const auto& [otro, texto] : std::as_const(tinta))
+                EXPECT_FALSE(lugar.intersects(otro)) << t.texto.toStdString() << " sobre " << texto.toStdString();
+            tinta << qMakePair(lugar, t.texto);
+        }
+    }
+}
+
+TEST_F(Impresos, LosTextosMasAnchosNoSeCortanNiSeEnciman)
+{
+    const QString w50(50, u'W');
+    const QString w100 = "WWWWWWWWW "_u.repeated(10);
+    BoletaImpresa b;
+    b.nro = "2023071234567126100000"_u;
+    b.titular = w50;
+    b.agenteNro = "99999"_u;
+    b.cuit = "30712345671"_u;
+    b.banco = QString(30, u'W');
+    b.cuenta = "2147483647"_u;
+    b.filial = QString(20, u'W');
+    b.posicion = "10/2026 (Rectif. 99)"_u;
+    b.emision = b.vencimiento = QDate(2026, 12, 31);
+    b.importe = b.interes = b.multa = b.total = b.efectivo = 999999999999.99;
+    for (auto& c : b.cheques)
+        c = {QString(20, u'9'), w50, 999999999999.99};
+    b.codigo = QString(80, u'7');
+    rptRTN_boldep1 boleta(b);
+    nada_se_encima(boleta);
+
+    DJImpresa dj;
+    CabeceraImpresa& c = dj.cabecera;
+    c.nro = "30712345671261000"_u;
+    c.posicion = "10/2026"_u;
+    c.rectificativa = "Rectificativa 99"_u;
+    c.agenteNro = "99999"_u;
+    c.titular = c.adscripto1 = c.adscripto2 = c.localidad = c.email = w50;
+    c.cuit = c.adscripto1Cuit = c.adscripto2Cuit = "30-71234567-1"_u;
+    c.codPostal = QString(10, u'W');
+    c.telefono = QString(20, u'W');
+    c.domicilio = c.observaciones = w100;
+    c.resolucion = "9999/99"_u;
+    c.totalRetenido = c.acreditado = 999999999999.99;
+    dj.escrituras << escritura(1);
+    dj.escrituras[0].partes = dj.escrituras[0].inmuebles = dj.escrituras[0].motivo = dj.escrituras[0].observaciones = w100;
+    dj.escrituras[0].impuesto = 999999999999.99;
+    rpt_dj larga(dj, QLatin1StringView(CODIGO), "v"_u);
+    nada_se_encima(larga);
+    const QString todo = textos(larga).join(QString());
+    EXPECT_EQ(todo.count("Domicilio"_u) + todo.count("Observaciones:"_u), 2);  // the title on the first line alone
+    rpt_recibo recibo(ReciboImpreso{"02-20123-2026-00002"_u, c.nro, "999999999"_u, "999999999"_u, "31/12/2026"_u, "31/12/2026"_u, w50, w50, w50, w100, w100, 999999999999.99});
+    nada_se_encima(recibo);
+}
+
 }  // namespace
