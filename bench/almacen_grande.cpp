@@ -138,3 +138,27 @@ void AlmacenGrande::cabeceras(int cuantas)
         (void)alta_cabecera_dj(cabecera(2010 + i / 12 % 16, 1 + i % 12, 1 + i), callado);
     t.confirmar();
 }
+
+void AlmacenGrande::subconceptos(int cuantos)
+{
+    cnRtn.ejecutar(QStringLiteral("with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) "
+                                  "insert into SEL_TB_SUBCONCEPTOS (SSUB_ID, SSUB_DESCRIPCION, SSUB_LEYVIGENCIA, SSUB_FECHAVIGENCIA, STIC_ID, SCBI_ID, SCON_ID, SSUB_USOS, SSUB_MODULOSMIN, SSUB_OBSERVACIONES) "
+                                  "select (1000+i/900)*1000+i%900+1, 'SUBCONCEPTO DE PRUEBA Nº '||i||' CESIÓN Y TRANSFERENCIA', 'LEY '||(1000+i/900)||' - ART '||(i*7919%300)||'º - INC a)', "
+                                  "'2008-01-02', 1+i%4, 1, 1+i%8, 2, i%50, 'OBSERVACIÓN '||i from n")
+                       .arg(cuantos));
+}
+
+void AlmacenGrande::partes(int cuantas)
+{
+    const QString dj = QStringLiteral("20000000000200100");
+    cnRtn.ejecutar(QStringLiteral("insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SEDJ_ANIO, SEDJ_MES) values ('%1', 2020, 1)").arg(dj));
+    const QString cuenta = QStringLiteral("with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) ");
+    cnRtn.ejecutar(cuenta.arg(cuantas / 4)
+                   + QStringLiteral("insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_ESTADO, SEDD_ALCANZADO) select '%1', i+1, 1, i+1, i+1, 'P', 'S' from n").arg(dj));
+    cnRtn.ejecutar(cuenta.arg(cuantas)
+                   + QStringLiteral("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL, GTSO_ID, SPIN_DOMICILIO, SPIN_NACIONALIDAD) "
+                                    "select i%4+1, '%1', i/4+1, '80', 20000000000+i*7919%100003, 20000000000+i*7919%100003, 0, "
+                                    "case i%5 when 0 then 'GÓMEZ' when 1 then 'PEÑALOZA' when 2 then 'SOSA' when 3 then 'D''ANGELO' else 'PEREZ' end||' '||"
+                                    "case i%7 when 0 then 'JUAN CARLOS' when 1 then 'ANA MARÍA' when 2 then 'JUAN' when 3 then 'LUZ' else 'NÉSTOR' end||' '||i, 1+i%3, 'LOS ÁLAMOS '||i, 'A' from n")
+                         .arg(dj));
+}

@@ -16,6 +16,10 @@ public:
     static QString dj(int anio, int mes, int escrituras);
     /// So many headers of DJs.
     static void cabeceras(int cuantas);
+    /// So many items more in the catalogue, over several laws.
+    static void subconceptos(int cuantos);
+    /// A DJ of so many parties, four a deed, each of another name and number.
+    static void partes(int cuantas);
 
     [[nodiscard]] QString ruta() const { return dir_.path() + QStringLiteral("/vedra_rtn.db"); }
 

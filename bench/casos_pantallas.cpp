@@ -12,7 +12,6 @@
 #include "declarations/lista_dj.h"
 #include "declarations/renglones.h"
 
-#include <sqlcipher/sqlite3.h>
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -27,16 +26,6 @@ class Callado : public Dialogo
     void avisar(const Mensaje&) override {}
     bool preguntar(const Mensaje&) override { return true; }
 };
-
-void consulta_sola(const QString& sql)
-{
-    sqlite3_stmt* s = nullptr;
-    sqlite3_prepare_v2(cnRtn.nativa(), sql.toUtf8().constData(), -1, &s, nullptr);
-    while (sqlite3_step(s) == SQLITE_ROW)
-        for (int i = 0; i < sqlite3_column_count(s); ++i)
-            benchmark::DoNotOptimize(sqlite3_column_text(s, i));
-    sqlite3_finalize(s);
-}
 
 // From the filter key to the painted grid.
 void lista(benchmark::State& estado)

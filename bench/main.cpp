@@ -1,6 +1,9 @@
 #include "medir.h"
 
 #include "core/MDIAplicacion.h"
+#include "core/modGlobales.h"
+
+#include <sqlcipher/sqlite3.h>
 
 #include <QLocale>
 
@@ -41,6 +44,16 @@ void medir(benchmark::State& estado, double pedido, const std::function<void()>&
     estado.counters["pedida"] = pedido;
 }
 
+void consulta_sola(const QString& sql)
+{
+    sqlite3_stmt* s = nullptr;
+    sqlite3_prepare_v2(cnRtn.nativa(), sql.toUtf8().constData(), -1, &s, nullptr);
+    while (sqlite3_step(s) == SQLITE_ROW)
+        for (int i = 0; i < sqlite3_column_count(s); ++i)
+            benchmark::DoNotOptimize(sqlite3_column_text(s, i));
+    sqlite3_finalize(s);
+}
+
 int main(int argc, char** argv)
 {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -50,6 +63,7 @@ int main(int argc, char** argv)
     registrar_logica();
     registrar_pantallas();
     registrar_impresion();
+    registrar_catalogo();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

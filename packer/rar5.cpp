@@ -192,11 +192,12 @@ void agregar_archivo(Archivo& salida, const std::string& ruta)
     e.modificado = origen.modificado();
     // The check of the data stands before them: the header is written again once it is known.
     const uint64_t lugar = salida.lugar();
-    const std::string provisoria = cabecera_archivo(e, origen.permisos());
+    const auto permisos = origen.permisos();
+    const std::string provisoria = cabecera_archivo(e, permisos);
     salida.escribir(provisoria.data(), provisoria.size());
     e.crc = copiar(origen, salida, e.largo);
     const uint64_t fin = salida.lugar();
-    const std::string definitiva = cabecera_archivo(e, origen.permisos());
+    const std::string definitiva = cabecera_archivo(e, permisos);
     salida.ir(lugar);
     salida.escribir(definitiva.data(), definitiva.size());
     salida.ir(fin);

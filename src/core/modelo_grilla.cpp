@@ -43,25 +43,23 @@ void ModeloGrilla::terminar()
     endResetModel();
 }
 
+void ModeloGrilla::agregarCelda(std::string_view utf8)
+{
+    textos_.append(utf8);
+    finales_.push_back(quint32(textos_.size()));
+}
+
 void ModeloGrilla::agregar(const QStringList& celdas)
 {
-    for (qsizetype i = 0; i < titulos_.size(); ++i) {
-        if (i < celdas.size()) {
-            const QByteArray utf8 = celdas[i].toUtf8();
-            textos_.append(utf8.constData(), size_t(utf8.size()));
-        }
-        finales_.push_back(quint32(textos_.size()));
-    }
+    for (qsizetype i = 0; i < titulos_.size(); ++i)
+        agregarCelda(celdas.value(i).toUtf8().toStdString());
     ++filas_;
 }
 
 void ModeloGrilla::agregar(std::span<const std::string_view> celdas)
 {
-    for (size_t i = 0; i < size_t(titulos_.size()); ++i) {
-        if (i < celdas.size())
-            textos_.append(celdas[i]);
-        finales_.push_back(quint32(textos_.size()));
-    }
+    for (size_t i = 0; i < size_t(titulos_.size()); ++i)
+        agregarCelda(i < celdas.size() ? celdas[i] : std::string_view());
     ++filas_;
 }
 

@@ -41,9 +41,10 @@ public:
     QVariant headerData(int seccion, Qt::Orientation orientacion, int rol) const override;
 
 private:
-    QStringList titulos_;
     void vaciar();
+    void agregarCelda(std::string_view utf8);
 
+    QStringList titulos_;
     // Lists run to tens of thousands of rows: their texts lie end to end as they came from the
     // store, and only what is shown becomes a string.
     std::string textos_;

@@ -107,7 +107,7 @@ private:
         if (tipo < anterior_ || (tipo == '1' && l_.registros['1'] > 1) || (tipo != '1' && l_.registros.find('1') == l_.registros.end()))
             falla({linea_, 1, {}, QString(QLatin1Char(tipo)), QStringLiteral("el registro está fuera de su orden")});
         anterior_ = std::max(anterior_, tipo);
-        if (const int i = partir_registro(r_); i >= 0)
+        if (const int i = partidor_.partir(r_); i >= 0)
             fallaDeCampo(size_t(i));
         else
             revisar();
@@ -274,6 +274,7 @@ private:
     int lineasDeMas_ = 0;
     char anterior_ = '0';
     RegistroLeido r_;
+    PartidorRegistros partidor_;
     LecturaDJ l_;
     qint64 total_ = 0;
     qint64 suma_ = 0;

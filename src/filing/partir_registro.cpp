@@ -227,7 +227,7 @@ private:
 };
 
 // Operations of one kind leave the same numbers out: the reading of the last record whose numbers
-// alone were odd is tried on the next one of its length.
+// alone were odd is tried on the next one of its length, where it must come as dear.
 class UltimaRareza
 {
 public:
@@ -236,19 +236,23 @@ public:
         if (r.bytes.size() != largo_ || r.registro != registro_)
             return false;
         size_t p = 1;
+        int total = 0;
         for (size_t i = 0; i < r.registro->campos.size(); p += tomados_[i], ++i) {
             r.campos[i] = r.bytes.substr(p, tomados_[i]);
-            if (costo(r.registro->campos[i], r.campos[i]) >= IMPOSIBLE)
-                return false;
+            total += costo(r.registro->campos[i], r.campos[i]);
         }
+        if (total != costo_)
+            return false;
         r.dudoso = dudoso_;
         return true;
     }
     void recordar(const RegistroLeido& r)
     {
         registro_ = nullptr;
+        costo_ = 0;
         for (size_t i = 0; i < r.registro->campos.size(); ++i) {
             tomados_[i] = r.campos[i].size();
+            costo_ += costo(r.registro->campos[i], r.campos[i]);
             // A text with blanks at its ends is that record's own.
             if (tomados_[i] != size_t(r.registro->campos[i].ancho) && r.registro->campos[i].forma.clase != Clase::cifras)
                 return;
@@ -261,6 +265,7 @@ public:
 private:
     const Registro* registro_ = nullptr;
     size_t largo_ = 0;
+    int costo_ = 0;
     std::array<size_t, CAMPOS_MAXIMOS> tomados_{};
     bool dudoso_ = false;
 };
@@ -285,7 +290,19 @@ int partir_testimonio(RegistroLeido& r)
 
 }  // namespace
 
-int partir_registro(RegistroLeido& r)
+struct PartidorRegistros::Estado
+{
+    Rarezas rarezas;
+    UltimaRareza ultima;
+};
+
+PartidorRegistros::PartidorRegistros() : estado_(std::make_unique<Estado>())
+{
+}
+
+PartidorRegistros::~PartidorRegistros() = default;
+
+int PartidorRegistros::partir(RegistroLeido& r)
 {
     r.dudoso = false;
     const int falla = r.registro->tipo == '8' ? partir_testimonio(r) : partir_llano(r);
@@ -295,12 +312,10 @@ int partir_registro(RegistroLeido& r)
     const auto previsto = size_t(r.registro->ancho()) + 1;
     if (r.bytes.size() > previsto + LARGO_DE_MAS)
         return falla;
-    static Rarezas rarezas;
-    static UltimaRareza ultima;
-    r.entero = ultima.partir(r) || partir_con_una(r);
-    if (!r.entero && rarezas.partir(r)) {
+    r.entero = partir_con_una(r) || estado_->ultima.partir(r);
+    if (!r.entero && estado_->rarezas.partir(r)) {
         r.entero = true;
-        ultima.recordar(r);
+        estado_->ultima.recordar(r);
     }
     return r.entero ? -1 : falla;
 }
