@@ -8,11 +8,11 @@
 namespace {
 
 constexpr std::array COLUMNAS{
-    ColumnaSubconceptos{"COD", "SSUB_ID_SIN_LEY", false, 700},
-    ColumnaSubconceptos{"Descripción", "SSUB_DESCRIPCION", true, 4200},
-    ColumnaSubconceptos{"Observaciones", "SSUB_OBSERVACIONES", true, 2000},
-    ColumnaSubconceptos{"Tipo", "STIC_DESCRIPCION", true, 1600},
-    ColumnaSubconceptos{"Cálculo", "SCBI_DESCRIPCION", true, 2600},
+    ColumnaSubconceptos{"COD", "SSUB_ID_SIN_LEY", false, 500},
+    ColumnaSubconceptos{"Descripción", "SSUB_DESCRIPCION", true, 3600},
+    ColumnaSubconceptos{"Observaciones", "SSUB_OBSERVACIONES", true, 1400},
+    ColumnaSubconceptos{"Tipo", "STIC_DESCRIPCION", true, 1400},
+    ColumnaSubconceptos{"Cálculo", "SCBI_DESCRIPCION", true, 2200},
     ColumnaSubconceptos{"Monto mínimo (en módulos)", "SSUB_MODULOSMIN", false, 1000},
     ColumnaSubconceptos{"Ley Vigencia", "SSUB_LEYVIGENCIA", true, 2400},
     ColumnaSubconceptos{"Fecha Vigencia", "SSUB_FECHAVIGENCIA", false, 1200},

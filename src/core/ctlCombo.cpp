@@ -174,6 +174,7 @@ void ctlCombo::Origen(Recordset& rs)
             textos << rs.texto(j);
         auto* fila = new Renglon(lvw_, textos);
         fila->setData(0, CLAVE, clave);
+        fila->setSizeHint(0, {0, fontMetrics().height() + 6});
         for (int i = 0; i < columnas_.size(); ++i)
             fila->setTextAlignment(i, columnas_[i].alineacion | Qt::AlignVCenter);
     }

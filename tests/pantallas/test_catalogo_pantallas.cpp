@@ -11,6 +11,7 @@
 #include "declarations/frmDJ_buscar.h"
 #include "manejo/manejo.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -118,6 +119,21 @@ TEST_F(PantallasCatalogo, ElCatalogoSeFiltraSeOrdenaYSeElige)
     QApplication::processEvents();
     EXPECT_EQ(texto(op, "txtSubconcepto"_u), "COMPRAVENTA DE INMUEBLES"_u);
     EXPECT_TRUE(op->isEnabled());
+}
+
+// The menu's entry, were it ever shown, opens the catalogue once.
+TEST_F(PantallasCatalogo, LaEntradaDelMenu)
+{
+    auto* entrada = principal->findChild<QAction*>("smSubconceptos"_u);
+    EXPECT_FALSE(entrada->isVisible() || entrada->isEnabled());
+    entrada->setVisible(true);
+    principal->Hab_Deshab_Menu(true);
+    entrada->trigger();
+    auto* f = formulario("frmSubconceptos");
+    EXPECT_FALSE(entrada->isEnabled());
+    EXPECT_EQ(texto(f, "lblResultado"_u), dato("select count(*)||' registros' from SEL_TB_SUBCONCEPTOS"_u));
+    pulsar(f, "toolbar"_u, "salir"_u);
+    EXPECT_TRUE(entrada->isEnabled());
 }
 
 TEST_F(PantallasCatalogo, BorrarUnSubconceptoQueSeUsa)

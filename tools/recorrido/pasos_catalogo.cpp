@@ -29,6 +29,9 @@ void cabecera(Guia& g, QWidget* f)
     escribir(f, u("txtDescripcion"), u("cesión de marcas y patentes"));
     Cajas::durante({{u("Seleccione el concepto"), f->windowTitle()}}, [&] { pulsar(f, u("toolbar"), u("aceptar")); });
     elegir(f, u("cboConcepto"), u("8 - Cesiones"));
+    clic(f, u("cmd"));
+    g.foto(u("subconcepto-tipos"));
+    clic(f, u("cmd"));
     elegir(f, u("ctlTipoCalculo"), u("VARIABLE"));
     clic(f, u("chkCUIT_EnTramite"));
     g.foto(u("subconcepto-general"));
