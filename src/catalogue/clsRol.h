@@ -17,6 +17,11 @@ struct clsRol
     QString Descripcion;
 };
 
+class Recordset;
+
+/// The role of a row of SEL_VW_ROLES or of its table.
+[[nodiscard]] clsRol leer_rol(const Recordset& rs);
+
 class colRoles
 {
 public:

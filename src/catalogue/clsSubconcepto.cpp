@@ -8,6 +8,19 @@ qint32 identificador_subconcepto(int ley, int codigo)
     return QString(QString::number(ley) + con_ceros(codigo, 3)).toInt();
 }
 
+clsRol leer_rol(const Recordset& rs)
+{
+    return {.ParicipaImpuesto = rs.logico("SROL_PARTICIPA_IMPUESTO"),
+            .CargaOblig_SM = rs.logico("SROL_SM_CARGA_OBLIG"),
+            .Requerido = rs.logico("SROL_REQUERIDO"),
+            .Permite_CuitEnTramite = rs.logico("SROL_PERMITE_CUIT_EN_TRAMITE"),
+            .SSUBAtributo = rs.texto("SROL_SSUB_ATRIBUTO"),
+            .SSUBAtributo_valor = rs.texto("SROL_SSUB_ATRIBUTO_VALOR"),
+            .SSUBAtributo_tabla = rs.texto("SROL_SSUB_ATRIBUTO_TABLA"),
+            .IdRol = rs.entero("SROL_ID"),
+            .Descripcion = rs.texto("SROL_DESCRIPCION")};
+}
+
 void clsSubconcepto::setIdSubconcepto(qint32 id)
 {
     id_ = id;
@@ -18,15 +31,7 @@ void clsSubconcepto::setIdSubconcepto(qint32 id)
                                                 "SROL_SSUB_ATRIBUTO_TABLA from SEL_VW_ROLES where SSUB_ID=")
                                      + QString::number(id) + QStringLiteral(" order by SROL_DESCRIPCION collate ESPANOL "));
              !rs.eof(); rs.siguiente())
-            roles_.Add({.ParicipaImpuesto = rs.logico("SROL_PARTICIPA_IMPUESTO"),
-                        .CargaOblig_SM = rs.logico("SROL_SM_CARGA_OBLIG"),
-                        .Requerido = rs.logico("SROL_REQUERIDO"),
-                        .Permite_CuitEnTramite = rs.logico("SROL_PERMITE_CUIT_EN_TRAMITE"),
-                        .SSUBAtributo = rs.texto("SROL_SSUB_ATRIBUTO"),
-                        .SSUBAtributo_valor = rs.texto("SROL_SSUB_ATRIBUTO_VALOR"),
-                        .SSUBAtributo_tabla = rs.texto("SROL_SSUB_ATRIBUTO_TABLA"),
-                        .IdRol = rs.entero("SROL_ID"),
-                        .Descripcion = rs.texto("SROL_DESCRIPCION")});
+            roles_.Add(leer_rol(rs));
     } catch (const ErrorAlmacen&) {
         roles_ = {};
     }

@@ -21,6 +21,7 @@ void frmEditarAlicuota::Inicializar(Modo operacion, qint32 subconcepto, const cl
     iniciarRango(operacion, subconcepto, rango.IdAlicuota, rango.ValorDesde, rango.ValorHasta);
     if (operacion != Modo::modificar)
         return;
+    ui->nroAlicuota->setFocus();
     ui->nroAlicuota->setValue(rango.ValorAlicuota);
     ui->nroDivisor->setValue(rango.Divisor);
     ui->nroDividendo->setValue(rango.Dividendo);

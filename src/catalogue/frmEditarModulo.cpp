@@ -14,8 +14,10 @@ void frmEditarModulo::Inicializar(Modo operacion, qint32 subconcepto, const clsM
 {
     setWindowTitle(operacion == Modo::modificar ? QStringLiteral("Modificar cantidad de módulos") : QStringLiteral("Nuevo rango con impuesto fijo"));
     iniciarRango(operacion, subconcepto, rango.IdModulo, rango.ValorDesde, rango.ValorHasta);
-    if (operacion == Modo::modificar)
-        ui->nroModulos->setValue(rango.CantModulos);
+    if (operacion != Modo::modificar)
+        return;
+    ui->nroModulos->setFocus();
+    ui->nroModulos->setValue(rango.CantModulos);
 }
 
 bool frmEditarModulo::aceptarValor()

@@ -50,6 +50,7 @@ void frmEditarRol::Inicializar(Modo operacion, qint32 subconcepto, const clsRol&
 {
     Operacion = operacion;
     IdSubconcepto_ = subconcepto;
+    ui->txtDescripcion->setFocus();
     ui->nroCodigo->setValue(double(operacion == Modo::nuevo ? proximo_rol(subconcepto) : rol.IdRol));
     if (operacion == Modo::nuevo)
         return;

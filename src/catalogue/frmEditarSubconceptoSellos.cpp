@@ -132,6 +132,7 @@ void frmEditarSubconceptoSellos::Inicializar(Modo operacion, int id, int concept
     ponerEdicion(false);
     if (nuevo)
         ui->toolbar->pulsar(QStringLiteral("editar"));
+    ui->txtDescripcion->setFocus();
 }
 
 void frmEditarSubconceptoSellos::alActivar()

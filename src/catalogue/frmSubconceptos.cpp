@@ -27,6 +27,7 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
     ui->cboConcepto->setCurrentIndex(0);
     ui->cboCriterioSubcon->setCurrentIndex(int(FiltroSubconceptos::Criterio::contiene));
     ui->nroPorcExencion->ClearText();
+    ui->txtSubconcepto->setFocus();
 
     connect(ui->toolbar, &BarraHerramientas::pulsada, this, &frmSubconceptos::pulsada);
     connect(ui->grilla, &Grilla::elegida, this, [this] { ui->toolbar->pulsar(QStringLiteral("seleccionar")); });

@@ -37,15 +37,7 @@ QList<clsRol> roles_de(qint32 subconcepto)
                                  + QStringLiteral(" FROM SEL_TB_ROLES ") + QStringLiteral(" where SSUB_ID=") + QString::number(subconcepto)
                                  + QStringLiteral(" order by SROL_PARTICIPA_IMPUESTO, SROL_DESCRIPCION collate ESPANOL"));
          !rs.eof(); rs.siguiente())
-        lista << clsRol{.ParicipaImpuesto = rs.logico("SROL_PARTICIPA_IMPUESTO"),
-                        .CargaOblig_SM = rs.logico("SROL_SM_CARGA_OBLIG"),
-                        .Requerido = rs.logico("SROL_REQUERIDO"),
-                        .Permite_CuitEnTramite = rs.logico("SROL_PERMITE_CUIT_EN_TRAMITE"),
-                        .SSUBAtributo = rs.texto("SROL_SSUB_ATRIBUTO"),
-                        .SSUBAtributo_valor = rs.texto("SROL_SSUB_ATRIBUTO_VALOR"),
-                        .SSUBAtributo_tabla = rs.texto("SROL_SSUB_ATRIBUTO_TABLA"),
-                        .IdRol = rs.entero("SROL_ID"),
-                        .Descripcion = rs.texto("SROL_DESCRIPCION")};
+        lista << leer_rol(rs);
     return lista;
 }
 

@@ -84,6 +84,7 @@ TEST_F(PantallasCatalogo, ElCatalogoSeFiltraSeOrdenaYSeElige)
     clic(op, "cmdBuscarSubcon"_u);
     auto* f = formulario("frmSubconceptos");
     EXPECT_FALSE(op->isEnabled());
+    EXPECT_EQ(elemento_activo(f), "txtSubconcepto"_u);
     const int todos = dato("select count(*) from SEL_TB_SUBCONCEPTOS where SSUB_ID>5707000 and SSUB_USOS=2"_u).toInt();
     EXPECT_EQ(texto(f, "lblResultado"_u), "%1 registros"_u.arg(todos));
     auto* grilla = static_cast<Grilla*>(control(f, "grilla"_u));
@@ -162,7 +163,7 @@ TEST_F(PantallasCatalogo, UnSubconceptoNuevoComprobacionPorComprobacion)
 {
     fijar_hoy({2026, 11, 12});
     QWidget* f = editor(0);
-    EXPECT_EQ(f->windowTitle(), "Nuevo subconcepto de sellos"_u);
+    EXPECT_EQ(f->windowTitle() + elemento_activo(f), "Nuevo subconcepto de sellostxtDescripcion"_u);
     EXPECT_EQ(botones(f, "toolbar", "salir aceptar cancelar editar"), "0110"_u);
     auto* solapas = static_cast<QTabWidget*>(control(f, "SSTab1"_u));
     EXPECT_FALSE(solapas->isTabEnabled(2) || solapas->isTabEnabled(3));
@@ -356,7 +357,7 @@ TEST_F(PantallasCatalogo, UnaAlicuotaPorSuFraccion)
     tecla(a, "nroAlicuota"_u, Qt::Key_Escape);
     pulsar(f, "tlbAlicuotas"_u, "modificar"_u);
     a = formulario("frmEditarAlicuota");
-    EXPECT_EQ(a->windowTitle() + texto(a, "nroHasta"_u), "Modificar alicuota200,00"_u);
+    EXPECT_EQ(a->windowTitle() + texto(a, "nroHasta"_u) + elemento_activo(a), "Modificar alicuota200,00nroAlicuota"_u);
     EXPECT_FALSE(static_cast<ctlNumero*>(control(a, "nroDesde"_u))->Enabled() || control(a, "chkValorHasta"_u)->isEnabled());
     teclear(a, "nroAlicuota"_u, "0.02"_u);
     tecla(a, "nroAlicuota"_u, Qt::Key_Return);
