@@ -69,10 +69,7 @@ frmEditarSubconceptoSellos::frmEditarSubconceptoSellos() : ui(std::make_unique<U
     ui->setupUi(this);
     for (QWidget* w : findChildren<QWidget*>())
         controles_.insert(w->objectName(), w);
-    Entradas conceptos{{QStringLiteral("(sin filtro)"), 0}};
-    for (Entrada& e : conceptos_sellos())
-        conceptos.push_back(std::move(e));
-    llenar_combo(ui->cboConcepto, conceptos);
+    llenar_combo(ui->cboConcepto, con_sin_filtro(conceptos_sellos()));
     ui->ctlTipoCalculo->AddColumn(QStringLiteral("Cálculo"), 1, QStringLiteral("calculo"), 2400);
     ui->ctlTipoCalculo->AddColumn(QStringLiteral("Observaciones"), 2, QStringLiteral("obs"), 4800);
     Recordset tipos(cnRtn, QStringLiteral("select STIC_ID, STIC_DESCRIPCION, STIC_OBSERVACIONES from SEL_TB_TIPOS_CALCULOS"));
@@ -87,7 +84,10 @@ void frmEditarSubconceptoSellos::conectar()
 {
     for (QLineEdit* texto : {ui->txtDescripcion, ui->txtLeyVigencia, ui->txtObservaciones}) {
         a_mayusculas(texto);
-        connect(texto, &QLineEdit::textEdited, this, [this] { ponerEdicion(true); });
+        connect(texto, &QLineEdit::textEdited, this, [this] {
+            if (!editando_)
+                ponerEdicion(true);
+        });
     }
     for (QLineEdit* mascara : {ui->txtGarantiaCumplimiento_suma, ui->txtObligAccesoria_suma})
         solo_digitos_en(mascara);
@@ -253,18 +253,20 @@ void frmEditarSubconceptoSellos::crearMascara(QLineEdit* destino, const char* ta
 void frmEditarSubconceptoSellos::elegirTipoCalculo(const ctlCombo::Fila& fila)
 {
     const bool fijo = fila.texto == u"FIJO" || fila.texto == u"FIJO PROPORCIONAL";
+    const QString actual = QStringLiteral("k") + QString::number(tipoCalculo_);
+    const bool cambia = fila.clave != actual;
     QString clave = fila.clave;
-    if (fila.texto == u"VARIABLE" && !modulos_.isEmpty()) {
+    if (cambia && fila.texto == u"VARIABLE" && !modulos_.isEmpty()) {
         avisar(QStringLiteral("No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. "
                               "Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo."),
                windowTitle());
-        clave = QStringLiteral("k") + QString::number(tipoCalculo_);
-    } else if (fijo && !alicuotas_.isEmpty()) {
+        clave = actual;
+    } else if (cambia && fijo && !alicuotas_.isEmpty()) {
         avisar(QStringLiteral("No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. "
                               "Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas."),
                windowTitle());
-        clave = QStringLiteral("k") + QString::number(tipoCalculo_);
-    } else {
+        clave = actual;
+    } else if (cambia) {
         tipoCalculo_ = clave.mid(1).toInt();
         mostrarRangos(fila.texto);
     }

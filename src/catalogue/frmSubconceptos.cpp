@@ -20,10 +20,7 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
     preparar_grilla(ui->grilla, titulos, anchos);
     ui->grilla->setColumnaClave(COLUMNA_ID);
     ui->grilla->horizontalHeader()->setSectionsClickable(true);
-    Entradas conceptos{{QStringLiteral("(sin filtro)"), 0}};
-    for (Entrada& e : conceptos_sellos())
-        conceptos.push_back(std::move(e));
-    llenar_combo(ui->cboConcepto, conceptos);
+    llenar_combo(ui->cboConcepto, con_sin_filtro(conceptos_sellos()));
     ui->cboConcepto->setCurrentIndex(0);
     ui->cboCriterioSubcon->setCurrentIndex(int(FiltroSubconceptos::Criterio::contiene));
     ui->nroPorcExencion->ClearText();

@@ -10,6 +10,13 @@ Entradas leer_entradas(const QString& sql, const char* texto, const char* dato)
     return lista;
 }
 
+Entradas con_sin_filtro(const Entradas& leidas)
+{
+    Entradas lista{{QStringLiteral("(sin filtro)"), 0}};
+    lista.insert(lista.end(), leidas.begin(), leidas.end());
+    return lista;
+}
+
 Entradas provincias()
 {
     return leer_entradas(QStringLiteral("select GPRO_ID, GPRO_DESCRIPCION, GPRO_JURISDICCION, GPRO_LETRA_PAT ")

@@ -18,6 +18,9 @@ using Entradas = std::vector<Entrada>;
 /// Entries of a query: the text of one column and the item data of another. Throws ErrorAlmacen.
 [[nodiscard]] Entradas leer_entradas(const QString& sql, const char* texto, const char* dato);
 
+/// The entries behind a first one, "(sin filtro)", whose item data is 0.
+[[nodiscard]] Entradas con_sin_filtro(const Entradas& leidas);
+
 [[nodiscard]] Entradas provincias();
 [[nodiscard]] Entradas localidades(int provincia);
 [[nodiscard]] Entradas localidades_propias();

@@ -86,14 +86,13 @@ bool frmDJ_buscar::aceptarMes()
 
 void frmDJ_buscar::cargar_agentes()
 {
-    Entradas entradas{{QStringLiteral("(sin filtro)"), 0}};
+    Entradas leidas;
     try {
-        for (Entrada& e : leer_entradas(consulta_agentes(), "SRTN_TITULAR_NOMBRE", "SRTN_NRO"))
-            entradas.push_back(std::move(e));
+        leidas = leer_entradas(consulta_agentes(), "SRTN_TITULAR_NOMBRE", "SRTN_NRO");
     } catch (const ErrorAlmacen&) {
         avisar(QStringLiteral("Error al cargar los agentes de retención"), {}, Icono::ninguno);
     }
-    llenar_combo(ui->cboRTN, entradas);
+    llenar_combo(ui->cboRTN, con_sin_filtro(leidas));
     ui->cboRTN->setCurrentIndex(0);
 }
 

@@ -7,13 +7,9 @@
 
 namespace {
 
-const QString SIN_FILTRO = QStringLiteral("(sin filtro)");
-
 void llenar_filtro(QComboBox* combo, const Entradas& leidas)
 {
-    Entradas entradas{{SIN_FILTRO, 0}};
-    entradas.insert(entradas.end(), leidas.begin(), leidas.end());
-    llenar_combo(combo, entradas);
+    llenar_combo(combo, con_sin_filtro(leidas));
     combo->setCurrentIndex(0);
 }
 
