@@ -95,6 +95,7 @@ bool frmEditarRango::guardar()
 
 void frmEditarRango::aceptar()
 {
+    formatearNumeros();
     preparar();
     if (validar() && guardar())
         descargar();

@@ -1,6 +1,7 @@
 #include "core/formulario.h"
 
 #include "core/barra.h"
+#include "core/ctlNumero.h"
 #include "core/mensajes.h"
 
 #include <QApplication>
@@ -151,6 +152,12 @@ void Formulario::changeEvent(QEvent* evento)
     if (evento->type() == QEvent::ActivationChange && !subventana_ && isActiveWindow() && !descargada_
         && isVisible() && ultima_activa != this)
         activarse();
+}
+
+void Formulario::formatearNumeros()
+{
+    for (ctlNumero* n : findChildren<ctlNumero*>())
+        n->modelo().formatear();
 }
 
 void Formulario::keyPressEvent(QKeyEvent* evento)

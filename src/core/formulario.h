@@ -50,6 +50,8 @@ protected:
     void enfocar(const QString& control);
     /// Whether the control, or what stands inside it, has the focus.
     [[nodiscard]] bool esActivo(const QWidget* control) const;
+    /// Puts the number fields under their masks, also the one that is being typed: what is stored is what shows.
+    void formatearNumeros();
     /// Enter anywhere on the form presses "aceptar" of the bar, Escape "cancelar".
     void teclasDeBarra(BarraHerramientas* barra) { barra_ = barra; }
     /// Brings a form that this one opens into its place: caller set, window shown.

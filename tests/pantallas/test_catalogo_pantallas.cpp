@@ -359,7 +359,7 @@ TEST_F(PantallasCatalogo, UnaAlicuotaPorSuFraccion)
     a = formulario("frmEditarAlicuota");
     EXPECT_EQ(a->windowTitle() + texto(a, "nroHasta"_u) + elemento_activo(a), "Modificar alicuota200,00nroAlicuota"_u);
     EXPECT_FALSE(static_cast<ctlNumero*>(control(a, "nroDesde"_u))->Enabled() || control(a, "chkValorHasta"_u)->isEnabled());
-    teclear(a, "nroAlicuota"_u, "0.02"_u);
+    teclear(a, "nroAlicuota"_u, "0.020004"_u);  // stored as it will show
     tecla(a, "nroAlicuota"_u, Qt::Key_Return);
     EXPECT_EQ(dato("select SALI_ALICUOTA from SEL_TB_ALICUOTAS where SSUB_ID=5707001"_u), "0.02"_u);
     EXPECT_EQ(en_grilla(f, "grillaAlicuotas"_u, 0, 2), "0,02"_u);
