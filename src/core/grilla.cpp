@@ -78,10 +78,7 @@ void Grilla::llenar(const std::function<void()>& rellenar)
         ~Cierre()
         {
             g.modelo_.terminar();
-            int fila = 0;
-            if (!anterior.isEmpty())
-                for (int i = 0; i < g.filas() && fila == 0; ++i)
-                    fila = g.celda(i, g.columnaClave_) == anterior ? i : 0;
+            const int fila = anterior.isEmpty() ? 0 : std::max(0, g.modelo_.filaCon(g.columnaClave_, anterior));
             g.verticalScrollBar()->setValue(desplazamiento);
             g.irAFila(fila, columna);
         }

@@ -68,6 +68,21 @@ void ModeloGrilla::colorear(int fila, const Colores& colores)
     colores_.insert(fila, colores);
 }
 
+std::string_view ModeloGrilla::celda(quint32 lugar) const
+{
+    const quint32 desde = lugar == 0 ? 0 : finales_[lugar - 1];
+    return {textos_.data() + desde, finales_[lugar] - desde};
+}
+
+int ModeloGrilla::filaCon(int columna, const QString& texto) const
+{
+    const std::string buscado = texto.toStdString();
+    for (int fila = 0; fila < filas_; ++fila)
+        if (celda(quint32(fila) * quint32(titulos_.size()) + quint32(columna)) == buscado)
+            return fila;
+    return -1;
+}
+
 QString ModeloGrilla::texto(int fila, int columna) const
 {
     if (fila < 0 || fila >= filas_ || columna < 0 || columna >= titulos_.size())
@@ -75,8 +90,8 @@ QString ModeloGrilla::texto(int fila, int columna) const
     const auto lugar = quint32(fila) * quint32(titulos_.size()) + quint32(columna);
     if (const auto it = cambiadas_.find(lugar); it != cambiadas_.end())
         return *it;
-    const quint32 desde = lugar == 0 ? 0 : finales_[lugar - 1];
-    return QString::fromUtf8(textos_.data() + desde, qsizetype(finales_[lugar] - desde));
+    const std::string_view utf8 = celda(lugar);
+    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
 void ModeloGrilla::ponerTexto(int fila, int columna, const QString& texto)

@@ -33,6 +33,8 @@ public:
     void colorear(int fila, const Colores& colores);
 
     [[nodiscard]] QString texto(int fila, int columna) const;
+    /// The first row whose cell of the column holds this text, -1 without one.
+    [[nodiscard]] int filaCon(int columna, const QString& texto) const;
     void ponerTexto(int fila, int columna, const QString& texto);
 
     int rowCount(const QModelIndex& padre = {}) const override;
@@ -43,6 +45,7 @@ public:
 private:
     void vaciar();
     void agregarCelda(std::string_view utf8);
+    [[nodiscard]] std::string_view celda(quint32 lugar) const;
 
     QStringList titulos_;
     // Lists run to tens of thousands of rows: their texts lie end to end as they came from the
