@@ -511,6 +511,7 @@ TEST_F(PantallasCatalogo, UnaPersonaDeUnaDJAnterior)
     tecla(b, "flx"_u, Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_TRUE(f->isEnabled());
+    EXPECT_EQ(elemento_activo(f), "txtCP"_u);  // where it was before the search
     EXPECT_EQ(texto(f, "cboTipoDoc"_u) + texto(f, "nroDoc"_u) + texto(f, "txtRazonSocial"_u) + texto(f, "txtDomicilio"_u) + texto(f, "txtCP"_u) + texto(f, "cboProv"_u) + texto(f, "nroExencionPorc"_u) + texto(f, "txtObs"_u),
               "CUIT20123456786D'ANGELO ANACALLE 99500MARVEN25,00OBS"_u);
     EXPECT_EQ(texto(f, "cboLoc"_u), dato("select GLOC_DESCRIPCION from GLB_TB_LOCALIDADES where GLOC_ID=2"_u));
