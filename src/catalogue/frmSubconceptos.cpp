@@ -43,12 +43,6 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
 
 frmSubconceptos::~frmSubconceptos() = default;
 
-void frmSubconceptos::fijarLey(int ley)
-{
-    ley_ = ley;
-    ui->chkUso->setChecked(ley != 0);
-}
-
 void frmSubconceptos::alActivar()
 {
     buscar_subconceptos();
@@ -64,7 +58,7 @@ FiltroSubconceptos frmSubconceptos::filtro() const
     const int elegido = item_data(ui->cboConcepto);
     return {.uso = ui->chkUso->isChecked(),
             .concepto = elegido ? elegido : concepto,
-            .ley = ley_,
+            .ley = ley,
             .criterio = FiltroSubconceptos::Criterio(ui->cboCriterioSubcon->currentIndex()),
             .texto = ui->txtSubconcepto->text(),
             .porLey = ui->chkLey->isChecked(),

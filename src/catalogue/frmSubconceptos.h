@@ -28,8 +28,8 @@ public:
 
     /// Lists only the items of this concept, 0 for all.
     int concepto = 0;
-    /// Lists only the items of a law, 0 for all, and at first those alone that this program may use.
-    void fijarLey(int ley);
+    /// Lists only the items of a law, 0 for all.
+    int ley = 0;
 
     void alActivar() override;
     void buscar_subconceptos();
@@ -50,6 +50,5 @@ private:
     [[nodiscard]] FiltroSubconceptos filtro() const;
 
     std::unique_ptr<Ui::frmSubconceptos> ui;
-    int ley_ = 0;
     QString orden_;
 };

@@ -102,7 +102,7 @@ void frmDJ_detalle_op::conectar()
     });
     connect(ui->cmdBuscarSubcon, &QPushButton::clicked, this, [this] {
         auto* catalogo = cargar<frmSubconceptos>();
-        catalogo->fijarLey(ley_);
+        catalogo->ley = ley_;
         abrir(catalogo);
     });
     connect(ui->cmdDetallesSSUB, &QPushButton::clicked, this, [this] {

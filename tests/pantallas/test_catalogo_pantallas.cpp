@@ -85,13 +85,14 @@ TEST_F(PantallasCatalogo, ElCatalogoSeFiltraSeOrdenaYSeElige)
     auto* f = formulario("frmSubconceptos");
     EXPECT_FALSE(op->isEnabled());
     EXPECT_EQ(elemento_activo(f), "txtSubconcepto"_u);
-    const int todos = dato("select count(*) from SEL_TB_SUBCONCEPTOS where SSUB_ID>5707000 and SSUB_USOS=2"_u).toInt();
+    const int todos = dato("select count(*) from SEL_TB_SUBCONCEPTOS where SSUB_ID>5707000"_u).toInt();
     EXPECT_EQ(texto(f, "lblResultado"_u), "%1 registros"_u.arg(todos));
     auto* grilla = static_cast<Grilla*>(control(f, "grilla"_u));
     QHeaderView* titulos = grilla->horizontalHeader();
     QTest::mouseClick(titulos->viewport(), Qt::LeftButton, {}, {titulos->sectionViewportPosition(1) + 10, 5});
-    EXPECT_EQ(en_grilla(f, "grilla"_u, 0, 1), dato("select SSUB_DESCRIPCION from SEL_TB_SUBCONCEPTOS where SSUB_ID>5707000 and SSUB_USOS=2 order by SSUB_DESCRIPCION collate ESPANOL"_u));
+    EXPECT_EQ(en_grilla(f, "grilla"_u, 0, 1), dato("select SSUB_DESCRIPCION from SEL_TB_SUBCONCEPTOS where SSUB_ID>5707000 order by SSUB_DESCRIPCION collate ESPANOL"_u));
     EXPECT_EQ(botones(f, "toolbar", "salir buscar seleccionar nuevo modificar borrar marcar desmarcar"), "11111111"_u);
+    clic(f, "chkUso"_u);
     elegir(f, "cboCriterioSubcon"_u, "Termina con"_u);
     escribir(f, "txtSubconcepto"_u, "compraventa de inmuebles"_u);
     pulsar(f, "toolbar"_u, "buscar"_u);
@@ -108,7 +109,6 @@ TEST_F(PantallasCatalogo, ElCatalogoSeFiltraSeOrdenaYSeElige)
     EXPECT_EQ(texto(op, "txtSubconcepto"_u), QString());
     clic(op, "cmdBuscarSubcon"_u);
     f = formulario("frmSubconceptos");
-    clic(f, "chkUso"_u);
     elegir(f, "cboCriterioSubcon"_u, "Termina con"_u);
     escribir(f, "txtSubconcepto"_u, "compraventa de inmuebles"_u);
     pulsar(f, "toolbar"_u, "buscar"_u);
