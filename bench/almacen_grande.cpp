@@ -10,12 +10,6 @@
 
 namespace {
 
-class Callado : public Dialogo
-{
-    void avisar(const Mensaje&) override {}
-    bool preguntar(const Mensaje&) override { return true; }
-};
-
 CabeceraDJ cabecera(int anio, int mes, int n)
 {
     CabeceraDJ c;

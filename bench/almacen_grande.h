@@ -1,8 +1,18 @@
 // Stores of the sizes that the cases ask for.
 #pragma once
 
+#include "core/dialogo.h"
+
 #include <QString>
 #include <QTemporaryDir>
+
+/// Hears nothing and says yes.
+class Callado : public Dialogo
+{
+public:
+    void avisar(const Mensaje&) override {}
+    bool preguntar(const Mensaje&) override { return true; }
+};
 
 /// A store with the catalogue, open as the program's own, in a temporary folder that is the
 /// program's.

@@ -17,12 +17,6 @@
 
 namespace {
 
-class Callado : public Dialogo
-{
-    void avisar(const Mensaje&) override {}
-    bool preguntar(const Mensaje&) override { return true; }
-};
-
 void cerrar(Formulario* f)
 {
     f->descargar();

@@ -23,12 +23,6 @@
 
 namespace {
 
-class Callado : public Dialogo
-{
-    void avisar(const Mensaje&) override {}
-    bool preguntar(const Mensaje&) override { return true; }
-};
-
 sqlite3_stmt* preparar(const QString& sql)
 {
     sqlite3_stmt* s = nullptr;

@@ -21,12 +21,6 @@
 
 namespace {
 
-class Callado : public Dialogo
-{
-    void avisar(const Mensaje&) override {}
-    bool preguntar(const Mensaje&) override { return true; }
-};
-
 // From the filter key to the painted grid.
 void lista(benchmark::State& estado)
 {

@@ -33,7 +33,6 @@ void frmCrearMascara::cargar_elementos(const QString& tabla, const QString& camp
         elemento->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         elemento->setCheckState(Qt::Unchecked);
         elemento->setData(Qt::UserRole, rs.entero(0));
-        marcados_ << false;
     }
 }
 
@@ -45,14 +44,12 @@ void frmCrearMascara::mostrar_mascara(int valor)
     }
 }
 
-// The mask follows each tick, by the user or by program.
-void frmCrearMascara::sumar(const QListWidgetItem* elemento)
+// The mask is the sum of what is ticked, by the user or by program.
+void frmCrearMascara::sumar()
 {
-    const bool marcado = elemento->checkState() == Qt::Checked;
-    bool& anterior = marcados_[ui->lstElem->row(elemento)];
-    if (marcado == anterior)
-        return;
-    anterior = marcado;
-    const int dato = elemento->data(Qt::UserRole).toInt();
-    ui->txtMascara->setText(QString::number(ui->txtMascara->text().toInt() + (marcado ? dato : -dato)));
+    int mascara = 0;
+    for (int i = 0; i < ui->lstElem->count(); ++i)
+        if (const QListWidgetItem* elemento = ui->lstElem->item(i); elemento->checkState() == Qt::Checked)
+            mascara += elemento->data(Qt::UserRole).toInt();
+    ui->txtMascara->setText(QString::number(mascara));
 }

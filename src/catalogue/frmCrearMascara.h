@@ -9,7 +9,6 @@ namespace Ui {
 class frmCrearMascara;
 }
 class QLineEdit;
-class QListWidgetItem;
 
 class frmCrearMascara : public Formulario
 {
@@ -27,9 +26,8 @@ public:
     void mostrar_mascara(int valor);
 
 private:
-    void sumar(const QListWidgetItem* elemento);
+    void sumar();
 
     std::unique_ptr<Ui::frmCrearMascara> ui;
     QPointer<QLineEdit> destino_;
-    QList<bool> marcados_;
 };

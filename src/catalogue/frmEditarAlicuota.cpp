@@ -34,14 +34,6 @@ void frmEditarAlicuota::calcularFraccion()
         ui->nroAlicuota->setValue(ui->nroDividendo->Value() / ui->nroDivisor->Value());
 }
 
-bool frmEditarAlicuota::aceptarValor()
-{
-    if (ui->nroAlicuota->Value() != 0 || preguntar(QStringLiteral("La alicuota es nula\n¿Está seguro que desea darla de alta?"), windowTitle()))
-        return true;
-    ui->nroAlicuota->setFocus();
-    return false;
-}
-
 QStringList frmEditarAlicuota::valores() const
 {
     return {ui->nroAlicuota->toSQL(), ui->nroDivisor->toSQL(), ui->nroDividendo->toSQL()};

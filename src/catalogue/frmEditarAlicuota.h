@@ -21,7 +21,6 @@ public:
 
 protected:
     void preparar() override { calcularFraccion(); }
-    bool aceptarValor() override;
     QStringList valores() const override;
 
 private:

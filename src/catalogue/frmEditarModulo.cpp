@@ -20,14 +20,6 @@ void frmEditarModulo::Inicializar(Modo operacion, qint32 subconcepto, const clsM
     ui->nroModulos->setValue(rango.CantModulos);
 }
 
-bool frmEditarModulo::aceptarValor()
-{
-    if (ui->nroModulos->Value() != 0)
-        return true;
-    mostrarFalla({.mensaje = QStringLiteral("Insgrese la cantidad de módulos."), .control = QStringLiteral("nroModulos"), .titulo = {}});
-    return false;
-}
-
 QStringList frmEditarModulo::valores() const
 {
     return {ui->nroModulos->toSQL()};

@@ -20,7 +20,6 @@ public:
     void Inicializar(Modo operacion, qint32 subconcepto, const clsModuloSellos& rango);
 
 protected:
-    bool aceptarValor() override;
     QStringList valores() const override;
 
 private:

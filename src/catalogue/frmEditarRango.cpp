@@ -4,6 +4,7 @@
 #include "core/almacen.h"
 #include "core/barra.h"
 #include "core/ctlNumero.h"
+#include "core/mensajes.h"
 
 #include <QCheckBox>
 
@@ -49,35 +50,14 @@ void frmEditarRango::iniciarRango(Modo operacion, qint32 subconcepto, qint64 id,
     c_.nroHasta->Habilitar(false);
 }
 
-bool frmEditarRango::validar()
-{
-    const bool con_hasta = c_.chkValorHasta->isChecked();
-    const auto falla = primera_falla({
-        {c_.nroDesde->toString().isEmpty(), "Insgrese el Valor Desde", "nroDesde"},
-        {con_hasta && c_.nroHasta->Value() == 0, "Insgrese el Valor Hasta", "nroHasta"},
-    });
-    if (falla) {
-        mostrarFalla(*falla);
-        return false;
-    }
-    if (!aceptarValor())
-        return false;
-    if (con_hasta && c_.nroDesde->Value() >= c_.nroHasta->Value()) {
-        mostrarFalla({.mensaje = QStringLiteral("El Valor Desde debe ser menor que el Valor Hasta"), .control = QStringLiteral("nroDesde"), .titulo = {}});
-        return false;
-    }
-    return true;
-}
-
-bool frmEditarRango::guardar()
+bool frmEditarRango::guardar(const Rango& r)
 {
     const bool nuevo = Operacion == Modo::nuevo;
     try {
         if (!nuevo) {
-            modificar_rango(tabla_, id_, valores());
+            modificar_rango(tabla_, id_, r.valores);
             return true;
         }
-        const Rango r{subconcepto_, c_.nroDesde->toSQL(), c_.chkValorHasta->isChecked(), c_.nroHasta->toSQL(), valores()};
         if (se_solapa(tabla_, r)) {
             mostrarFalla({.mensaje = QStringLiteral("El rango ingresado se solapa con otro rango ya ingresado para el subconcepto"),
                           .control = QStringLiteral("nroDesde"),
@@ -97,6 +77,10 @@ void frmEditarRango::aceptar()
 {
     formatearNumeros();
     preparar();
-    if (validar() && guardar())
+    const Rango r{subconcepto_, c_.nroDesde->toSQL(), c_.chkValorHasta->isChecked(), c_.nroHasta->toSQL(), valores()};
+    DialogoPantalla dialogo(this);
+    if (const auto control = revisar_rango(tabla_, r, windowTitle(), dialogo))
+        enfocar(*control);
+    else if (guardar(r))
         descargar();
 }

@@ -1,4 +1,4 @@
-// What the editors of both kinds of bracket share: the bounds, the checks and their order, the save.
+// What the editors of both kinds of bracket share: the bounds and the save.
 #pragma once
 
 #include "catalogue/rangos.h"
@@ -28,15 +28,12 @@ protected:
 
     /// What runs before the checks.
     virtual void preparar() {}
-    /// Whether what the bracket gives may be saved; tells or asks, and moves the focus.
-    [[nodiscard]] virtual bool aceptarValor() = 0;
     /// What the bracket gives, as a statement takes it.
     [[nodiscard]] virtual QStringList valores() const = 0;
 
 private:
     void aceptar();
-    bool validar();
-    bool guardar();
+    bool guardar(const Rango& r);
     void habilitarHasta();
 
     const TablaRangos& tabla_;

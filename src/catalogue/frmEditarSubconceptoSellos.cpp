@@ -27,19 +27,12 @@ QVariant leer_control(const QWidget* w)
     return {};
 }
 
-void poner_boton(QAbstractButton* boton, bool si)
-{
-    boton->setAutoExclusive(false);
-    boton->setChecked(si);
-    boton->setAutoExclusive(qobject_cast<QRadioButton*>(boton));
-}
-
 void poner_control(QWidget* w, const QVariant& valor)
 {
     if (auto* numero = qobject_cast<ctlNumero*>(w))
         valor.toString().isEmpty() ? numero->ClearText() : numero->setValue(numero_de_texto_sql(valor.toString()));
-    else if (qobject_cast<QCheckBox*>(w) || qobject_cast<QRadioButton*>(w))
-        poner_boton(qobject_cast<QAbstractButton*>(w), valor.toBool());
+    else if (auto* boton = qobject_cast<QAbstractButton*>(w); boton && boton->isCheckable())
+        marcar_boton(boton, valor.toBool());
     else if (auto* combo = qobject_cast<QComboBox*>(w))
         seleccionar_item(combo, valor.toInt());
     else if (auto* fecha = qobject_cast<QDateEdit*>(w))
@@ -56,7 +49,8 @@ void habilitar_control(QWidget* w, bool si)
         lista->Habilitar(si);
         lista->Locked(true);
     } else if (auto* texto = qobject_cast<QLineEdit*>(w)) {
-        habilitar_texto(texto, si);
+        if (!texto->isReadOnly())
+            habilitar_texto(texto, si);
     } else {
         w->setEnabled(si);
     }
@@ -69,6 +63,12 @@ frmEditarSubconceptoSellos::frmEditarSubconceptoSellos() : ui(std::make_unique<U
     ui->setupUi(this);
     for (QWidget* w : findChildren<QWidget*>())
         controles_.insert(w->objectName(), w);
+    for (const CampoSubconcepto& campo : campos_subconcepto())
+        if (campo.forma != Forma::codigo)
+            editables_ << control(campo.control) << control(campo.asociado);
+    for (const DependenciaSubconcepto& d : dependencias_subconcepto())
+        editables_ << control(d.control);
+    editables_.remove(nullptr);
     llenar_combo(ui->cboConcepto, con_sin_filtro(conceptos_sellos()));
     ui->ctlTipoCalculo->AddColumn(QStringLiteral("Cálculo"), 1, QStringLiteral("calculo"), 2400);
     ui->ctlTipoCalculo->AddColumn(QStringLiteral("Observaciones"), 2, QStringLiteral("obs"), 4800);
@@ -121,13 +121,8 @@ void frmEditarSubconceptoSellos::Inicializar(Modo operacion, int id, int concept
     setWindowTitle(nuevo ? QStringLiteral("Nuevo subconcepto de sellos") : QStringLiteral("Modificar subconcepto de sellos"));
     poner_controles(subconcepto_nuevo(concepto));
     if (const auto fila = nuevo ? std::nullopt : cargar_subconcepto(id)) {
-        guardado_ = true;
         poner_controles(*fila);
-    }
-    if (guardado_) {
-        obtener_alicuotas();
-        obtener_modulos();
-        obtener_roles();
+        guardado_ = true;
     }
     ponerEdicion(false);
     if (nuevo)
@@ -174,24 +169,15 @@ void frmEditarSubconceptoSellos::poner_controles(const ControlesSubconcepto& c)
     tipoCalculo_ = c.value(QStringLiteral("ctlTipoCalculo")).toInt();
     QString clave = QString::number(tipoCalculo_);
     ui->ctlTipoCalculo->SeleccionarItem(clave, false);
-    mostrarRangos(ui->ctlTipoCalculo->Value());
+    mostrarRangos(rangos_de_tipo(ui->ctlTipoCalculo->Value()));
 }
 
 // What works follows from the state and the boxes.
 void frmEditarSubconceptoSellos::habilitarControles()
 {
     const ControlesSubconcepto c = leer_controles();
-    const auto habilitar = [&](const char* nombre) {
-        if (QWidget* w = control(nombre))
-            habilitar_control(w, editando_ && habilitado_por_casillas(w->objectName(), c));
-    };
-    for (const CampoSubconcepto& campo : campos_subconcepto()) {
-        if (campo.forma != Forma::codigo)
-            habilitar(campo.control);
-        habilitar(campo.asociado);
-    }
-    for (const char* nombre : {"cmdElegirTCBI", "cmdGaranCump_generar", "cmdObligAccesoria_suma", "lblMontoCR", "lblMontoMaxSM"})
-        habilitar(nombre);
+    for (QWidget* w : std::as_const(editables_))
+        habilitar_control(w, editando_ && habilitado_por_casillas(w->objectName(), c));
     habilitarBarras();
 }
 
@@ -249,41 +235,35 @@ void frmEditarSubconceptoSellos::crearMascara(QLineEdit* destino, const char* ta
     abrir(mascara);
 }
 
-// The brackets that the item has bind it to its kind of calculation.
+// The list tells each time that it closes; what can't be goes back to what was.
 void frmEditarSubconceptoSellos::elegirTipoCalculo(const ctlCombo::Fila& fila)
 {
-    const bool fijo = fila.texto == u"FIJO" || fila.texto == u"FIJO PROPORCIONAL";
     const QString actual = QStringLiteral("k") + QString::number(tipoCalculo_);
-    const bool cambia = fila.clave != actual;
     QString clave = fila.clave;
-    if (cambia && fila.texto == u"VARIABLE" && !modulos_.isEmpty()) {
-        avisar(QStringLiteral("No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. "
-                              "Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo."),
-               windowTitle());
-        clave = actual;
-    } else if (cambia && fijo && !alicuotas_.isEmpty()) {
-        avisar(QStringLiteral("No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. "
-                              "Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas."),
-               windowTitle());
-        clave = actual;
-    } else if (cambia) {
-        tipoCalculo_ = clave.mid(1).toInt();
-        mostrarRangos(fila.texto);
+    if (clave != actual) {
+        const QString impedimento = impedimento_de_tipo(fila.texto, !alicuotas_.isEmpty(), !modulos_.isEmpty());
+        if (impedimento.isEmpty()) {
+            tipoCalculo_ = clave.mid(1).toInt();
+            mostrarRangos(rangos_de_tipo(fila.texto));
+        } else {
+            avisar(impedimento, windowTitle());
+            clave = actual;
+        }
     }
     ui->ctlTipoCalculo->SeleccionarItem(clave, true);
 }
 
-// Any other kind leaves the tab as it is.
-void frmEditarSubconceptoSellos::mostrarRangos(const QString& tipo)
+// A kind without brackets leaves the tab as it is.
+void frmEditarSubconceptoSellos::mostrarRangos(Rangos rangos)
 {
-    const bool variable = tipo == u"VARIABLE";
-    if (!variable && tipo != u"FIJO" && tipo != u"FIJO PROPORCIONAL")
+    if (rangos == Rangos::ningunos)
         return;
-    ui->SSTab1->setTabText(SOLAPA_RANGOS, variable ? QStringLiteral("Alícuotas") : QStringLiteral("Módulos"));
-    ui->fraAlicuotas->setVisible(variable);
-    ui->fraModulos->setVisible(!variable);
+    const bool alicuotas = rangos == Rangos::alicuotas;
+    ui->SSTab1->setTabText(SOLAPA_RANGOS, alicuotas ? QStringLiteral("Alícuotas") : QStringLiteral("Módulos"));
+    ui->fraAlicuotas->setVisible(alicuotas);
+    ui->fraModulos->setVisible(!alicuotas);
     if (guardado_)
-        variable ? obtener_alicuotas() : obtener_modulos();
+        alicuotas ? obtener_alicuotas() : obtener_modulos();
 }
 
 void frmEditarSubconceptoSellos::ponerEdicion(bool si)

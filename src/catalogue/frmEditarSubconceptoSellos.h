@@ -44,7 +44,7 @@ private:
     void ponerEdicion(bool si);
     void aceptar();
     void elegirTipoCalculo(const ctlCombo::Fila& fila);
-    void mostrarRangos(const QString& tipo);
+    void mostrarRangos(Rangos rangos);
     void elegirTipoBI();
     void crearMascara(QLineEdit* destino, const char* tabla, const char* id, const char* descripcion, const QString& titulo);
 
@@ -54,6 +54,9 @@ private:
     void tlbModulos_pulsada(const QString& clave);
     void tlbRoles_pulsada(const QString& clave);
     void habilitarBarras();
+    /// The editor of a bracket or role, for a new one when none is given.
+    template <class Editor, class T>
+    void abrirEditor(const T* elegido);
     /// Asks, and runs the deletion; an error of the engine is told under its own title.
     void borrar(const QString& pregunta, const QString& titulo, const QString& tituloError, const std::function<void()>& accion);
 
@@ -62,6 +65,7 @@ private:
 
     std::unique_ptr<Ui::frmEditarSubconceptoSellos> ui;
     QHash<QString, QWidget*> controles_;
+    QSet<QWidget*> editables_;      ///< what works in the editing state
     ControlesSubconcepto ocultos_;  ///< what no control shows
     int tipoCalculo_ = 0;
     bool guardado_ = false;         ///< the item is in the store

@@ -107,6 +107,14 @@ void frmEditarSubconceptoSellos::borrar(const QString& pregunta, const QString& 
     }
 }
 
+template <class Editor, class T>
+void frmEditarSubconceptoSellos::abrirEditor(const T* elegido)
+{
+    auto* editor = cargar<Editor>();
+    editor->Inicializar(elegido ? Modo::modificar : Modo::nuevo, codigo(), elegido ? *elegido : T());
+    abrir(editor);
+}
+
 void frmEditarSubconceptoSellos::tlbAlicuotas_pulsada(const QString& clave)
 {
     const clsAlicuotaSellos* a = elegido(ui->grillaAlicuotas, alicuotas_);
@@ -114,10 +122,8 @@ void frmEditarSubconceptoSellos::tlbAlicuotas_pulsada(const QString& clave)
         borrar(QStringLiteral("¿Está seguro que desea borrar la alicuota seleccionada?"), QStringLiteral("Borrar alicuota de sellos"),
                QStringLiteral("Borrar alicuota de sellos"), [id = a->IdAlicuota] { borrar_rango(RANGOS_ALICUOTAS, id); });
         obtener_alicuotas();
-    } else if (clave == u"alta" || (clave == u"modificar" && a)) {
-        auto* editor = cargar<frmEditarAlicuota>();
-        clave == u"alta" ? editor->Inicializar(Modo::nuevo, codigo(), {}) : editor->Inicializar(Modo::modificar, codigo(), *a);
-        abrir(editor);
+    } else if (clave == u"alta" || a) {
+        abrirEditor<frmEditarAlicuota>(clave == u"alta" ? nullptr : a);
     }
 }
 
@@ -129,10 +135,8 @@ void frmEditarSubconceptoSellos::tlbModulos_pulsada(const QString& clave)
         borrar(QStringLiteral("¿Está seguro que desea borrar el rango seleccionado?"), QStringLiteral("Borrar alicuota de sellos"),
                QStringLiteral("Borrar rango de módulos de sellos"), [id = m->IdModulo] { borrar_rango(RANGOS_MODULOS, id); });
         obtener_modulos();
-    } else if (clave == u"alta" || (clave == u"modificar" && m)) {
-        auto* editor = cargar<frmEditarModulo>();
-        clave == u"alta" ? editor->Inicializar(Modo::nuevo, codigo(), {}) : editor->Inicializar(Modo::modificar, codigo(), *m);
-        abrir(editor);
+    } else if (clave == u"alta" || m) {
+        abrirEditor<frmEditarModulo>(clave == u"alta" ? nullptr : m);
     }
 }
 
@@ -143,9 +147,7 @@ void frmEditarSubconceptoSellos::tlbRoles_pulsada(const QString& clave)
         borrar(QStringLiteral("¿Está seguro que desea borrar la parte seleccionada?"), QStringLiteral("Borrar parte"), QStringLiteral("Borrar rol"),
                [id = r->IdRol] { borrar_rol(id); });
         obtener_roles();
-    } else if (clave == u"alta" || (clave == u"editar" && r)) {
-        auto* editor = cargar<frmEditarRol>();
-        clave == u"alta" ? editor->Inicializar(Modo::nuevo, codigo(), {}) : editor->Inicializar(Modo::modificar, codigo(), *r);
-        abrir(editor);
+    } else if (clave == u"alta" || r) {
+        abrirEditor<frmEditarRol>(clave == u"alta" ? nullptr : r);
     }
 }

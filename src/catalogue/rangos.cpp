@@ -1,10 +1,13 @@
 #include "catalogue/rangos.h"
 
 #include "core/modGlobales.h"
+#include "core/numero.h"
 
 const TablaRangos RANGOS_ALICUOTAS{"SEL_TB_ALICUOTAS", "SALI_ID", "SALI_DESDEVALOR", "SALI_HASTAVALOR",
-                                   {QStringLiteral("SALI_ALICUOTA"), QStringLiteral("SALI_DIVISOR"), QStringLiteral("SALI_DIVIDENDO")}};
-const TablaRangos RANGOS_MODULOS{"SEL_TB_MODULOS", "SMOD_ID", "SMOD_DESDEVALOR", "SMOD_HASTAVALOR", {QStringLiteral("SMOD_MODULOS")}};
+                                   {QStringLiteral("SALI_ALICUOTA"), QStringLiteral("SALI_DIVISOR"), QStringLiteral("SALI_DIVIDENDO")},
+                                   "nroAlicuota", "La alicuota es nula\n¿Está seguro que desea darla de alta?", true};
+const TablaRangos RANGOS_MODULOS{"SEL_TB_MODULOS", "SMOD_ID", "SMOD_DESDEVALOR", "SMOD_HASTAVALOR", {QStringLiteral("SMOD_MODULOS")},
+                                 "nroModulos", "Insgrese la cantidad de módulos.", false};
 
 namespace {
 
@@ -13,7 +16,33 @@ QString valor_sql(const QString& numero)
     return numero.isEmpty() ? QStringLiteral("null") : numero;
 }
 
+double numero(const QString& sql)
+{
+    return sql.isEmpty() ? 0 : numero_de_texto_sql(sql);
+}
+
 }  // namespace
+
+std::optional<QString> revisar_rango(const TablaRangos& t, const Rango& r, const QString& titulo, Dialogo& dialogo)
+{
+    const auto avisar = [&](const char* texto, const char* control) {
+        dialogo.avisar({QString::fromUtf8(texto), titulo});
+        return QString::fromLatin1(control);
+    };
+    if (r.desde.isEmpty())
+        return avisar("Insgrese el Valor Desde", "nroDesde");
+    if (r.conHasta && numero(r.hasta) == 0)
+        return avisar("Insgrese el Valor Hasta", "nroHasta");
+    if (numero(r.valores.value(0)) == 0) {
+        if (!t.ceroSePregunta)
+            return avisar(t.siEsCero, t.control);
+        if (!dialogo.preguntar({QString::fromUtf8(t.siEsCero), titulo, Icono::pregunta}))
+            return QString::fromLatin1(t.control);
+    }
+    if (r.conHasta && numero(r.desde) >= numero(r.hasta))
+        return avisar("El Valor Desde debe ser menor que el Valor Hasta", "nroDesde");
+    return {};
+}
 
 // A bracket that holds a stored one whole, no bound being equal, passes: deliberate. The brackets of
 // the catalogue in use were accepted by this rule.

@@ -3,8 +3,6 @@
 #include "catalogue/subconcepto.h"
 #include "core/almacen.h"
 
-#include <sqlcipher/sqlite3.h>
-
 #include <array>
 
 namespace {
@@ -155,6 +153,25 @@ QHash<QString, bool> casillas_de_tipo_bi(int tipo)
     }
 }
 
+Rangos rangos_de_tipo(const QString& tipo)
+{
+    if (tipo == u"VARIABLE")
+        return Rangos::alicuotas;
+    return tipo == u"FIJO" || tipo == u"FIJO PROPORCIONAL" ? Rangos::modulos : Rangos::ningunos;
+}
+
+QString impedimento_de_tipo(const QString& tipo, bool conAlicuotas, bool conModulos)
+{
+    const Rangos rangos = rangos_de_tipo(tipo);
+    if (rangos == Rangos::alicuotas && conModulos)
+        return QStringLiteral("No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. "
+                              "Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo.");
+    if (rangos == Rangos::modulos && conAlicuotas)
+        return QStringLiteral("No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. "
+                              "Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas.");
+    return {};
+}
+
 std::optional<Falla> validar_subconcepto(ControlesSubconcepto& c)
 {
     for (const CampoSubconcepto& campo : campos_subconcepto())
@@ -200,8 +217,7 @@ std::optional<Falla> validar_subconcepto(ControlesSubconcepto& c)
 
 QString motivo_de_escritura(const ErrorAlmacen& e)
 {
-    const int primario = e.numero & 0xff;
-    return primario == SQLITE_BUSY || primario == SQLITE_LOCKED
+    return e.ocupado()
         ? QStringLiteral("Otro usuario está utilizando en modo exclusivo los mismos datos que ud. Intente más tarde.")
         : e.descripcion;
 }

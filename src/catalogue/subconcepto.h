@@ -67,6 +67,12 @@ inline const QString USOS = QStringLiteral("SSUB_USOS");
 /// A stored item, or nothing. Throws ErrorAlmacen.
 [[nodiscard]] std::optional<ControlesSubconcepto> cargar_subconcepto(int id);
 
+/// Which brackets a kind of calculation works on.
+enum class Rangos { ningunos, alicuotas, modulos };
+[[nodiscard]] Rangos rangos_de_tipo(const QString& tipoCalculo);
+/// Why an item with such brackets can't go over to this kind of calculation; empty when it can.
+[[nodiscard]] QString impedimento_de_tipo(const QString& tipoCalculo, bool conAlicuotas, bool conModulos);
+
 /// Trims the texts and fills the names and masks left empty; gives the first thing wrong.
 [[nodiscard]] std::optional<Falla> validar_subconcepto(ControlesSubconcepto& c);
 /// Throws ErrorAlmacen.

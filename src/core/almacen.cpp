@@ -22,6 +22,12 @@ bool ErrorAlmacen::claveDuplicada() const
         || numero == SQLITE_CONSTRAINT_ROWID;
 }
 
+bool ErrorAlmacen::ocupado() const
+{
+    const int primario = numero & 0xff;
+    return primario == SQLITE_BUSY || primario == SQLITE_LOCKED;
+}
+
 Conexion::~Conexion()
 {
     cerrar();

@@ -23,6 +23,8 @@ public:
 
     /// Whether a unique key or a primary key was violated.
     [[nodiscard]] bool claveDuplicada() const;
+    /// Whether somebody else holds the file.
+    [[nodiscard]] bool ocupado() const;
 };
 
 /// One connection to the store. Transactions nest: an inner one is a savepoint of the outer.

@@ -69,7 +69,6 @@ bool ctlCombo::Enabled() const
 
 void ctlCombo::Habilitar(bool si)
 {
-    habilitado_ = si;
     txt_->setReadOnly(!si);
     cmd_->setEnabled(si);
     pintarFondo();
@@ -79,7 +78,7 @@ void ctlCombo::Habilitar(bool si)
 void ctlCombo::pintarFondo()
 {
     QPalette p = palette();
-    p.setColor(QPalette::Base, p.color(QPalette::Active, habilitado_ ? QPalette::Base : QPalette::Button));
+    p.setColor(QPalette::Base, p.color(QPalette::Active, cmd_->isEnabledTo(this) ? QPalette::Base : QPalette::Button));
     txt_->setPalette(p);
 }
 
@@ -157,6 +156,7 @@ void ctlCombo::titular()
     lvw_->setColumnCount(int(columnas_.size()));
     lvw_->setHeaderLabels(titulos);
     for (int i = 0; i < columnas_.size(); ++i) {
+        lvw_->headerItem()->setData(i, CLAVE, columnas_[i].clave);
         lvw_->headerItem()->setTextAlignment(i, columnas_[i].alineacion | Qt::AlignVCenter);
         lvw_->setColumnWidth(i, ancho_columna(lvw_, columnas_[i].ancho));
     }

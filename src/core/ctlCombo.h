@@ -119,6 +119,5 @@ private:
     bool elegido_ = false;
     bool pendiente_ = false;             ///< a click in the list was not told yet
     QTreeWidgetItem* ultima_ = nullptr;  ///< the row that the text box shows
-    bool habilitado_ = true;
     Qt::SortOrder orden_ = Qt::AscendingOrder;
 };

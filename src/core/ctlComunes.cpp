@@ -1,5 +1,6 @@
 #include "core/ctlComunes.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QEvent>
 #include <QFocusEvent>
@@ -64,6 +65,14 @@ void a_mayusculas(QLineEdit* texto)
         texto->setText(mayusculas);
         texto->setCursorPosition(cursor);
     });
+}
+
+void marcar_boton(QAbstractButton* boton, bool si)
+{
+    const bool exclusivo = boton->autoExclusive();
+    boton->setAutoExclusive(false);
+    boton->setChecked(si);
+    boton->setAutoExclusive(exclusivo);
 }
 
 void solo_digitos_en(QLineEdit* texto)

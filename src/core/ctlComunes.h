@@ -5,12 +5,15 @@
 
 #include <QString>
 
+class QAbstractButton;
 class QComboBox;
 class QLineEdit;
 class QWidget;
 
 /// Turns what is typed to capitals at once, the caret staying where it was.
 void a_mayusculas(QLineEdit* texto);
+/// Ticks or clears a box or an option, also the last option of its group.
+void marcar_boton(QAbstractButton* boton, bool si);
 /// Lets only digits be typed or pasted.
 void solo_digitos_en(QLineEdit* texto);
 /// Back colour of a window or of a face, and the enabled state.

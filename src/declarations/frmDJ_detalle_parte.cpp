@@ -54,11 +54,8 @@ void seleccionar_inicio(QComboBox* combo, const QString& texto)
 frmDJ_detalle_parte::frmDJ_detalle_parte() : ui(std::make_unique<Ui::frmDJ_detalle_parte>())
 {
     ui->setupUi(this);
-    for (QRadioButton* opcion : {ui->optArgentina, ui->optExtranjera}) {
-        opcion->setAutoExclusive(false);
-        opcion->setChecked(false);
-        opcion->setAutoExclusive(true);
-    }
+    for (QRadioButton* opcion : {ui->optArgentina, ui->optExtranjera})
+        marcar_boton(opcion, false);
     llenar_combo(ui->cboTipoSociedad, tipos_sociedad());
     llenar_combo(ui->cboTipoDoc, leer_entradas(QStringLiteral("select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"),
                                                "GTDC_DESCRIPCION", "GTDC_ID"));
