@@ -6,6 +6,7 @@
 
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QPalette>
 #include <QTranslator>
 
 #include <cstdio>
@@ -17,6 +18,11 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationVersion(QStringLiteral(RTN_VERSION));
     iniciar_recursos();
     setWindowIcon(QIcon(QStringLiteral(":/iconos/programa.svg")));
+    // A form that is only read shows most of its fields disabled: they must stay easy to read.
+    QPalette colores = palette();
+    for (const auto papel : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        colores.setColor(QPalette::Disabled, papel, QColor(Qt::darkGray).darker(130));
+    setPalette(colores);
     auto* traductor = new QTranslator(this);
     if (traductor->load(QStringLiteral("qtbase_es"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         installTranslator(traductor);

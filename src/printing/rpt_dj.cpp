@@ -105,7 +105,7 @@ void rpt_dj_sin_mov::cierre(std::vector<Banda>& bandas) const
     double y = 2;
     total.contenido.linea(MARGEN + 96, 1, MARGEN + ANCHO_UTIL, 1, 0.4);
     const auto importe = [&](const QString& titulo, double valor) {
-        total.contenido.texto({MARGEN + 74, y, 76, FILA}, titulo, 9, Alineacion::derecha, true);
+        total.contenido.texto({MARGEN + 71, y, 77, FILA}, titulo, 9, Alineacion::derecha, true);
         total.contenido.texto({MARGEN + 150, y, 36, FILA}, importe_impreso(valor), 9, Alineacion::derecha, true);
         y += 5;
     };
