@@ -4,24 +4,26 @@
 #include "core/arranque.h"
 #include "core/dialogo.h"
 #include "core/modGlobales.h"
-#include "declarations/modABM_dj.h"
+#include "tree/modABM_dj.h"
 
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 CabeceraDJ cabecera(int anio, int mes, int n)
 {
     CabeceraDJ c;
-    c.nro = QStringLiteral("%1%2%300").arg(20000000000LL + n).arg(anio % 100, 2, 10, QLatin1Char('0')).arg(mes, 2, 10, QLatin1Char('0'));
+    c.nro = u"%1%2%300"_s.arg(20000000000LL + n).arg(anio % 100, 2, 10, QLatin1Char('0')).arg(mes, 2, 10, QLatin1Char('0'));
     c.anio = anio;
     c.mes = mes;
     c.agente = n;
-    c.titular = QStringLiteral("TITULAR DE PRUEBA ÑANDÚ %1").arg(n);
+    c.titular = u"TITULAR DE PRUEBA ÑANDÚ %1"_s.arg(n);
     c.cuit = 20000000000LL + n;
-    c.domicilio = QStringLiteral("AV. SAN MARTÍN 1250");
+    c.domicilio = u"AV. SAN MARTÍN 1250"_s;
     c.localidad = 1;
-    c.observaciones = QStringLiteral("OBSERVACIÓN");
+    c.observaciones = u"OBSERVACIÓN"_s;
     return c;
 }
 
@@ -32,17 +34,17 @@ void hijos(const QString& dj, int id, Dialogo& d)
         p.id = i;
         p.dj = dj;
         p.renglon = id;
-        p.tipoDoc = QStringLiteral("80");
-        p.nroDoc = QStringLiteral("20123456786");
+        p.tipoDoc = u"80"_s;
+        p.nroDoc = u"20123456786"_s;
         p.cuit = 20123456786.0;
-        p.razonSocial = QStringLiteral("GÓMEZ PEÑALOZA JUAN CARLOS");
+        p.razonSocial = u"GÓMEZ PEÑALOZA JUAN CARLOS"_s;
         p.porcExento = i == 1 ? std::optional<double>(12.5) : std::nullopt;
         p.tipoSociedad = 1;
-        p.domicilio = QStringLiteral("LOS ÁLAMOS 1500");
-        p.codPostal = QStringLiteral("9500");
+        p.domicilio = u"LOS ÁLAMOS 1500"_s;
+        p.codPostal = u"9500"_s;
         p.localidad = 6;
         p.provincia = 13;
-        p.nacionalidad = QStringLiteral("A");
+        p.nacionalidad = u"A"_s;
         (void)alta_parte(p, false, d);
     }
     for (int i = 1; i <= 1 + id % 2; ++i) {
@@ -52,8 +54,8 @@ void hijos(const QString& dj, int id, Dialogo& d)
         n.id = i;
         n.partida = QString::number(1000 + id);
         n.valFiscal = 1234567.89;
-        n.calle = QStringLiteral("BELGRANO");
-        n.provincia = QStringLiteral("MARVEN");
+        n.calle = u"BELGRANO"_s;
+        n.provincia = u"MARVEN"_s;
         n.caracter = 1;
         (void)alta_inmueble(n, false, d);
     }
@@ -68,10 +70,10 @@ void hijos(const QString& dj, int id, Dialogo& d)
     o.impuestoCalculado = o.montoInicial = o.montoFinal = 12345.68;
     o.porcExento = o.montoExento = o.adicionales = o.pagoACuenta = 0;
     o.nro = QString::number(id);
-    o.ley = QStringLiteral("5707");
+    o.ley = u"5707"_s;
     (void)alta_operacion(o, false, d);
     for (int i = 1; i <= 2; ++i) {
-        ValorContractual v{dj, id, 1, i, 1000000.5, 0, QStringLiteral("PES"), 1, 1000000.5};
+        ValorContractual v{dj, id, 1, i, 1000000.5, 0, u"PES"_s, 1, 1000000.5};
         (void)alta_valor_contractual(v, false, d);
     }
     for (int i = 1; i <= 3; ++i)
@@ -82,8 +84,8 @@ void hijos(const QString& dj, int id, Dialogo& d)
 
 AlmacenGrande::AlmacenGrande()
 {
-    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN), {QStringLiteral("datos")}, ruta(), clave_almacen()});
-    QFile cfg(dir_.path() + QStringLiteral("/vedra_rtn.cfg"));
+    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN), {u"datos"_s}, ruta(), clave_almacen()});
+    QFile cfg(dir_.path() + u"/vedra_rtn.cfg"_s);
     if (cfg.open(QIODevice::WriteOnly))
         cfg.write("vedra_rtn.db\n");
     cfg.close();
@@ -113,10 +115,10 @@ QString AlmacenGrande::dj(int anio, int mes, int escrituras)
         e.nro = id;
         e.folio = id;
         e.totalImpuesto = 12345.68;
-        e.observaciones = QStringLiteral("OBS");
-        e.estado = QStringLiteral("P");
-        e.alcanzado = QStringLiteral("S");
-        e.testimonio = QStringLiteral("/tmp/%1.pdf").arg(id);
+        e.observaciones = u"OBS"_s;
+        e.estado = u"P"_s;
+        e.alcanzado = u"S"_s;
+        e.testimonio = u"/tmp/%1.pdf"_s.arg(id);
         (void)alta_detalle_dj(e, false, callado);
         hijos(c.nro, id, callado);
     }
@@ -135,24 +137,18 @@ void AlmacenGrande::cabeceras(int cuantas)
 
 void AlmacenGrande::subconceptos(int cuantos)
 {
-    cnRtn.ejecutar(QStringLiteral("with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) "
-                                  "insert into SEL_TB_SUBCONCEPTOS (SSUB_ID, SSUB_DESCRIPCION, SSUB_LEYVIGENCIA, SSUB_FECHAVIGENCIA, STIC_ID, SCBI_ID, SCON_ID, SSUB_USOS, SSUB_MODULOSMIN, SSUB_OBSERVACIONES) "
-                                  "select (1000+i/900)*1000+i%900+1, 'SUBCONCEPTO DE PRUEBA Nº '||i||' CESIÓN Y TRANSFERENCIA', 'LEY '||(1000+i/900)||' - ART '||(i*7919%300)||'º - INC a)', "
-                                  "'2008-01-02', 1+i%4, 1, 1+i%8, 2, i%50, 'OBSERVACIÓN '||i from n")
+    cnRtn.ejecutar(u"with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) " u"insert into SEL_TB_SUBCONCEPTOS (SSUB_ID, SSUB_DESCRIPCION, SSUB_LEYVIGENCIA, SSUB_FECHAVIGENCIA, STIC_ID, SCBI_ID, SCON_ID, SSUB_USOS, SSUB_MODULOSMIN, SSUB_OBSERVACIONES) " u"select (1000+i/900)*1000+i%900+1, 'SUBCONCEPTO DE PRUEBA Nº '||i||' CESIÓN Y TRANSFERENCIA', 'LEY '||(1000+i/900)||' - ART '||(i*7919%300)||'º - INC a)', " u"'2008-01-02', 1+i%4, 1, 1+i%8, 2, i%50, 'OBSERVACIÓN '||i from n"_s
                        .arg(cuantos));
 }
 
 void AlmacenGrande::partes(int cuantas)
 {
-    const QString dj = QStringLiteral("20000000000200100");
-    cnRtn.ejecutar(QStringLiteral("insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SEDJ_ANIO, SEDJ_MES) values ('%1', 2020, 1)").arg(dj));
-    const QString cuenta = QStringLiteral("with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) ");
+    const QString dj = u"20000000000200100"_s;
+    cnRtn.ejecutar(u"insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SEDJ_ANIO, SEDJ_MES) values ('%1', 2020, 1)"_s.arg(dj));
+    const QString cuenta = u"with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) "_s;
     cnRtn.ejecutar(cuenta.arg(cuantas / 4)
-                   + QStringLiteral("insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_ESTADO, SEDD_ALCANZADO) select '%1', i+1, 1, i+1, i+1, 'P', 'S' from n").arg(dj));
+                   + u"insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_ESTADO, SEDD_ALCANZADO) select '%1', i+1, 1, i+1, i+1, 'P', 'S' from n"_s.arg(dj));
     cnRtn.ejecutar(cuenta.arg(cuantas)
-                   + QStringLiteral("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL, GTSO_ID, SPIN_DOMICILIO, SPIN_NACIONALIDAD) "
-                                    "select i%4+1, '%1', i/4+1, '80', 20000000000+i*7919%100003, 20000000000+i*7919%100003, 0, "
-                                    "case i%5 when 0 then 'GÓMEZ' when 1 then 'PEÑALOZA' when 2 then 'SOSA' when 3 then 'D''ANGELO' else 'PEREZ' end||' '||"
-                                    "case i%7 when 0 then 'JUAN CARLOS' when 1 then 'ANA MARÍA' when 2 then 'JUAN' when 3 then 'LUZ' else 'NÉSTOR' end||' '||i, 1+i%3, 'LOS ÁLAMOS '||i, 'A' from n")
+                   + u"insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL, GTSO_ID, SPIN_DOMICILIO, SPIN_NACIONALIDAD) " u"select i%4+1, '%1', i/4+1, '80', 20000000000+i*7919%100003, 20000000000+i*7919%100003, 0, " u"case i%5 when 0 then 'GÓMEZ' when 1 then 'PEÑALOZA' when 2 then 'SOSA' when 3 then 'D''ANGELO' else 'PEREZ' end||' '||" u"case i%7 when 0 then 'JUAN CARLOS' when 1 then 'ANA MARÍA' when 2 then 'JUAN' when 3 then 'LUZ' else 'NÉSTOR' end||' '||i, 1+i%3, 'LOS ÁLAMOS '||i, 'A' from n"_s
                          .arg(dj));
 }

@@ -31,7 +31,7 @@ public:
     /// A DJ of so many parties, four a deed, each of another name and number.
     static void partes(int cuantas);
 
-    [[nodiscard]] QString ruta() const { return dir_.path() + QStringLiteral("/vedra_rtn.db"); }
+    [[nodiscard]] QString ruta() const { return dir_.filePath(QStringLiteral("vedra_rtn.db")); }
 
 private:
     QTemporaryDir dir_;

@@ -3,17 +3,19 @@
 #include "almacen_grande.h"
 #include "medir.h"
 
-#include "catalogue/frmSubconceptos.h"
+#include "catalogue/screens/frmSubconceptos.h"
 #include "catalogue/lista_subconceptos.h"
-#include "core/formulario.h"
-#include "core/grilla.h"
-#include "declarations/buscar_parte.h"
-#include "declarations/frmDJ_buscar_parte.h"
+#include "widgets/formulario.h"
+#include "widgets/grilla.h"
+#include "parties/buscar_parte.h"
+#include "parties/screens/frmDJ_buscar_parte.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +34,7 @@ void catalogo(benchmark::State& estado)
     f->resize(1100, 650);
     f->mostrar();
     QApplication::processEvents();
-    auto* grilla = f->findChild<Grilla*>(QStringLiteral("grilla"));
+    auto* grilla = f->findChild<Grilla*>(u"grilla"_s);
     const QString sql = consulta_subconceptos({});
     medir(
         estado, 1.5,
@@ -51,20 +53,20 @@ void partes(benchmark::State& estado, Criterio criterio, const QString& nombre, 
     const AlmacenGrande a;
     AlmacenGrande::partes(100000);
     auto* f = cargar<frmDJ_buscar_parte>();
-    f->fijarRenglon(QStringLiteral("OTRA"), QStringLiteral("0"));
+    f->fijarRenglon(u"OTRA"_s, u"0"_s);
     f->resize(700, 500);
     f->mostrar();
-    f->findChild<QComboBox*>(QStringLiteral("cboCriterioRazonSocial"))->setCurrentIndex(int(criterio));
-    auto* tipo = f->findChild<QComboBox*>(QStringLiteral("cboTipoDoc"));
+    f->findChild<QComboBox*>(u"cboCriterioRazonSocial"_s)->setCurrentIndex(int(criterio));
+    auto* tipo = f->findChild<QComboBox*>(u"cboTipoDoc"_s);
     tipo->setCurrentIndex(tipo->findData(tipoDoc == 0 ? QVariant(0) : QVariant(QString::number(tipoDoc))));
-    auto* razon = f->findChild<QLineEdit*>(QStringLiteral("txtRazonSocial"));
+    auto* razon = f->findChild<QLineEdit*>(u"txtRazonSocial"_s);
     razon->setText(nombre);
-    f->findChild<QLineEdit*>(QStringLiteral("txtNroDoc"))->setText(nroDoc);
+    f->findChild<QLineEdit*>(u"txtNroDoc"_s)->setText(nroDoc);
     QApplication::processEvents();
-    auto* grilla = f->findChild<Grilla*>(QStringLiteral("flx"));
+    auto* grilla = f->findChild<Grilla*>(u"flx"_s);
     Callado callado;
-    FiltroPartes filtro{.dj = QStringLiteral("OTRA"), .renglon = QStringLiteral("0"), .criterio = criterio, .razonSocial = nombre, .tipoDoc = tipoDoc, .tipoDocTexto = QStringLiteral("CUIT"), .nroDoc = nroDoc};
-    const QString sql = consulta_partes(filtro, {}, callado);
+    FiltroPartes filtro{.dj = u"OTRA"_s, .renglon = u"0"_s, .criterio = criterio, .razonSocial = nombre, .tipoDoc = tipoDoc, .tipoDocTexto = u"CUIT"_s, .nroDoc = nroDoc};
+    const QString sql = consulta_busqueda_partes(filtro, {}, callado);
     medir(
         estado, 1.3,
         [&] {
@@ -84,8 +86,8 @@ void registrar_catalogo()
     const auto caso = [](const char* nombre, Criterio criterio, const QString& texto, int tipo, const QString& nro) {
         benchmark::RegisterBenchmark(nombre, partes, criterio, texto, tipo, nro)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(11);
     };
-    caso("buscar_parte_por_dos_palabras", Criterio::contiene, QStringLiteral("JUAN, SOSA"), 0, {});
-    caso("buscar_parte_por_una_letra", Criterio::contiene, QStringLiteral("S"), 0, {});
-    caso("buscar_parte_por_CUIT", Criterio::sin_filtro, {}, 80, QStringLiteral("20000007919"));
+    caso("buscar_parte_por_dos_palabras", Criterio::contiene, u"JUAN, SOSA"_s, 0, {});
+    caso("buscar_parte_por_una_letra", Criterio::contiene, u"S"_s, 0, {});
+    caso("buscar_parte_por_CUIT", Criterio::sin_filtro, {}, 80, u"20000007919"_s);
     caso("buscar_parte_sin_filtro", Criterio::sin_filtro, {}, 0, {});
 }

@@ -2,8 +2,8 @@
 #include "medir.h"
 
 #include "printing/datos_impresos.h"
-#include "printing/rptSalida.h"
-#include "printing/rpt_dj.h"
+#include "printing/screens/rptSalida.h"
+#include "printing/screens/rpt_dj.h"
 
 #include <QImage>
 #include <QPainter>
@@ -11,9 +11,11 @@
 
 #include <fstream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString CODIGO = QStringLiteral("9DCABBEC95C60F7B69846C4A8513C009");
+const QString CODIGO = u"9DCABBEC95C60F7B69846C4A8513C009"_s;
 
 qint64 memoria(const char* cual)
 {
@@ -31,7 +33,7 @@ void textos_solos(const QString& archivo, const std::vector<std::vector<QString>
     pdf.setResolution(1200);
     pdf.setPageSize(QPageSize(QPageSize::A4));
     QPainter p(&pdf);
-    QFont f(QStringLiteral("DejaVu Sans"));
+    QFont f(u"DejaVu Sans"_s);
     f.setPixelSize(133);
     p.setFont(f);
     for (size_t n = 0; n < paginas.size(); ++n) {
@@ -53,7 +55,7 @@ void dj_a_pdf(benchmark::State& estado)
     QTemporaryDir dir;
     std::vector<std::vector<QString>> paginas;
     {
-        rpt_dj informe(dj, CODIGO, QStringLiteral("v"));
+        rpt_dj informe(dj, CODIGO, u"v"_s);
         for (int n = 0; n < informe.paginas(); ++n) {
             paginas.emplace_back();
             const Pagina pagina = informe.pagina(n).value_or(Pagina());
@@ -67,11 +69,11 @@ void dj_a_pdf(benchmark::State& estado)
     medir(
         estado, 1.5,
         [&] {
-            rpt_dj informe(dj, CODIGO, QStringLiteral("v"));
-            if (!guardar_pdf(informe, dir.filePath(QStringLiteral("dj.pdf")), QStringLiteral("DJ")))
+            rpt_dj informe(dj, CODIGO, u"v"_s);
+            if (!guardar_pdf(informe, dir.filePath(u"dj.pdf"_s), u"DJ"_s))
                 std::abort();
         },
-        [&] { textos_solos(dir.filePath(QStringLiteral("limite.pdf")), paginas); });
+        [&] { textos_solos(dir.filePath(u"limite.pdf"_s), paginas); });
     estado.counters["memoria_de_mas_MB"] = double(memoria("VmHWM:") - antes);
 }
 
@@ -82,7 +84,7 @@ void primera_pagina(benchmark::State& estado)
     const DJImpresa larga = leer_dj_impresa(AlmacenGrande::dj(2026, 3, 2000));
     const DJImpresa corta = leer_dj_impresa(AlmacenGrande::dj(2026, 4, 50));
     const auto mostrar = [](const DJImpresa& dj) {
-        rpt_dj informe(dj, CODIGO, QStringLiteral("v"));
+        rpt_dj informe(dj, CODIGO, u"v"_s);
         QImage papel(900, 1273, QImage::Format_RGB32);
         papel.fill(Qt::white);
         QPainter p(&papel);

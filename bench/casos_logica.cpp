@@ -4,7 +4,7 @@
 #include "computation/calculo.h"
 #include "core/modGlobales.h"
 #include "declarations/copiar_dj.h"
-#include "declarations/modABM_dj.h"
+#include "tree/modABM_dj.h"
 #include "filing/archivo_dj.h"
 #include "filing/lector_dj.h"
 #include "filing/registros.h"
@@ -20,6 +20,8 @@
 #include <cstdio>
 #include <fstream>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,7 +44,7 @@ void leer_y_digerir(const QString& dj, qint64 bytes)
         sqlite3_finalize(s);
     }
     static const QByteArray bloque(1 << 16, 'x');
-    QFile f(carpeta_programa() + QStringLiteral("/limite.txt"));
+    QFile f(carpeta_programa() + u"/limite.txt"_s);
     if (!f.open(QIODevice::WriteOnly))
         std::abort();
     QCryptographicHash md5(QCryptographicHash::Md5);
@@ -104,12 +106,12 @@ void calculo(benchmark::State& estado)
     CamposImpuesto c = sueltos.campos();
     clsSubconcepto s;
     {
-        const Recordset rs(cnRtn, QStringLiteral("select * from SEL_VW_SUBCONCEPTOS where SSUB_ID_CONLEY=5707001"));
+        const Recordset rs(cnRtn, u"select * from SEL_VW_SUBCONCEPTOS where SSUB_ID_CONLEY=5707001"_s);
         s.llenar(rs);
     }
     EstadoOperacion e;
     e.subconcepto = &s;
-    e.partes = {{QStringLiteral("VENDEDOR"), 50.0}, {QStringLiteral("COMPRADOR"), {}}};
+    e.partes = {{u"VENDEDOR"_s, 50.0}, {u"COMPRADOR"_s, {}}};
     c.nroTotalVC.setValue(1234567.89);
     c.nroValuacionFiscal.setValue(1000000);
     constexpr int VECES = 500;
@@ -121,8 +123,7 @@ void calculo(benchmark::State& estado)
         },
         [&] {
             for (int i = 0; i < VECES; ++i) {
-                sqlite3_stmt* st = preparar(QStringLiteral("select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS  where SSUB_ID=5707001 "
-                                                           "and (SALI_DESDEVALOR<1234567.89 and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>=1234567.89))"));
+                sqlite3_stmt* st = preparar(u"select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS  where SSUB_ID=5707001 " u"and (SALI_DESDEVALOR<1234567.89 and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>=1234567.89))"_s);
                 sqlite3_step(st);
                 benchmark::DoNotOptimize(sqlite3_column_double(st, 3));
                 sqlite3_finalize(st);
@@ -133,13 +134,13 @@ void calculo(benchmark::State& estado)
 // The rows of a DJ, cell by cell, into a table under another number by one prepared insert.
 void insertar_igual(const char* tabla, const QString& de, const QString& a)
 {
-    sqlite3_stmt* leer = preparar(QStringLiteral("select * from %1 where SEDJ_NRO='%2'").arg(QLatin1String(tabla), de));
+    sqlite3_stmt* leer = preparar(u"select * from %1 where SEDJ_NRO='%2'"_s.arg(QLatin1String(tabla), de));
     sqlite3_stmt* poner = nullptr;
     const QByteArray nro = a.toUtf8();
     while (sqlite3_step(leer) == SQLITE_ROW) {
         const int n = sqlite3_column_count(leer);
         if (!poner)
-            poner = preparar(QStringLiteral("insert into %1 values (?%2)").arg(QLatin1String(tabla), QStringLiteral(",?").repeated(n - 1)));
+            poner = preparar(u"insert into %1 values (?%2)"_s.arg(QLatin1String(tabla), u",?"_s.repeated(n - 1)));
         for (int i = 0; i < n; ++i) {
             if (qstrcmp(sqlite3_column_name(leer, i), "SEDJ_NRO") == 0)
                 sqlite3_bind_text(poner, i + 1, nro.constData(), int(nro.size()), SQLITE_STATIC);
@@ -158,9 +159,9 @@ void copia(benchmark::State& estado)
     const AlmacenGrande a;
     Callado callado;
     const QString dj = AlmacenGrande::dj(2026, 3, 1000);
-    const QString otra = dj.left(15) + QStringLiteral("77");
+    const QString otra = dj.left(15) + u"77"_s;
     const auto borrar = [](const QString& nro) {
-        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='%1'; delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'").arg(nro));
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='%1'; delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_s.arg(nro));
     };
     double t_caso = 0, t_limite = 0;
     const auto cronometrar = [](const std::function<void()>& f) {
@@ -208,7 +209,7 @@ void lector(benchmark::State& estado)
 void packer(benchmark::State& estado)
 {
     QTemporaryDir dir;
-    const QString origen = dir.filePath(QStringLiteral("origen.bin"));
+    const QString origen = dir.filePath(u"origen.bin"_s);
     {
         QFile f(origen);
         if (!f.open(QIODevice::WriteOnly))
@@ -220,8 +221,8 @@ void packer(benchmark::State& estado)
             f.write(bloque);
         }
     }
-    const std::string rar = dir.filePath(QStringLiteral("a.rar")).toStdString();
-    const std::string copia = dir.filePath(QStringLiteral("copia.bin")).toStdString();
+    const std::string rar = dir.filePath(u"a.rar"_s).toStdString();
+    const std::string copia = dir.filePath(u"copia.bin"_s).toStdString();
     medir(
         estado, 1.3,
         [&] {

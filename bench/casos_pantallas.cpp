@@ -1,14 +1,14 @@
 #include "almacen_grande.h"
 #include "medir.h"
 
-#include "core/MDIPrincipal.h"
+#include "application/screens/MDIPrincipal.h"
 #include "core/arranque.h"
-#include "core/ctlNumero.h"
-#include "core/formulario.h"
-#include "core/grilla.h"
+#include "widgets/ctlNumero.h"
+#include "widgets/formulario.h"
+#include "widgets/grilla.h"
 #include "core/modGlobales.h"
-#include "declarations/frmDJ_buscar.h"
-#include "declarations/frmDJ_editar.h"
+#include "declarations/screens/frmDJ_buscar.h"
+#include "declarations/screens/frmDJ_editar.h"
 #include "declarations/lista_dj.h"
 #include "declarations/renglones.h"
 
@@ -18,6 +18,8 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QTabWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,16 +32,16 @@ void lista(benchmark::State& estado)
     f->resize(1200, 700);
     f->mostrar();
     QApplication::processEvents();
-    auto* campo = f->findChild<ctlNumero*>(QStringLiteral("nroAnio"));
+    auto* campo = f->findChild<ctlNumero*>(u"nroAnio"_s);
     QWidget* txt = campo->focusProxy();
-    auto* grilla = f->findChild<Grilla*>(QStringLiteral("flx"));
+    auto* grilla = f->findChild<Grilla*>(u"flx"_s);
     const auto enter = [&] {
-        QKeyEvent tecla(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+        QKeyEvent tecla(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s);
         QApplication::sendEvent(txt, &tecla);
         grilla->viewport()->repaint();
     };
     // The year filters nothing out: all rows are listed.
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_CABDJ set SEDJ_ANIO=2026"));
+    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set SEDJ_ANIO=2026"_s);
     campo->setValue(2026);
     const QString sql = consulta_dj({0, 2026, 0});
     medir(estado, 1.5, enter, [&] { consulta_sola(sql); });
@@ -59,7 +61,7 @@ void detalle(benchmark::State& estado)
     QApplication::processEvents();
     const QString sql = consulta_renglones(dj);
     f->findChild<QTabWidget*>()->setCurrentIndex(1);
-    auto* grilla = f->findChild<Grilla*>(QStringLiteral("flxOp"));
+    auto* grilla = f->findChild<Grilla*>(u"flxOp"_s);
     medir(
         estado, 1.5,
         [&] {

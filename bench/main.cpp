@@ -1,6 +1,6 @@
 #include "medir.h"
 
-#include "core/MDIAplicacion.h"
+#include "application/aplicacion.h"
 #include "core/modGlobales.h"
 
 #include <sqlcipher/sqlite3.h>

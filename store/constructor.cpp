@@ -11,6 +11,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 [[noreturn]] void fallar(const QString& texto)
@@ -22,7 +24,7 @@ QString leer_texto(const QString& ruta)
 {
     QFile f(ruta);
     if (!f.open(QIODevice::ReadOnly))
-        fallar(QStringLiteral("No se puede leer ") + ruta);
+        fallar(u"No se puede leer "_s + ruta);
     return QString::fromUtf8(f.readAll());
 }
 
@@ -49,21 +51,21 @@ struct Tabla
 Tabla describir(Conexion& cn, const QString& nombre, const QStringList& titulos, const QString& lugar)
 {
     QHash<QString, Columna> declaradas;
-    for (Recordset rs(cn, QStringLiteral("pragma table_info(%1)").arg(nombre)); !rs.eof(); rs.siguiente()) {
-        static const QRegularExpression ancho(QStringLiteral("\\((\\d+)\\)"));
+    for (Recordset rs(cn, u"pragma table_info(%1)"_s.arg(nombre)); !rs.eof(); rs.siguiente()) {
+        static const QRegularExpression ancho(u"\\((\\d+)\\)"_s);
         const QString tipo = rs.texto("type").toLower();
         declaradas.insert(rs.texto("name"), {rs.texto("name"), tipo.section(u'(', 0, 0), ancho.match(tipo).captured(1).toInt()});
     }
     if (declaradas.isEmpty())
-        fallar(QStringLiteral("%1: no existe la tabla %2").arg(lugar, nombre));
+        fallar(u"%1: no existe la tabla %2"_s.arg(lugar, nombre));
     Tabla t;
     for (const QString& titulo : titulos) {
         if (!declaradas.contains(titulo))
-            fallar(QStringLiteral("%1: %2 no tiene la columna %3").arg(lugar, nombre, titulo));
+            fallar(u"%1: %2 no tiene la columna %3"_s.arg(lugar, nombre, titulo));
         t.columnas << declaradas[titulo];
     }
     // Keys of one column; those of several stand in the tree and are found by the engine.
-    for (Recordset rs(cn, QStringLiteral("pragma foreign_key_list(%1)").arg(nombre)); !rs.eof(); rs.siguiente()) {
+    for (Recordset rs(cn, u"pragma foreign_key_list(%1)"_s.arg(nombre)); !rs.eof(); rs.siguiente()) {
         const auto columna = titulos.indexOf(rs.texto("from"));
         if (columna >= 0)
             t.referencias << Referencia{int(columna), rs.texto("table"), rs.texto("from")};
@@ -84,9 +86,9 @@ QVariant valor_de(const Columna& c, const QString& texto, const QString& lugar)
     else if (c.tipo == u"date")
         bien = QDate::fromString(texto, Qt::ISODate).isValid();
     else if (c.ancho > 0 && texto.size() > c.ancho)
-        fallar(QStringLiteral("%1: %2 tiene %3 caracteres y su ancho es %4").arg(lugar, c.nombre).arg(texto.size()).arg(c.ancho));
+        fallar(u"%1: %2 tiene %3 caracteres y su ancho es %4"_s.arg(lugar, c.nombre).arg(texto.size()).arg(c.ancho));
     if (!bien)
-        fallar(QStringLiteral("%1: «%2» no es un valor de %3").arg(lugar, texto, c.nombre));
+        fallar(u"%1: «%2» no es un valor de %3"_s.arg(lugar, texto, c.nombre));
     return valor;
 }
 
@@ -97,9 +99,9 @@ QString referencia_rota(Conexion& cn, const Tabla& t, const QStringList& campos)
         const QString valor = campos[r.columna];
         if (valor.isEmpty())
             continue;
-        const Recordset rs(cn, QStringLiteral("select count(*) from %1 where %2='%3'").arg(r.tabla, r.clave, valor));
+        const Recordset rs(cn, u"select count(*) from %1 where %2='%3'"_s.arg(r.tabla, r.clave, valor));
         if (rs.entero(0) == 0)
-            return QStringLiteral("%1 %2 no existe en %3").arg(r.clave, valor, r.tabla);
+            return u"%1 %2 no existe en %3"_s.arg(r.clave, valor, r.tabla);
     }
     return {};
 }
@@ -108,28 +110,28 @@ void cargar_tabla(Conexion& cn, const QString& ruta, QHash<QString, QString>& lu
 {
     const QString nombre = QFileInfo(ruta).completeBaseName();
     LectorCSV csv(ruta);
-    const auto lugar = [&] { return QStringLiteral("%1:%2").arg(ruta).arg(csv.linea()); };
+    const auto lugar = [&] { return u"%1:%2"_s.arg(ruta).arg(csv.linea()); };
     const auto titulos = csv.siguiente();
     if (!titulos)
-        fallar(lugar() + QStringLiteral(": falta la línea de títulos"));
+        fallar(lugar() + u": falta la línea de títulos"_s);
     const Tabla tabla = describir(cn, nombre, *titulos, lugar());
-    const QString sql = QStringLiteral("insert into %1 (%2) values (%3)")
-                            .arg(nombre, titulos->join(u", "), QStringList(titulos->size(), QStringLiteral("?")).join(u", "));
+    const QString sql = u"insert into %1 (%2) values (%3)"_s
+                            .arg(nombre, titulos->join(u", "), QStringList(titulos->size(), u"?"_s).join(u", "));
     const auto columna_id = titulos->indexOf(QRegularExpression(
-        nombre == u"SEL_TB_ALICUOTAS" ? QStringLiteral("SALI_ID")
-        : nombre == u"SEL_TB_MODULOS" ? QStringLiteral("SMOD_ID") : QStringLiteral("SSUB_ID")));
+        nombre == u"SEL_TB_ALICUOTAS" ? u"SALI_ID"_s
+        : nombre == u"SEL_TB_MODULOS" ? u"SMOD_ID"_s : u"SSUB_ID"_s));
     Comando insertar(cn, sql);
     while (const auto campos = csv.siguiente()) {
         if (campos->size() != titulos->size())
-            fallar(QStringLiteral("%1: hay %2 valores y se esperan %3").arg(lugar()).arg(campos->size()).arg(titulos->size()));
+            fallar(u"%1: hay %2 valores y se esperan %3"_s.arg(lugar()).arg(campos->size()).arg(titulos->size()));
         for (qsizetype i = 0; i < campos->size(); ++i)
             insertar.parametro("", valor_de(tabla.columnas[i], campos->at(i), lugar()));
         try {
             insertar.ejecutar();
         } catch (const ErrorAlmacen& e) {
             const QString rota = referencia_rota(cn, tabla, *campos);
-            fallar(lugar() + QStringLiteral(": ")
-                   + (!rota.isEmpty() ? rota : e.claveDuplicada() ? QStringLiteral("la clave ya existe (%1)").arg(e.descripcion) : e.descripcion));
+            fallar(lugar() + u": "_s
+                   + (!rota.isEmpty() ? rota : e.claveDuplicada() ? u"la clave ya existe (%1)"_s.arg(e.descripcion) : e.descripcion));
         }
         if (columna_id >= 0)
             lugares.insert(nombre + u'/' + campos->at(columna_id), lugar());
@@ -140,7 +142,7 @@ void cargar_tabla(Conexion& cn, const QString& ruta, QHash<QString, QString>& lu
 QStringList tablas(Conexion& cn)
 {
     QStringList nombres;
-    for (Recordset rs(cn, QStringLiteral("select name from sqlite_master where type='table' order by rowid")); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cn, u"select name from sqlite_master where type='table' order by rowid"_s); !rs.eof(); rs.siguiente())
         nombres << rs.texto(0);
     return nombres;
 }
@@ -148,19 +150,19 @@ QStringList tablas(Conexion& cn)
 void llenar(Conexion& cn, const Construccion& c)
 {
     Transaccion t(cn);
-    cn.ejecutar(leer_texto(c.textos + QStringLiteral("/esquema.sql")));
-    cn.ejecutar(leer_texto(c.textos + QStringLiteral("/vistas.sql")));
+    cn.ejecutar(leer_texto(c.textos + u"/esquema.sql"_s));
+    cn.ejecutar(leer_texto(c.textos + u"/vistas.sql"_s));
     const QStringList nombres = tablas(cn);
     QHash<QString, QString> lugares;
     for (const QString& carpeta : c.carpetas) {
         const QDir dir(c.textos + u'/' + carpeta);
-        const QStringList archivos = dir.entryList({QStringLiteral("*.csv")}, QDir::Files);
+        const QStringList archivos = dir.entryList({u"*.csv"_s}, QDir::Files);
         for (const QString& archivo : archivos)
             if (!nombres.contains(QFileInfo(archivo).completeBaseName()))
-                fallar(QStringLiteral("%1: no existe esa tabla").arg(dir.filePath(archivo)));
+                fallar(u"%1: no existe esa tabla"_s.arg(dir.filePath(archivo)));
         for (const QString& nombre : nombres)
-            if (archivos.contains(nombre + QStringLiteral(".csv")))
-                cargar_tabla(cn, dir.filePath(nombre + QStringLiteral(".csv")), lugares);
+            if (archivos.contains(nombre + u".csv"_s))
+                cargar_tabla(cn, dir.filePath(nombre + u".csv"_s), lugares);
     }
     if (const QString falla = revisar_tramos(cn, lugares); !falla.isEmpty())
         fallar(falla);
@@ -171,7 +173,7 @@ void llenar(Conexion& cn, const Construccion& c)
 
 void construir_almacen(const Construccion& c)
 {
-    const QString nuevo = c.destino + QStringLiteral(".nuevo");
+    const QString nuevo = c.destino + u".nuevo"_s;
     QFile::remove(nuevo);
     try {
         Conexion cn;
@@ -182,5 +184,5 @@ void construir_almacen(const Construccion& c)
         throw;
     }
     if (std::rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(c.destino).constData()) != 0)
-        fallar(QStringLiteral("No se puede escribir ") + c.destino);
+        fallar(u"No se puede escribir "_s + c.destino);
 }

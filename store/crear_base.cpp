@@ -10,24 +10,26 @@
 #include <cstdlib>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
     QCommandLineParser argumentos;
-    argumentos.setApplicationDescription(QStringLiteral("Crea la base de VEDRA-RTN a partir de sus textos."));
+    argumentos.setApplicationDescription(u"Crea la base de VEDRA-RTN a partir de sus textos."_s);
     argumentos.addHelpOption();
-    argumentos.addOption({QStringLiteral("muestra"), QStringLiteral("Agrega agentes y meses de muestra.")});
-    argumentos.addOption({QStringLiteral("textos"), QStringLiteral("Carpeta de los textos."), QStringLiteral("carpeta"),
+    argumentos.addOption({u"muestra"_s, u"Agrega agentes y meses de muestra."_s});
+    argumentos.addOption({u"textos"_s, u"Carpeta de los textos."_s, u"carpeta"_s,
                           QStringLiteral(RTN_TEXTOS_ALMACEN)});
-    argumentos.addPositionalArgument(QStringLiteral("destino"), QStringLiteral("Archivo que se crea."));
+    argumentos.addPositionalArgument(u"destino"_s, u"Archivo que se crea."_s);
     argumentos.process(aplicacion);
     if (argumentos.positionalArguments().size() != 1)
         argumentos.showHelp(EXIT_FAILURE);
 
-    Construccion c{argumentos.value(QStringLiteral("textos")), {QStringLiteral("datos")},
+    Construccion c{argumentos.value(u"textos"_s), {u"datos"_s},
                    argumentos.positionalArguments().constFirst(), clave_almacen()};
-    if (argumentos.isSet(QStringLiteral("muestra")))
-        c.carpetas << QStringLiteral("muestra");
+    if (argumentos.isSet(u"muestra"_s))
+        c.carpetas << u"muestra"_s;
     try {
         construir_almacen(c);
         std::printf("%s\n", qUtf8Printable(c.destino));

@@ -2,10 +2,12 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 LectorCSV::LectorCSV(const QString& ruta) : archivo_(ruta)
 {
     if (!archivo_.open(QIODevice::ReadOnly))
-        throw std::runtime_error((QStringLiteral("No se puede leer ") + ruta).toStdString());
+        throw std::runtime_error((u"No se puede leer "_s + ruta).toStdString());
 }
 
 std::optional<QStringList> LectorCSV::siguiente()

@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // A rate bracket excludes its lower bound and a module bracket includes it, so that the
@@ -32,31 +34,30 @@ QString revisar(Conexion& cn, const TablaTramos& t, const QHash<QString, QString
     qint64 item = -1;
     double fin = -1;
     QString ultimo;
-    for (Recordset rs(cn, QStringLiteral("select * from %1 order by SSUB_ID, %2_DESDEVALOR").arg(tabla, p)); !rs.eof(); rs.siguiente()) {
+    for (Recordset rs(cn, u"select * from %1 order by SSUB_ID, %2_DESDEVALOR"_s.arg(tabla, p)); !rs.eof(); rs.siguiente()) {
         const QString lugar = lugares.value(tabla + u'/' + rs.texto(id.constData()));
         const bool nuevo = rs.entero("SSUB_ID") != item;
         if (nuevo && fin != -1)
-            return QStringLiteral("%1: el último tramo de %2 no llega a -1").arg(ultimo).arg(item);
+            return u"%1: el último tramo de %2 no llega a -1"_s.arg(ultimo).arg(item);
         const double inicio = rs.real(desde.constData());
         const double esperado = nuevo ? 0 : redondear(fin + t.paso, 2);
         if (!nuevo && (fin == -1 || inicio < esperado))
-            return QStringLiteral("%1: el tramo se solapa con otro de %2").arg(lugar).arg(rs.entero("SSUB_ID"));
+            return u"%1: el tramo se solapa con otro de %2"_s.arg(lugar).arg(rs.entero("SSUB_ID"));
         if (inicio > esperado)
-            return QStringLiteral("%1: falta un tramo entre %2 y %3").arg(lugar, numero_sql(esperado), numero_sql(inicio));
+            return u"%1: falta un tramo entre %2 y %3"_s.arg(lugar, numero_sql(esperado), numero_sql(inicio));
         fin = rs.real(hasta.constData());
         if (fin != -1 && fin < inicio)
-            return QStringLiteral("%1: el tramo termina antes de empezar").arg(lugar);
+            return u"%1: el tramo termina antes de empezar"_s.arg(lugar);
         item = rs.entero("SSUB_ID");
         ultimo = lugar;
     }
     if (fin != -1)
-        return QStringLiteral("%1: el último tramo de %2 no llega a -1").arg(ultimo).arg(item);
-    const Recordset sin(cn, QStringLiteral("select S.SSUB_ID from SEL_TB_SUBCONCEPTOS S join SEL_TB_TIPOS_CALCULOS C on C.STIC_ID=S.STIC_ID "
-                                           "where C.STIC_DESCRIPCION in (%1) and S.SSUB_ID not in (select SSUB_ID from %2)")
+        return u"%1: el último tramo de %2 no llega a -1"_s.arg(ultimo).arg(item);
+    const Recordset sin(cn, u"select S.SSUB_ID from SEL_TB_SUBCONCEPTOS S join SEL_TB_TIPOS_CALCULOS C on C.STIC_ID=S.STIC_ID " u"where C.STIC_DESCRIPCION in (%1) and S.SSUB_ID not in (select SSUB_ID from %2)"_s
                                 .arg(QLatin1StringView(t.tipos), tabla));
     if (!sin.eof())
-        return QStringLiteral("%1: el subconcepto no tiene tramos en %2")
-            .arg(lugares.value(QStringLiteral("SEL_TB_SUBCONCEPTOS/") + sin.texto(0)), tabla);
+        return u"%1: el subconcepto no tiene tramos en %2"_s
+            .arg(lugares.value(u"SEL_TB_SUBCONCEPTOS/"_s + sin.texto(0)), tabla);
     return {};
 }
 

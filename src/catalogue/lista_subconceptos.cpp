@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array COLUMNAS{
@@ -27,12 +29,12 @@ QString igual_o_no_exento(const FiltroSubconceptos& f)
     const bool con_valor = !f.porcExencion.isEmpty();
     switch (f.exenciones) {
     case Exenciones::subjetivas:
-        return con_valor ? QStringLiteral(" (SSUB_EXENCION_PORC=") + f.porcExencion + QStringLiteral(" or SSUB_EXENCION=0) ") : QString();
+        return con_valor ? u" (SSUB_EXENCION_PORC="_s + f.porcExencion + u" or SSUB_EXENCION=0) "_s : QString();
     case Exenciones::no_exentos:
-        return QStringLiteral(" SSUB_EXENCION=0 ");
+        return u" SSUB_EXENCION=0 "_s;
     case Exenciones::exentos:
-        return QStringLiteral(" SSUB_EXENCION=1 ")
-            + (con_valor ? QStringLiteral(" and (SSUB_EXENCION_PORC=") + f.porcExencion + QStringLiteral(") ") : QString());
+        return u" SSUB_EXENCION=1 "_s
+            + (con_valor ? u" and (SSUB_EXENCION_PORC="_s + f.porcExencion + u") "_s : QString());
     case Exenciones::sin_filtro:
         break;
     }
@@ -44,13 +46,13 @@ QString descripcion_parecida(const FiltroSubconceptos& f)
     using Criterio = FiltroSubconceptos::Criterio;
     if (f.criterio == Criterio::ninguno || f.texto.isEmpty())
         return {};
-    return QStringLiteral(" SSUB_DESCRIPCION like '") + (f.criterio == Criterio::comienza ? QString() : QStringLiteral("%")) + toSQL(f.texto)
-        + (f.criterio == Criterio::termina ? QString() : QStringLiteral("%")) + QStringLiteral("' ");
+    return u" SSUB_DESCRIPCION like '"_s + (f.criterio == Criterio::comienza ? QString() : u"%"_s) + toSQL(f.texto)
+        + (f.criterio == Criterio::termina ? QString() : u"%"_s) + u"' "_s;
 }
 
 QString norma_parecida(bool si, const char* parte, const QString& texto)
 {
-    return si ? QStringLiteral(" SSUB_LEYVIGENCIA like '%") + QLatin1StringView(parte) + u' ' + toSQL(texto.trimmed()) + QStringLiteral("%' ") : QString();
+    return si ? u" SSUB_LEYVIGENCIA like '%"_s + QLatin1StringView(parte) + u' ' + toSQL(texto.trimmed()) + u"%' "_s : QString();
 }
 
 }  // namespace
@@ -62,31 +64,31 @@ std::span<const ColumnaSubconceptos> columnas_subconceptos()
 
 QString consulta_subconceptos(const FiltroSubconceptos& f)
 {
-    QString sql = QStringLiteral("select * from SEL_VW_SUBCONCEPTOS ");
-    QString union_ = QStringLiteral(" where ");
+    QString sql = u"select * from SEL_VW_SUBCONCEPTOS "_s;
+    QString union_ = u" where "_s;
     const auto agregar = [&](const QString& condicion) {
         if (condicion.isEmpty())
             return;
         sql += union_ + condicion;
-        union_ = QStringLiteral(" and ");
+        union_ = u" and "_s;
     };
-    agregar(f.uso ? QStringLiteral(" ((([SSUB_USOS]/") + QString::number(UsoSubconcepto) + QStringLiteral(") % 2)=1) ") : QString());
-    agregar(f.concepto ? QStringLiteral(" SCON_ID=") + QString::number(f.concepto) : QString());
-    agregar(f.ley ? QStringLiteral(" int(SSUB_ID_CONLEY/1000)=") + QString::number(f.ley) : QString());
+    agregar(f.uso ? u" ((([SSUB_USOS]/"_s + QString::number(UsoSubconcepto) + u") % 2)=1) "_s : QString());
+    agregar(f.concepto ? u" SCON_ID="_s + QString::number(f.concepto) : QString());
+    agregar(f.ley ? u" int(SSUB_ID_CONLEY/1000)="_s + QString::number(f.ley) : QString());
     agregar(descripcion_parecida(f));
     agregar(norma_parecida(f.porLey, "LEY", f.textoLey));
     agregar(norma_parecida(f.porArticulo, "ART", f.textoArticulo));
     agregar(norma_parecida(f.porInciso, "INC", f.textoInciso));
-    agregar(f.selladoMultiple ? QStringLiteral(" SSUB_SELLADO_MULTIPLE=1 ") : QString());
+    agregar(f.selladoMultiple ? u" SSUB_SELLADO_MULTIPLE=1 "_s : QString());
     agregar(igual_o_no_exento(f));
 
-    const QString campo = f.orden.isEmpty() ? QStringLiteral("SSUB_LEYVIGENCIA") : f.orden;
+    const QString campo = f.orden.isEmpty() ? u"SSUB_LEYVIGENCIA"_s : f.orden;
     const auto columna = std::find_if(COLUMNAS.begin(), COLUMNAS.end(), [&](const auto& c) { return campo == QLatin1StringView(c.campo); });
-    return sql + QStringLiteral(" order by ") + campo
-        + (columna != COLUMNAS.end() && columna->texto ? QStringLiteral(" collate ESPANOL") : QString());
+    return sql + u" order by "_s + campo
+        + (columna != COLUMNAS.end() && columna->texto ? u" collate ESPANOL"_s : QString());
 }
 
-void leer_subconceptos(const QString& consulta, const std::function<void(std::span<const std::string_view>)>& fila)
+void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila)
 {
     Recordset rs(cnRtn, consulta);
     std::array<int, COLUMNAS.size()> lugares{};
@@ -106,12 +108,12 @@ void leer_subconceptos(const QString& consulta, const std::function<void(std::sp
 
 void marcar_subconcepto(const QString& id, bool si)
 {
-    cnRtn.ejecutar((si ? QStringLiteral("update SEL_TB_SUBCONCEPTOS set SSUB_USOS=2 where SSUB_ID=")
-                       : QStringLiteral("update SEL_TB_SUBCONCEPTOS set SSUB_USOS=0 where SSUB_ID="))
+    cnRtn.ejecutar((si ? u"update SEL_TB_SUBCONCEPTOS set SSUB_USOS=2 where SSUB_ID="_s
+                       : u"update SEL_TB_SUBCONCEPTOS set SSUB_USOS=0 where SSUB_ID="_s)
                    + id);
 }
 
 void borrar_subconcepto(const QString& id)
 {
-    cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_SUBCONCEPTOS where SSUB_ID=") + id);
+    cnRtn.ejecutar(u"delete from SEL_TB_SUBCONCEPTOS where SSUB_ID="_s + id);
 }

@@ -1,11 +1,11 @@
 // The list of the catalogue's items: its filters, its order, and what is done with one of them.
 #pragma once
 
+#include "core/filas.h"
+
 #include <QString>
 
-#include <functional>
 #include <span>
-#include <string_view>
 
 struct FiltroSubconceptos
 {
@@ -47,7 +47,7 @@ constexpr int COLUMNA_CONCEPTO = 9;
 
 [[nodiscard]] QString consulta_subconceptos(const FiltroSubconceptos& filtro);
 /// The rows of such a statement, a cell for each column. Throws ErrorAlmacen.
-void leer_subconceptos(const QString& consulta, const std::function<void(std::span<const std::string_view>)>& fila);
+void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila);
 
 /// Sets or clears the item's use by this program; the whole value is written. Throws ErrorAlmacen.
 void marcar_subconcepto(const QString& id, bool si);

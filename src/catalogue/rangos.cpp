@@ -3,17 +3,19 @@
 #include "core/modGlobales.h"
 #include "core/numero.h"
 
+using namespace Qt::StringLiterals;
+
 const TablaRangos RANGOS_ALICUOTAS{"SEL_TB_ALICUOTAS", "SALI_ID", "SALI_DESDEVALOR", "SALI_HASTAVALOR",
-                                   {QStringLiteral("SALI_ALICUOTA"), QStringLiteral("SALI_DIVISOR"), QStringLiteral("SALI_DIVIDENDO")},
+                                   {u"SALI_ALICUOTA"_s, u"SALI_DIVISOR"_s, u"SALI_DIVIDENDO"_s},
                                    "nroAlicuota", "La alicuota es nula\n¿Está seguro que desea darla de alta?", true};
-const TablaRangos RANGOS_MODULOS{"SEL_TB_MODULOS", "SMOD_ID", "SMOD_DESDEVALOR", "SMOD_HASTAVALOR", {QStringLiteral("SMOD_MODULOS")},
+const TablaRangos RANGOS_MODULOS{"SEL_TB_MODULOS", "SMOD_ID", "SMOD_DESDEVALOR", "SMOD_HASTAVALOR", {u"SMOD_MODULOS"_s},
                                  "nroModulos", "Insgrese la cantidad de módulos.", false};
 
 namespace {
 
 QString valor_sql(const QString& numero)
 {
-    return numero.isEmpty() ? QStringLiteral("null") : numero;
+    return numero.isEmpty() ? u"null"_s : numero;
 }
 
 double numero(const QString& sql)
@@ -51,58 +53,58 @@ bool se_solapa(const TablaRangos& t, const Rango& r)
     const QLatin1StringView desde(t.desde);
     const QLatin1StringView hasta(t.hasta);
     const auto abarca = [&](const QString& cota) {
-        return u'(' + desde + QStringLiteral("<") + cota + QStringLiteral(" and (") + hasta + QStringLiteral(">") + cota + QStringLiteral(" or ") + hasta
-            + QStringLiteral("=-1))");
+        return u'(' + desde + u"<"_s + cota + u" and ("_s + hasta + u">"_s + cota + u" or "_s + hasta
+            + u"=-1))"_s;
     };
-    const Recordset rs(cnRtn, QStringLiteral("select * from ") + QLatin1StringView(t.tabla) + QStringLiteral(" where SSUB_ID=") + QString::number(r.subconcepto)
-                                  + QStringLiteral(" and ((") + desde + QStringLiteral("=") + r.desde + QStringLiteral(")")
-                                  + (r.conHasta ? QStringLiteral(" or (") + hasta + QStringLiteral("=") + r.hasta + QStringLiteral(") ") : QString())
-                                  + QStringLiteral(" or (") + abarca(r.desde) + QStringLiteral(" or ")
-                                  + (r.conHasta ? abarca(r.hasta) : u'(' + hasta + QStringLiteral(">") + r.desde + QStringLiteral(")"))
-                                  + QStringLiteral(") )"));
+    const Recordset rs(cnRtn, u"select * from "_s + QLatin1StringView(t.tabla) + u" where SSUB_ID="_s + QString::number(r.subconcepto)
+                                  + u" and (("_s + desde + u"="_s + r.desde + u")"_s
+                                  + (r.conHasta ? u" or ("_s + hasta + u"="_s + r.hasta + u") "_s : QString())
+                                  + u" or ("_s + abarca(r.desde) + u" or "_s
+                                  + (r.conHasta ? abarca(r.hasta) : u'(' + hasta + u">"_s + r.desde + u")"_s)
+                                  + u") )"_s);
     return !rs.eof();
 }
 
 qint64 proximo_rango(const TablaRangos& t, qint32 subconcepto)
 {
     const QLatin1StringView id(t.id);
-    const Recordset rs(cnRtn, QStringLiteral("select max(") + id + QStringLiteral(") AS MAX_") + id + QStringLiteral(" from ") + QLatin1StringView(t.tabla)
-                                  + QStringLiteral("  where int(") + id + QStringLiteral("/1000)=") + QString::number(subconcepto));
+    const Recordset rs(cnRtn, u"select max("_s + id + u") AS MAX_"_s + id + u" from "_s + QLatin1StringView(t.tabla)
+                                  + u"  where int("_s + id + u"/1000)="_s + QString::number(subconcepto));
     return rs.nulo(0) ? qint64(subconcepto) * 1000 + 1 : rs.entero(0) + 1;
 }
 
 void alta_rango(const TablaRangos& t, const Rango& r)
 {
-    QString columnas = QStringLiteral("SSUB_ID, ") + QLatin1StringView(t.id) + QStringLiteral(", ") + QLatin1StringView(t.desde) + QStringLiteral(", ")
+    QString columnas = u"SSUB_ID, "_s + QLatin1StringView(t.id) + u", "_s + QLatin1StringView(t.desde) + u", "_s
         + QLatin1StringView(t.hasta);
-    QString valores = QString::number(r.subconcepto) + QStringLiteral(", ") + QString::number(proximo_rango(t, r.subconcepto)) + QStringLiteral(", ") + r.desde
-        + QStringLiteral(", ") + (r.conHasta ? r.hasta : QStringLiteral("-1"));
+    QString valores = QString::number(r.subconcepto) + u", "_s + QString::number(proximo_rango(t, r.subconcepto)) + u", "_s + r.desde
+        + u", "_s + (r.conHasta ? r.hasta : u"-1"_s);
     for (qsizetype i = 0; i < t.valores.size(); ++i) {
-        columnas += QStringLiteral(", ") + t.valores[i];
-        valores += QStringLiteral(", ") + valor_sql(r.valores.value(i));
+        columnas += u", "_s + t.valores[i];
+        valores += u", "_s + valor_sql(r.valores.value(i));
     }
-    cnRtn.ejecutar(QStringLiteral("insert into ") + QLatin1StringView(t.tabla) + QStringLiteral(" (") + columnas + QStringLiteral(") values (") + valores
-                   + QStringLiteral(")"));
+    cnRtn.ejecutar(u"insert into "_s + QLatin1StringView(t.tabla) + u" ("_s + columnas + u") values ("_s + valores
+                   + u")"_s);
 }
 
 void modificar_rango(const TablaRangos& t, qint64 id, const QStringList& valores)
 {
     QString asignaciones;
     for (qsizetype i = 0; i < t.valores.size(); ++i)
-        asignaciones += (i == 0 ? QStringLiteral(" ") : QStringLiteral(", ")) + t.valores[i] + u'=' + valor_sql(valores.value(i));
-    cnRtn.ejecutar(QStringLiteral("update ") + QLatin1StringView(t.tabla) + QStringLiteral(" set ") + asignaciones + QStringLiteral(" where ")
+        asignaciones += (i == 0 ? u" "_s : u", "_s) + t.valores[i] + u'=' + valor_sql(valores.value(i));
+    cnRtn.ejecutar(u"update "_s + QLatin1StringView(t.tabla) + u" set "_s + asignaciones + u" where "_s
                    + QLatin1StringView(t.id) + u'=' + QString::number(id));
 }
 
 void borrar_rango(const TablaRangos& t, qint64 id)
 {
-    cnRtn.ejecutar(QStringLiteral("delete from ") + QLatin1StringView(t.tabla) + QStringLiteral(" where ") + QLatin1StringView(t.id) + u'=' + QString::number(id));
+    cnRtn.ejecutar(u"delete from "_s + QLatin1StringView(t.tabla) + u" where "_s + QLatin1StringView(t.id) + u'=' + QString::number(id));
 }
 
 QList<clsAlicuotaSellos> alicuotas_de(qint32 subconcepto)
 {
     QList<clsAlicuotaSellos> lista;
-    for (Recordset rs(cnRtn, QStringLiteral("select * from SEL_VW_ALICUOTAS where SSUB_ID=") + QString::number(subconcepto)); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select * from SEL_VW_ALICUOTAS where SSUB_ID="_s + QString::number(subconcepto)); !rs.eof(); rs.siguiente())
         lista << clsAlicuotaSellos{.IdAlicuota = rs.entero("SALI_ID"),
                                    .ValorDesde = rs.real("SALI_DESDEVALOR"),
                                    .ValorHasta = rs.real("SALI_HASTAVALOR"),
@@ -117,7 +119,7 @@ QList<clsAlicuotaSellos> alicuotas_de(qint32 subconcepto)
 QList<clsModuloSellos> modulos_de(qint32 subconcepto)
 {
     QList<clsModuloSellos> lista;
-    for (Recordset rs(cnRtn, QStringLiteral("select * from SEL_VW_MODULOS where SSUB_ID=") + QString::number(subconcepto)); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select * from SEL_VW_MODULOS where SSUB_ID="_s + QString::number(subconcepto)); !rs.eof(); rs.siguiente())
         lista << clsModuloSellos{.IdModulo = rs.entero("SMOD_ID"),
                                  .ValorDesde = rs.real("SMOD_DESDEVALOR"),
                                  .ValorHasta = rs.real("SMOD_HASTAVALOR"),

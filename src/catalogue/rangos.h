@@ -1,7 +1,7 @@
 // The brackets of an item, of rates or of modules: one design over two tables.
 #pragma once
 
-#include "catalogue/clsSubconcepto.h"
+#include "catalogue/subconcepto_memoria.h"
 #include "core/dialogo.h"
 
 #include <QStringList>

@@ -1,9 +1,8 @@
-// The rules of an item's editor: what hangs on which box, and the checks before it is saved.
-
-#include "catalogue/subconcepto.h"
-#include "core/almacen.h"
+#include "catalogue/reglas_subconcepto.h"
 
 #include <array>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -134,7 +133,7 @@ std::optional<Mensaje> casilla_sujeta(const QString& casilla, int tipo, const QS
         if (tipo == 0 || casilla != QLatin1StringView(s.casilla) || std::find(s.tipos.begin(), s.tipos.end(), tipo) == s.tipos.end())
             continue;
         const QString propio = QString::fromUtf8(TIPO_BI);
-        const QString titulos[] = {titulo, titulo + QStringLiteral(" - ") + propio, propio};
+        const QString titulos[] = {titulo, titulo + u" - "_s + propio, propio};
         return Mensaje{QString::fromUtf8(s.mensaje), titulos[int(s.titulo)]};
     }
     return {};
@@ -142,13 +141,13 @@ std::optional<Mensaje> casilla_sujeta(const QString& casilla, int tipo, const QS
 
 QHash<QString, bool> casillas_de_tipo_bi(int tipo)
 {
-    const QString fiscal = QStringLiteral("chkRequiereValFiscal");
-    const QString contractual = QStringLiteral("chkRequiereValorContractual");
+    const QString fiscal = u"chkRequiereValFiscal"_s;
+    const QString contractual = u"chkRequiereValorContractual"_s;
     switch (tipo) {
     case 1:
     case 2: return {{fiscal, true}, {contractual, true}};
     case 3: return {{fiscal, false}, {contractual, true}};
-    case 4: return {{QStringLiteral("chkHectareas"), true}};
+    case 4: return {{u"chkHectareas"_s, true}};
     default: return {};
     }
 }
@@ -164,11 +163,9 @@ QString impedimento_de_tipo(const QString& tipo, bool conAlicuotas, bool conModu
 {
     const Rangos rangos = rangos_de_tipo(tipo);
     if (rangos == Rangos::alicuotas && conModulos)
-        return QStringLiteral("No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. "
-                              "Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo.");
+        return u"No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. " u"Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo."_s;
     if (rangos == Rangos::modulos && conAlicuotas)
-        return QStringLiteral("No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. "
-                              "Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas.");
+        return u"No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. " u"Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas."_s;
     return {};
 }
 
@@ -186,8 +183,8 @@ std::optional<Falla> validar_subconcepto(ControlesSubconcepto& c)
     if (auto falla = primera_falla({
             {vacio("txtDescripcion"), "Ingrese la descripción del subconcepto", "txtDescripcion"},
             {vacio("txtLeyVigencia"), "Ingrese la Ley de vigencia del subconcepto", "txtLeyVigencia"},
-            {c.value(QStringLiteral("cboConcepto")).toInt() == 0, "Seleccione el concepto", "cboConcepto"},
-            {c.value(QStringLiteral("ctlTipoCalculo")).toInt() == 0, "Ingrese el tipo de calculo del impuesto", "ctlTipoCalculo"},
+            {c.value(u"cboConcepto"_s).toInt() == 0, "Seleccione el concepto", "cboConcepto"},
+            {c.value(u"ctlTipoCalculo"_s).toInt() == 0, "Ingrese el tipo de calculo del impuesto", "ctlTipoCalculo"},
             {falta(c, {"chkBaseImponible"}, "txtTipoCalculoBI"), "Ingrese el tipo de cálculo del subconcepto", "cmdElegirTCBI"},
             {falta(c, {"chkPeriodoBI"}, "nroPeriodoBI"), "Ingrese el periodo que se utilizará para el cálculo de la base imponible", "nroPeriodoBI"},
             {falta(c, {"chkDuracionDefault"}, "nroDuracionDefault"), "Ingrese la duración por defecto", "nroDuracionDefault"},
@@ -213,11 +210,4 @@ std::optional<Falla> validar_subconcepto(ControlesSubconcepto& c)
         {sin_modo(c, "chkObligAccesoria", "optObligAccesoria_fijo", "optObligAccesoria_porc"), "Indique el modo por defecto para la Obligación Accesoria",
          "optObligAccesoria_fijo"},
     });
-}
-
-QString motivo_de_escritura(const ErrorAlmacen& e)
-{
-    return e.ocupado()
-        ? QStringLiteral("Otro usuario está utilizando en modo exclusivo los mismos datos que ud. Intente más tarde.")
-        : e.descripcion;
 }

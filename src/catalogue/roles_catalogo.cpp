@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString texto(const QString& t)
@@ -17,7 +19,7 @@ QString texto(const QString& t)
 bool existe_tabla(const QString& nombre)
 {
     try {
-        const Recordset rs(cnRtn, QStringLiteral("select * from [") + nombre + QStringLiteral("] where 1=0"));
+        const Recordset rs(cnRtn, u"select * from ["_s + nombre + u"] where 1=0"_s);
         return true;
     } catch (const ErrorAlmacen&) {
         return false;
@@ -29,13 +31,8 @@ bool existe_tabla(const QString& nombre)
 QList<clsRol> roles_de(qint32 subconcepto)
 {
     QList<clsRol> lista;
-    for (Recordset rs(cnRtn, QStringLiteral("select SROL_ID ")
-                                 + QStringLiteral(", SSUB_ID, SROL_DESCRIPCION, SROL_REQUERIDO, IIf([SROL_REQUERIDO],'Siempre','Esporádico') AS EXP_REQUERIDO"
-                                                  ", SROL_PARTICIPA_IMPUESTO, IIf([SROL_PARTICIPA_IMPUESTO],'Si','No') AS EXP_PARTICIPA_IMPUESTO"
-                                                  ", SROL_SM_CARGA_OBLIG, IIf([SROL_SM_CARGA_OBLIG],'Si','No') AS EXP_SM_CARGA_OBLIG"
-                                                  ", SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA, SROL_PERMITE_CUIT_EN_TRAMITE")
-                                 + QStringLiteral(" FROM SEL_TB_ROLES ") + QStringLiteral(" where SSUB_ID=") + QString::number(subconcepto)
-                                 + QStringLiteral(" order by SROL_PARTICIPA_IMPUESTO, SROL_DESCRIPCION collate ESPANOL"));
+    for (Recordset rs(cnRtn, u"select SROL_ID " u", SSUB_ID, SROL_DESCRIPCION, SROL_REQUERIDO, IIf([SROL_REQUERIDO],'Siempre','Esporádico') AS EXP_REQUERIDO" u", SROL_PARTICIPA_IMPUESTO, IIf([SROL_PARTICIPA_IMPUESTO],'Si','No') AS EXP_PARTICIPA_IMPUESTO" u", SROL_SM_CARGA_OBLIG, IIf([SROL_SM_CARGA_OBLIG],'Si','No') AS EXP_SM_CARGA_OBLIG" u", SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA, SROL_PERMITE_CUIT_EN_TRAMITE" u" FROM SEL_TB_ROLES  where SSUB_ID="_s + QString::number(subconcepto)
+                                 + u" order by SROL_PARTICIPA_IMPUESTO, SROL_DESCRIPCION collate ESPANOL"_s);
          !rs.eof(); rs.siguiente())
         lista << leer_rol(rs);
     return lista;
@@ -43,7 +40,7 @@ QList<clsRol> roles_de(qint32 subconcepto)
 
 QStringList atributos_subconcepto()
 {
-    const Recordset rs(cnRtn, QStringLiteral("select * from SEL_TB_SUBCONCEPTOS where SSUB_ID=-1"));
+    const Recordset rs(cnRtn, u"select * from SEL_TB_SUBCONCEPTOS where SSUB_ID=-1"_s);
     QStringList nombres;
     for (int i = 0; i < rs.columnas(); ++i)
         nombres << rs.nombre(i);
@@ -52,7 +49,7 @@ QStringList atributos_subconcepto()
 
 qint64 proximo_rol(qint32 subconcepto)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select max(SROL_ID)+1 as MAX_SROL_ID from SEL_TB_ROLES where int(SROL_ID/1000)=") + QString::number(subconcepto));
+    const Recordset rs(cnRtn, u"select max(SROL_ID)+1 as MAX_SROL_ID from SEL_TB_ROLES where int(SROL_ID/1000)="_s + QString::number(subconcepto));
     return rs.nulo(0) ? qint64(subconcepto) * 1000 + 1 : rs.entero(0);
 }
 
@@ -66,41 +63,38 @@ std::optional<Falla> validar_rol(clsRol& rol, bool depende)
         }))
         return falla;
     if (depende && rol.SSUBAtributo_valor.isEmpty())
-        return Falla{.mensaje = QStringLiteral("Ingrese el valor para el atributo ") + rol.SSUBAtributo + QStringLiteral(" para el cual será exigible este rol"),
-                     .control = QStringLiteral("txtSSUBAtributoValor"),
+        return Falla{.mensaje = u"Ingrese el valor para el atributo "_s + rol.SSUBAtributo + u" para el cual será exigible este rol"_s,
+                     .control = u"txtSSUBAtributoValor"_s,
                      .titulo = {}};
     if (!rol.SSUBAtributo_tabla.isEmpty() && !existe_tabla(rol.SSUBAtributo_tabla))
-        return Falla{.mensaje = QStringLiteral("La tabla ") + rol.SSUBAtributo_tabla + QStringLiteral(" no existe"),
-                     .control = QStringLiteral("txtSSUBAtributoTabla"),
-                     .titulo = QStringLiteral("Error: tabla ") + rol.SSUBAtributo_tabla};
+        return Falla{.mensaje = u"La tabla "_s + rol.SSUBAtributo_tabla + u" no existe"_s,
+                     .control = u"txtSSUBAtributoTabla"_s,
+                     .titulo = u"Error: tabla "_s + rol.SSUBAtributo_tabla};
     return {};
 }
 
 void alta_rol(const clsRol& rol, qint32 subconcepto)
 {
-    cnRtn.ejecutar(QStringLiteral("insert into SEL_TB_ROLES ") + QStringLiteral("(SROL_ID, ") + QStringLiteral(" SROL_DESCRIPCION, ") + QStringLiteral(" SROL_REQUERIDO, ")
-                   + QStringLiteral(" SSUB_ID, ") + QStringLiteral(" SROL_PARTICIPA_IMPUESTO, ") + QStringLiteral(" SROL_SM_CARGA_OBLIG, ")
-                   + QStringLiteral(" SROL_SSUB_ATRIBUTO, ") + QStringLiteral(" SROL_SSUB_ATRIBUTO_VALOR, ") + QStringLiteral(" SROL_SSUB_ATRIBUTO_TABLA, ")
-                   + QStringLiteral(" SROL_PERMITE_CUIT_EN_TRAMITE, ") + QStringLiteral(" AUSU_ID, ") + QStringLiteral(" SROL_FULTMOD ") + QStringLiteral(" ) values (")
-                   + QString::number(rol.IdRol) + QStringLiteral(", ") + texto(rol.Descripcion) + QStringLiteral(", ") + logico_sql(rol.Requerido) + QStringLiteral(", ")
-                   + QString::number(subconcepto) + QStringLiteral(", ") + logico_sql(rol.ParicipaImpuesto) + QStringLiteral(", ") + logico_sql(rol.CargaOblig_SM)
-                   + QStringLiteral(", ") + texto(rol.SSUBAtributo) + QStringLiteral(", ") + texto(rol.SSUBAtributo_valor) + QStringLiteral(", ")
-                   + texto(rol.SSUBAtributo_tabla) + QStringLiteral(", ") + logico_sql(rol.Permite_CuitEnTramite) + QStringLiteral(", 'ZQ'") + QStringLiteral(", ")
-                   + fecha_sql(hoy()) + QStringLiteral(")"));
+    cnRtn.ejecutar(u"insert into SEL_TB_ROLES (SROL_ID,  SROL_DESCRIPCION,  SROL_REQUERIDO,  SSUB_ID, " u" SROL_PARTICIPA_IMPUESTO,  SROL_SM_CARGA_OBLIG,  SROL_SSUB_ATRIBUTO,  SROL_SSUB_ATRIBUTO_VALOR, " u" SROL_SSUB_ATRIBUTO_TABLA,  SROL_PERMITE_CUIT_EN_TRAMITE,  AUSU_ID,  SROL_FULTMOD  ) values ("_s
+                   + QString::number(rol.IdRol) + u", "_s + texto(rol.Descripcion) + u", "_s + logico_sql(rol.Requerido) + u", "_s
+                   + QString::number(subconcepto) + u", "_s + logico_sql(rol.ParicipaImpuesto) + u", "_s + logico_sql(rol.CargaOblig_SM)
+                   + u", "_s + texto(rol.SSUBAtributo) + u", "_s + texto(rol.SSUBAtributo_valor) + u", "_s
+                   + texto(rol.SSUBAtributo_tabla) + u", "_s + logico_sql(rol.Permite_CuitEnTramite) + u", 'ZQ', "_s
+                   + fecha_sql(hoy()) + u")"_s);
 }
 
 void modificar_rol(const clsRol& rol, qint32 subconcepto)
 {
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_ROLES set ") + QStringLiteral("SROL_DESCRIPCION=") + texto(rol.Descripcion) + QStringLiteral(", SROL_REQUERIDO=")
-                   + logico_sql(rol.Requerido) + QStringLiteral(", SSUB_ID=") + QString::number(subconcepto) + QStringLiteral(", SROL_PARTICIPA_IMPUESTO=")
-                   + logico_sql(rol.ParicipaImpuesto) + QStringLiteral(", SROL_SM_CARGA_OBLIG=") + logico_sql(rol.CargaOblig_SM) + QStringLiteral(", SROL_SSUB_ATRIBUTO=")
-                   + texto(rol.SSUBAtributo) + QStringLiteral(", SROL_SSUB_ATRIBUTO_VALOR=") + texto(rol.SSUBAtributo_valor)
-                   + QStringLiteral(", SROL_SSUB_ATRIBUTO_TABLA=") + texto(rol.SSUBAtributo_tabla) + QStringLiteral(", SROL_PERMITE_CUIT_EN_TRAMITE=")
-                   + logico_sql(rol.Permite_CuitEnTramite) + QStringLiteral(", AUSU_ID='ZQ'") + QStringLiteral(", SROL_FULTMOD=") + fecha_sql(hoy())
-                   + QStringLiteral(" where SROL_ID=") + QString::number(rol.IdRol));
+    cnRtn.ejecutar(u"update SEL_TB_ROLES set SROL_DESCRIPCION="_s + texto(rol.Descripcion) + u", SROL_REQUERIDO="_s
+                   + logico_sql(rol.Requerido) + u", SSUB_ID="_s + QString::number(subconcepto) + u", SROL_PARTICIPA_IMPUESTO="_s
+                   + logico_sql(rol.ParicipaImpuesto) + u", SROL_SM_CARGA_OBLIG="_s + logico_sql(rol.CargaOblig_SM) + u", SROL_SSUB_ATRIBUTO="_s
+                   + texto(rol.SSUBAtributo) + u", SROL_SSUB_ATRIBUTO_VALOR="_s + texto(rol.SSUBAtributo_valor)
+                   + u", SROL_SSUB_ATRIBUTO_TABLA="_s + texto(rol.SSUBAtributo_tabla) + u", SROL_PERMITE_CUIT_EN_TRAMITE="_s
+                   + logico_sql(rol.Permite_CuitEnTramite) + u", AUSU_ID='ZQ', SROL_FULTMOD="_s + fecha_sql(hoy())
+                   + u" where SROL_ID="_s + QString::number(rol.IdRol));
 }
 
 void borrar_rol(qint64 id)
 {
-    cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_ROLES where SROL_ID=") + QString::number(id));
+    cnRtn.ejecutar(u"delete from SEL_TB_ROLES where SROL_ID="_s + QString::number(id));
 }

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int MODULOS_O_ALICUOTA = 7;
@@ -19,7 +21,7 @@ double base_precio_menos_prestamo(const CamposImpuesto& c, Dialogo& dialogo)
     if (vf >= vc)
         return vf - h;
     if (vc < h) {
-        dialogo.avisar({QStringLiteral("El préstamo no puede ser mayor que el precio de venta"), QStringLiteral("Atención"),
+        dialogo.avisar({u"El préstamo no puede ser mayor que el precio de venta"_s, u"Atención"_s,
                         Icono::ninguno});
         return 0;
     }
@@ -50,17 +52,16 @@ double obligacion_accesoria(const CamposImpuesto& c, const EstadoOperacion& e, d
 
 void buscar_modulos(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
 {
-    e.lblMoA = QStringLiteral("Módulos");
+    e.lblMoA = u"Módulos"_s;
     c.nroAux.cantidadDecimales = 2;
     // The bounds are compared with base times module value; the product is deliberate.
     c.nroAux.setValue(c.ctlBaseImponiblePesos.Value() * ValorModulo);
     const QString x = c.nroAux.toSQL();
-    const Recordset rs(cnRtn, QStringLiteral("select SMOD_ID, SMOD_DESDEVALOR, SMOD_HASTAVALOR, SMOD_MODULOS ")
-                                  + QStringLiteral(" from SEL_TB_MODULOS ") + QStringLiteral(" where SSUB_ID=")
-                                  + QString::number(e.subconcepto->IdSubconcepto()) + QStringLiteral(" and SMOD_DESDEVALOR<=") + x
-                                  + QStringLiteral(" and (SMOD_HASTAVALOR=-1 or SMOD_HASTAVALOR>=") + x + QStringLiteral(")"));
+    const Recordset rs(cnRtn, u"select SMOD_ID, SMOD_DESDEVALOR, SMOD_HASTAVALOR, SMOD_MODULOS  from SEL_TB_MODULOS  where SSUB_ID="_s
+                                  + QString::number(e.subconcepto->IdSubconcepto()) + u" and SMOD_DESDEVALOR<="_s + x
+                                  + u" and (SMOD_HASTAVALOR=-1 or SMOD_HASTAVALOR>="_s + x + u")"_s);
     if (rs.eof())
-        dialogo.avisar({QStringLiteral("Error en la tabla de módulos: No se encuentran los modulos correspondientes para este subconcepto"),
+        dialogo.avisar({u"Error en la tabla de módulos: No se encuentran los modulos correspondientes para este subconcepto"_s,
                         e.titulo, Icono::critico});
     else
         c.nroMoA.setValue(rs.real("SMOD_MODULOS"));
@@ -68,19 +69,18 @@ void buscar_modulos(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
 
 void buscar_alicuota(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
 {
-    e.lblMoA = QStringLiteral("Alícuota");
+    e.lblMoA = u"Alícuota"_s;
     const QString x = c.ctlBaseImponiblePesos.toSQL();
-    const QString desde = c.ctlBaseImponiblePesos.Value() == 0 ? QStringLiteral(" and (SALI_DESDEVALOR<=")
-                                                               : QStringLiteral(" and (SALI_DESDEVALOR<");
-    const Recordset rs(cnRtn, QStringLiteral("select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA ")
-                                  + QStringLiteral(" from SEL_TB_ALICUOTAS ") + QStringLiteral(" where SSUB_ID=")
+    const QString desde = c.ctlBaseImponiblePesos.Value() == 0 ? u" and (SALI_DESDEVALOR<="_s
+                                                               : u" and (SALI_DESDEVALOR<"_s;
+    const Recordset rs(cnRtn, u"select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS " u" where SSUB_ID="_s
                                   + QString::number(e.subconcepto->IdSubconcepto()) + desde + x
-                                  + QStringLiteral(" and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>=") + x + QStringLiteral("))"));
+                                  + u" and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>="_s + x + u"))"_s);
     if (!rs.eof()) {
         c.nroMoA.setValue(rs.real("SALI_ALICUOTA"));
         return;
     }
-    dialogo.avisar({QStringLiteral("Error: No se encuentra la alícuota correspondiente para este subconcepto"), e.titulo, Icono::critico});
+    dialogo.avisar({u"Error: No se encuentra la alícuota correspondiente para este subconcepto"_s, e.titulo, Icono::critico});
     c.nroMoA.setValue(0);
     e.enfocarMoA = true;
 }
@@ -179,7 +179,7 @@ CamposImpuesto CamposSueltos::campos()
 
 QString id_pesos()
 {
-    return QStringLiteral("PES");
+    return u"PES"_s;
 }
 
 int DeterminarLey(const QString& dia, const QString& posicion, Dialogo& dialogo)
@@ -187,11 +187,11 @@ int DeterminarLey(const QString& dia, const QString& posicion, Dialogo& dialogo)
     const QDate fecha(posicion.left(4).toInt(), posicion.mid(5, 2).toInt(), dia.toInt());
     int ley = 0;
     {
-        const Recordset rs(cnRtn, QStringLiteral("select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES where ") + u' ' + fecha_sql(fecha)
-                                      + QStringLiteral(" >= GLEY_VIGENCIA_DESDE ") + QStringLiteral(" and (") + fecha_sql(fecha)
-                                      + QStringLiteral("<=GLEY_VIGENCIA_HASTA ") + QStringLiteral(" or  GLEY_VIGENCIA_HASTA is null)"));
+        const Recordset rs(cnRtn, u"select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES where "_s + u' ' + fecha_sql(fecha)
+                                      + u" >= GLEY_VIGENCIA_DESDE  and ("_s + fecha_sql(fecha)
+                                      + u"<=GLEY_VIGENCIA_HASTA  or  GLEY_VIGENCIA_HASTA is null)"_s);
         if (rs.eof())
-            dialogo.avisar({QStringLiteral("No se encuentra la ley para la fecha indicada"), {}, Icono::ninguno});
+            dialogo.avisar({u"No se encuentra la ley para la fecha indicada"_s, {}, Icono::ninguno});
         else
             ley = int(rs.entero("GLEY_NRO"));
     }

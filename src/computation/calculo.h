@@ -2,7 +2,7 @@
 // rounded when it is written to a field, and every later use reads the field back.
 #pragma once
 
-#include "catalogue/clsSubconcepto.h"
+#include "catalogue/subconcepto_memoria.h"
 #include "core/dialogo.h"
 #include "core/numero.h"
 

@@ -3,29 +3,25 @@
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/numero.h"
-#include "declarations/escritura.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int USO_ESCRIBANOS = 2;
 
-QString sql_o_cero(const Numero& n)
-{
-    return n.vacio() ? QStringLiteral("0") : n.toSQL();
-}
-
 QString fijar(const char* columna, const QString& valor)
 {
-    return QStringLiteral(", ") + QLatin1StringView(columna) + QStringLiteral("=") + valor;
+    return u", "_s + QLatin1StringView(columna) + u"="_s + valor;
 }
 
 // Only these two types write the columns of the modules and the rate; the others leave them.
 QString modulos_y_alicuota(const clsSubconcepto& s, const Numero& nroMoA)
 {
     if (s.TipoCalculo == u"FIJO")
-        return fijar("SINS_MODULOS", sql_o_cero(nroMoA)) + fijar("SINS_ALICUOTA", QStringLiteral("null"));
+        return fijar("SINS_MODULOS", sql_o_cero(nroMoA)) + fijar("SINS_ALICUOTA", u"null"_s);
     if (s.TipoCalculo == u"VARIABLE")
-        return fijar("SINS_MODULOS", QStringLiteral("null")) + fijar("SINS_ALICUOTA", sql_o_cero(nroMoA));
+        return fijar("SINS_MODULOS", u"null"_s) + fijar("SINS_ALICUOTA", sql_o_cero(nroMoA));
     return {};
 }
 
@@ -33,34 +29,34 @@ QString modulos_y_alicuota(const clsSubconcepto& s, const Numero& nroMoA)
 
 QString ClaveOperacion::donde() const
 {
-    return donde_renglon(dj, renglon) + QStringLiteral(" and SEDO_ID=") + operacion;
+    return deRenglon().donde() + u" and SEDO_ID="_s + operacion;
 }
 
 ResultadoSubconcepto buscar_subconcepto(int ley, int codigo, Dialogo& dialogo)
 {
     ResultadoSubconcepto r;
     const QString id = QString::number(identificador_subconcepto(ley, codigo));
-    const Recordset rs(cnRtn, QStringLiteral("select * from SEL_VW_SUBCONCEPTOS ") + QStringLiteral(" where SSUB_ID_CONLEY=") + id);
+    const Recordset rs(cnRtn, u"select * from SEL_VW_SUBCONCEPTOS  where SSUB_ID_CONLEY="_s + id);
     const auto rechazar = [&](const QString& motivo) {
-        dialogo.avisar({QStringLiteral("El subconcepto ") + QString::number(codigo) + motivo, {}, Icono::ninguno});
+        dialogo.avisar({u"El subconcepto "_s + QString::number(codigo) + motivo, {}, Icono::ninguno});
         return r;
     };
     if (rs.eof())
-        return rechazar(QStringLiteral(" no se encuentra en la ley ") + QString::number(ley));
+        return rechazar(u" no se encuentra en la ley "_s + QString::number(ley));
     r.hallado = true;
     if (rs.nulo("SSUB_USOS") || (rs.entero("SSUB_USOS") & USO_ESCRIBANOS) == 0)
-        return rechazar(QStringLiteral(" no se encuentra habilitado para el módulo para escribanos"));
+        return rechazar(u" no se encuentra habilitado para el módulo para escribanos"_s);
     r.subconcepto.emplace().llenar(rs);
     r.subconcepto->setIdSubconcepto(identificador_subconcepto(ley, codigo));
     r.conMinimo = !rs.nulo("SSUB_MODULOSMIN");
-    r.nombreValorContractual = rs.nulo("SSUB_DENOM_VCONTRACTUAL") ? QStringLiteral("Valor contractual") : rs.texto("SSUB_DENOM_VCONTRACTUAL");
+    r.nombreValorContractual = rs.nulo("SSUB_DENOM_VCONTRACTUAL") ? u"Valor contractual"_s : rs.texto("SSUB_DENOM_VCONTRACTUAL");
     return r;
 }
 
 QList<ModoObligacion> modos_obligacion(int mascara)
 {
     QList<ModoObligacion> modos;
-    for (Recordset rs(cnRtn, QStringLiteral("select GTOA_ID, GTOA_DESCRIPCION from GLB_TB_TIPOS_OBLIG_ACCESORIAS")); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select GTOA_ID, GTOA_DESCRIPCION from GLB_TB_TIPOS_OBLIG_ACCESORIAS"_s); !rs.eof(); rs.siguiente())
         modos << ModoObligacion{rs.texto("GTOA_DESCRIPCION"), (rs.entero("GTOA_ID") & mascara) != 0 ? 1 : 0};
     return modos;
 }
@@ -71,9 +67,9 @@ void actualizar_operacion(const ClaveOperacion& clave, CamposImpuesto c, const D
     for (Numero* n : {&c.nroPagoACuenta, &c.nroAdicionales})
         if (n->vacio())
             n->setValue(0);
-    const QString nulo = QStringLiteral("null");
+    const QString nulo = u"null"_s;
     const bool con_hipoteca = s.RequiereBaseImponible && s.RequiereHipoteca;
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_INS_OPERACIONES set ") + QStringLiteral(" SSUB_ID=")
+    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_OPERACIONES set  SSUB_ID="_s
                    + QString::number(identificador_subconcepto(d.ley, d.codigo)) + fijar("SINS_BASEIMPONIBLE", sql_o_cero(c.nroBaseImponible))
                    + fijar("SINS_VALUACION_FISCAL", c.nroValuacionFiscal.Value() == 0 ? nulo : c.nroValuacionFiscal.toSQL())
                    + modulos_y_alicuota(s, c.nroMoA) + fijar("SINS_IMPUESTO_CALCULADO", sql_o_cero(c.ctlImpuestoCalculado))
@@ -81,7 +77,7 @@ void actualizar_operacion(const ClaveOperacion& clave, CamposImpuesto c, const D
                    + fijar("SINS_MONTO_INICIAL", sql_o_cero(c.nroImpuesto)) + fijar("SINS_MONTO_FINAL", sql_o_cero(c.nroImpuesto))
                    + fijar("SINS_NRO", entre_comillas(clave.renglon)) + fijar("SINS_ADICIONALES", c.nroAdicionales.toSQL())
                    + fijar("SINS_PAGO_CTA_MONTO", c.nroPagoACuenta.toSQL())
-                   + fijar("SINS_OBLIG_ACCESORIA_FOP", !d.obligAccesoria ? nulo : d.obligFijo ? QStringLiteral("'F'") : QStringLiteral("'P'"))
+                   + fijar("SINS_OBLIG_ACCESORIA_FOP", !d.obligAccesoria ? nulo : d.obligFijo ? u"'F'"_s : u"'P'"_s)
                    + fijar("SINS_OBLIG_ACCESORIA_VALOR", d.obligAccesoria ? sql_o_cero(c.nroObligAccesoria) : nulo)
                    + fijar("SINS_OBLIG_ACCESORIA_MODO", d.obligAccesoria ? QString::number(d.obligModo) : nulo)
                    + fijar("SINS_OBLIG_ACCESORIA_POLIZA",
@@ -93,14 +89,14 @@ void actualizar_operacion(const ClaveOperacion& clave, CamposImpuesto c, const D
 
 std::optional<Operacion> cargar_operacion(const ClaveOperacion& clave)
 {
-    return leer_fila<Operacion>(cnRtn, QStringLiteral(" select * ") + QStringLiteral(" from SEL_TB_RTN_INS_OPERACIONES ") + clave.donde(),
+    return leer_fila<Operacion>(cnRtn, u" select *  from SEL_TB_RTN_INS_OPERACIONES "_s + clave.donde(),
                                 columnas_operacion());
 }
 
 void vincular_inmueble(const ClaveOperacion& clave, int inmueble)
 {
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_INS_INMUEBLES set ") + QStringLiteral(" SEDO_ID=") + clave.operacion
-                   + donde_renglon(clave.dj, clave.renglon) + QStringLiteral(" and SEII_ID=") + QString::number(inmueble));
+    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_INMUEBLES set  SEDO_ID="_s + clave.operacion
+                   + clave.deRenglon().donde() + u" and SEII_ID="_s + QString::number(inmueble));
 }
 
 std::optional<Totales> guardar_totales(const ClaveOperacion& clave, Dialogo& dialogo)
@@ -109,27 +105,25 @@ std::optional<Totales> guardar_totales(const ClaveOperacion& clave, Dialogo& dia
         Transaccion t(cnRtn);
         Totales totales;
         {
-            const Recordset suma(cnRtn, QStringLiteral("SELECT SUM(SINS_MONTO_FINAL) AS Suma_SINS_MONTO_FINAL")
-                                            + QStringLiteral(" from SEL_TB_RTN_INS_OPERACIONES ") + donde_renglon(clave.dj, clave.renglon)
-                                            + QStringLiteral(" group by SEDJ_NRO"));
+            const Recordset suma(cnRtn, u"SELECT SUM(SINS_MONTO_FINAL) AS Suma_SINS_MONTO_FINAL from SEL_TB_RTN_INS_OPERACIONES "_s + clave.deRenglon().donde()
+                                            + u" group by SEDJ_NRO"_s);
             totales.renglon = suma.eof() ? 0 : suma.real(0);
         }
-        if (cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=") + numero_sql(totales.renglon)
-                           + donde_renglon(clave.dj, clave.renglon))
+        if (cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO="_s + numero_sql(totales.renglon)
+                           + clave.deRenglon().donde())
             == 0)
             throw ErrorAlmacen(0, {});
         {
-            const Recordset suma(cnRtn, QStringLiteral("SELECT SUM(SINS_MONTO_FINAL) AS Suma_SEDJ_TOTAL_RETENIDO")
-                                            + QStringLiteral(" from SEL_TB_RTN_INS_OPERACIONES where SEDJ_NRO='") + clave.dj
-                                            + QStringLiteral("' group by SEDJ_NRO"));
+            const Recordset suma(cnRtn, u"SELECT SUM(SINS_MONTO_FINAL) AS Suma_SEDJ_TOTAL_RETENIDO" u" from SEL_TB_RTN_INS_OPERACIONES where SEDJ_NRO='"_s + clave.dj
+                                            + u"' group by SEDJ_NRO"_s);
             totales.dj = suma.eof() ? 0 : suma.real(0);
         }
-        cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=") + numero_sql(totales.dj)
-                       + QStringLiteral(" where SEDJ_NRO='") + clave.dj + QStringLiteral("'"));
+        cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO="_s + numero_sql(totales.dj)
+                       + u" where SEDJ_NRO='"_s + clave.dj + u"'"_s);
         t.confirmar();
         return totales;
     } catch (const ErrorAlmacen&) {
-        dialogo.avisar({QStringLiteral("Atención: No se pudo modificar el monto del renglón de la DJ"), {}, Icono::ninguno});
+        dialogo.avisar({u"Atención: No se pudo modificar el monto del renglón de la DJ"_s, {}, Icono::ninguno});
         return {};
     }
 }

@@ -2,11 +2,12 @@
 // the totals that hang on it.
 #pragma once
 
-#include "catalogue/clsSubconcepto.h"
+#include "catalogue/subconcepto_memoria.h"
 #include "computation/calculo.h"
 #include "core/dialogo.h"
-#include "declarations/arbol_dj.h"
-#include "declarations/hijos_escritura.h"
+#include "core/filas.h"
+#include "tree/arbol_dj.h"
+#include "tree/renglon.h"
 
 #include <QStringList>
 
@@ -16,6 +17,7 @@ struct ClaveOperacion
     QString dj;
     QString renglon;
     QString operacion;
+    [[nodiscard]] RenglonDJ deRenglon() const { return {dj, renglon}; }
     /// " where SEDJ_NRO='…' and SEDD_ID=… and SEDO_ID=…"
     [[nodiscard]] QString donde() const;
 };

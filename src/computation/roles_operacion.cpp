@@ -3,9 +3,11 @@
 #include "computation/operacion.h"
 #include "core/modGlobales.h"
 #include "core/numero.h"
-#include "declarations/modABM_dj.h"
+#include "tree/modABM_dj.h"
 
 #include <QSet>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -14,12 +16,12 @@ QString numero_documento(const Recordset& rs)
 {
     const QString tipo = rs.texto("GTDC_ID");
     if (tipo == u"CUIT" || tipo == u"CUIL")
-        return rs.logico("SPIN_CUIT_EN_TRAMITE") ? QStringLiteral("En trámite") : numero_sql(rs.real("SPIN_CUIT"));
+        return rs.logico("SPIN_CUIT_EN_TRAMITE") ? u"En trámite"_s : numero_sql(rs.real("SPIN_CUIT"));
     if (rs.texto("SPIN_NACIONALIDAD") != u"E")
         return rs.texto("SPIN_NRODOC");
-    return rs.nulo("CPAI_PAIS") ? QStringLiteral("Extranjero")
-                                : rs.texto("CPAI_PAIS") + QStringLiteral(" - ") + rs.texto("CPAI_PERSONA") + QStringLiteral(" (")
-            + rs.texto("CPAI_CODIGO") + QStringLiteral(")");
+    return rs.nulo("CPAI_PAIS") ? u"Extranjero"_s
+                                : rs.texto("CPAI_PAIS") + u" - "_s + rs.texto("CPAI_PERSONA") + u" ("_s
+            + rs.texto("CPAI_CODIGO") + u")"_s;
 }
 
 }  // namespace
@@ -27,7 +29,7 @@ QString numero_documento(const Recordset& rs)
 QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave)
 {
     QList<ParteRol> partes;
-    for (Recordset rs(cnRtn, consulta_partes({clave.dj, clave.renglon})); !rs.eof(); rs.siguiente()) {
+    for (Recordset rs(cnRtn, consulta_partes_renglon(clave.deRenglon())); !rs.eof(); rs.siguiente()) {
         ParteRol p;
         p.id = rs.texto("SPIN_ID");
         p.tipoDoc = rs.texto("GTDC_DESCRIPCION");
@@ -39,10 +41,8 @@ QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave)
     }
     if (clave.operacion.isEmpty())
         return partes;
-    for (Recordset rs(cnRtn, QStringLiteral("select RI.SPIN_ID, RI.SROL_ID, RS.SROL_DESCRIPCION, RI.SEDR_OBS")
-                                 + QStringLiteral(" from SEL_TB_RTN_INS_ROLES as RI, SEL_TB_ROLES as RS ") + QStringLiteral(" where RI.SROL_ID=RS.SROL_ID")
-                                 + QStringLiteral(" and RI.SEDJ_NRO='") + clave.dj + QStringLiteral("'") + QStringLiteral(" and RI.SEDD_ID=")
-                                 + clave.renglon + QStringLiteral(" and RI.SEDO_ID=") + clave.operacion);
+    for (Recordset rs(cnRtn, u"select RI.SPIN_ID, RI.SROL_ID, RS.SROL_DESCRIPCION, RI.SEDR_OBS" u" from SEL_TB_RTN_INS_ROLES as RI, SEL_TB_ROLES as RS  where RI.SROL_ID=RS.SROL_ID and RI.SEDJ_NRO='"_s + clave.dj + u"' and RI.SEDD_ID="_s
+                                 + clave.renglon + u" and RI.SEDO_ID="_s + clave.operacion);
          !rs.eof(); rs.siguiente())
         for (ParteRol& p : partes)
             if (p.id == rs.texto("SPIN_ID")) {
@@ -56,32 +56,32 @@ QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave)
 bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, const QString& titulo, Dialogo& dialogo)
 {
     try {
-        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_INS_ROLES") + clave.donde());
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES"_s + clave.donde());
         for (const ParteRol& p : partes) {
             if (p.idRol.isEmpty() || p.idRol == u"0")
                 continue;
             if (!alta_rol({clave.dj, clave.renglon.toInt(), clave.operacion.toInt(), p.id.toInt(), p.idRol.toLongLong(), p.observaciones}, dialogo)) {
-                dialogo.avisar({QStringLiteral("Error al guardar los roles"), titulo, Icono::ninguno});
+                dialogo.avisar({u"Error al guardar los roles"_s, titulo, Icono::ninguno});
                 return false;
             }
         }
         return true;
     } catch (const ErrorAlmacen& e) {
-        dialogo.avisar({QStringLiteral("Error al guardar los roles\n") + e.descripcion, titulo, Icono::ninguno});
+        dialogo.avisar({u"Error al guardar los roles\n"_s + e.descripcion, titulo, Icono::ninguno});
         return false;
     }
 }
 
 bool roles_obligatorios(const clsSubconcepto* s, const QList<ParteRol>& partes, QString& texto)
 {
-    texto = QStringLiteral("Los roles de carga obligatoria son:");
+    texto = u"Los roles de carga obligatoria son:"_s;
     if (!s)
         return false;
     int requeridos = 0;
     for (const clsRol& rol : s->Roles()) {
         if (!rol.Requerido)
             continue;
-        texto += QStringLiteral("\n - ") + rol.Descripcion;
+        texto += u"\n - "_s + rol.Descripcion;
         ++requeridos;
     }
     // A role held by two parties counts once.

@@ -4,6 +4,8 @@
 
 #include <sqlcipher/sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int ESPERA_BLOQUEO_MS = 1500;
@@ -64,9 +66,9 @@ void Conexion::abrir(const QString& ruta, const QString& clave)
 {
     conectar(ruta, clave, SQLITE_OPEN_READWRITE);
     try {
-        Recordset tablas(*this, QStringLiteral("select count(*) from sqlite_master where type='table'"));
+        Recordset tablas(*this, u"select count(*) from sqlite_master where type='table'"_s);
         if (tablas.entero(0) == 0)
-            throw ErrorAlmacen(SQLITE_NOTADB, QStringLiteral("El archivo no es una base de datos"));
+            throw ErrorAlmacen(SQLITE_NOTADB, u"El archivo no es una base de datos"_s);
         sentenciaSimple("pragma foreign_keys = on");
     } catch (...) {
         cerrar();
@@ -95,7 +97,7 @@ void Conexion::cerrar()
 sqlite3_stmt* Conexion::preparar(const QString& sql)
 {
     if (!base_)
-        throw ErrorAlmacen(SQLITE_MISUSE, QStringLiteral("La conexión está cerrada"));
+        throw ErrorAlmacen(SQLITE_MISUSE, u"La conexión está cerrada"_s);
     const QByteArray texto = sql.toUtf8();
     sqlite3_stmt* sentencia = nullptr;
     if (sqlite3_prepare_v2(base_, texto.constData(), int(texto.size()), &sentencia, nullptr) != SQLITE_OK)
@@ -124,7 +126,7 @@ void Conexion::devolver(const QString& sql, sqlite3_stmt* sentencia)
 void Conexion::sentenciaSimple(const char* sql)
 {
     if (!base_)
-        throw ErrorAlmacen(SQLITE_MISUSE, QStringLiteral("La conexión está cerrada"));
+        throw ErrorAlmacen(SQLITE_MISUSE, u"La conexión está cerrada"_s);
     if (sqlite3_exec(base_, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
         fallar();
 }
@@ -235,7 +237,7 @@ int Recordset::columna(const char* nombre) const
     for (int i = 0; i < columnas(); ++i)
         if (qstricmp(sqlite3_column_name(sentencia_, i), nombre) == 0)
             return i;
-    throw ErrorAlmacen(SQLITE_RANGE, QStringLiteral("No existe la columna %1").arg(QLatin1String(nombre)));
+    throw ErrorAlmacen(SQLITE_RANGE, u"No existe la columna %1"_s.arg(QLatin1String(nombre)));
 }
 
 bool Recordset::nulo(int columna) const
@@ -299,7 +301,7 @@ void Comando::parametro(const char* nombre, const QVariant& valor, int ancho)
     case QMetaType::QString: {
         const QString texto = valor.toString();
         if (ancho > 0 && texto.size() > ancho)
-            throw ErrorAlmacen(SQLITE_TOOBIG, QStringLiteral("El valor de %1 excede los %2 caracteres")
+            throw ErrorAlmacen(SQLITE_TOOBIG, u"El valor de %1 excede los %2 caracteres"_s
                                                   .arg(QLatin1String(nombre)).arg(ancho));
         const QByteArray utf8 = texto.toUtf8();
         sqlite3_bind_text(sentencia_, n, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);

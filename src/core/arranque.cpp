@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The first line as it stands: no trimming, no comments, no key.
@@ -27,13 +29,13 @@ bool leer_ruta(const QString& archivo, QString& ruta)
 
 QString componer_cadena(const QString& ruta)
 {
-    return QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password=") + clave_almacen()
-        + QStringLiteral(";Data Source=") + ruta + QStringLiteral(";Persist Security Info=false");
+    return u"Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password="_s + clave_almacen()
+        + u";Data Source="_s + ruta + u";Persist Security Info=false"_s;
 }
 
 void mostrar_error(Dialogo& dialogo, const QString& prefijo, const ErrorAlmacen& e)
 {
-    dialogo.avisar({prefijo + QString::number(e.numero) + QStringLiteral(": ") + e.descripcion, {}, Icono::ninguno});
+    dialogo.avisar({prefijo + QString::number(e.numero) + u": "_s + e.descripcion, {}, Icono::ninguno});
 }
 
 }  // namespace
@@ -46,24 +48,23 @@ QString ruta_abierta()
 bool abrir_base(Dialogo& dialogo)
 {
     try {
-        if (!leer_ruta(carpeta_programa() + QStringLiteral("/vedra_rtn.cfg"), RutaBaseDatos) || RutaBaseDatos.isEmpty())
-            throw ErrorAlmacen(0, QStringLiteral("vedra_rtn.cfg"));
+        if (!leer_ruta(carpeta_programa() + u"/vedra_rtn.cfg"_s, RutaBaseDatos) || RutaBaseDatos.isEmpty())
+            throw ErrorAlmacen(0, u"vedra_rtn.cfg"_s);
         CadenaConexion = componer_cadena(RutaBaseDatos);
         if (!cnRtn.abierta())
             cnRtn.abrir(ruta_abierta(), clave_almacen());
         return true;
     } catch (const ErrorAlmacen&) {
         // The text names another file than the one that is read; it is kept so on purpose.
-        dialogo.avisar({QStringLiteral("Error. No se puede obtener la ruta de acceso a la base de datos "
-                                       "(ventanilla.cfg). Comuniquese con el administrador del sistema"),
-                        QStringLiteral("Error de acceso al sistema"), Icono::informacion});
+        dialogo.avisar({u"Error. No se puede obtener la ruta de acceso a la base de datos " u"(ventanilla.cfg). Comuniquese con el administrador del sistema"_s,
+                        u"Error de acceso al sistema"_s, Icono::informacion});
         return false;
     }
 }
 
 void cargar_parametros(Dialogo& dialogo)
 {
-    BancoNombre = QStringLiteral("DEL MARVEN S.A.");
+    BancoNombre = u"DEL MARVEN S.A."_s;
     BancoId = 83;
     BancoCuenta = 90000440;
     BancoConvenio = 31057;
@@ -71,7 +72,7 @@ void cargar_parametros(Dialogo& dialogo)
 
     const auto a_largo = [](double v) { return qint32(redondear(v, 0)); };
     try {
-        for (Recordset rs(cnRtn, QStringLiteral("select * from SEL_TB_PARAMETROS")); !rs.eof(); rs.siguiente()) {
+        for (Recordset rs(cnRtn, u"select * from SEL_TB_PARAMETROS"_s); !rs.eof(); rs.siguiente()) {
             const QString nombre = rs.texto("SPRM_NOMBRE");
             const auto valor = [&rs] { return numero_de_texto_sql(rs.texto("SPRM_VALOR")); };
             if (nombre == u"PRSE_ALICUOTA_IVA")
@@ -84,15 +85,14 @@ void cargar_parametros(Dialogo& dialogo)
                 TipoRedondeo = a_largo(valor());
         }
     } catch (const ErrorAlmacen& e) {
-        mostrar_error(dialogo, QStringLiteral("Error "), e);
+        mostrar_error(dialogo, u"Error "_s, e);
     }
 }
 
 void cargar_ley_vigente(Dialogo& dialogo)
 {
     try {
-        const Recordset rs(cnRtn, QStringLiteral("select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES "
-                                                 "where GLEY_VIGENCIA_HASTA is null"));
+        const Recordset rs(cnRtn, u"select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES " u"where GLEY_VIGENCIA_HASTA is null"_s);
         // Without a law in force nothing is told: the silence is deliberate.
         if (rs.eof())
             return;

@@ -1,5 +1,7 @@
 #include "core/clsLocaleInfo.h"
 
+using namespace Qt::StringLiterals;
+
 clsLocaleInfo::clsLocaleInfo(const QLocale& local)
     : local_(local), miles_(local.groupSeparator()), decimal_(local.decimalPoint())
 {
@@ -11,6 +13,6 @@ QString clsLocaleInfo::orden(const QString& patron)
     const auto m = patron.indexOf(u'M');
     const auto y = patron.indexOf(u'y');
     if (y < m && y < d)
-        return QStringLiteral("YMD");
-    return m < d ? QStringLiteral("MDY") : QStringLiteral("DMY");
+        return u"YMD"_s;
+    return m < d ? u"MDY"_s : u"DMY"_s;
 }

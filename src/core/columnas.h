@@ -97,14 +97,15 @@ std::optional<T> leer_fila(Conexion& cn, const QString& sql, std::span<const Col
 template <class T>
 QString sentencia_alta(const char* tabla, std::span<const Columna<T>> columnas)
 {
+    using namespace Qt::StringLiterals;
     QString nombres;
     QString marcas;
     for (const Columna<T>& c : columnas) {
-        nombres += (nombres.isEmpty() ? QString() : QStringLiteral(", ")) + QLatin1String(c.nombre);
-        marcas += marcas.isEmpty() ? QStringLiteral("?") : QStringLiteral(",?");
+        nombres += (nombres.isEmpty() ? QString() : u", "_s) + QLatin1String(c.nombre);
+        marcas += marcas.isEmpty() ? u"?"_s : u",?"_s;
     }
-    return QStringLiteral("insert into ") + QLatin1String(tabla) + QStringLiteral(" (") + nombres + QStringLiteral(") values (")
-        + marcas + QStringLiteral(")");
+    return u"insert into "_s + QLatin1String(tabla) + u" ("_s + nombres + u") values ("_s
+        + marcas + u")"_s;
 }
 
 /// Inserts one row by positional parameters; gives the rows affected. Throws ErrorAlmacen.

@@ -2,6 +2,8 @@
 
 #include "core/modGlobales.h"
 
+using namespace Qt::StringLiterals;
+
 Entradas leer_entradas(const QString& sql, const char* texto, const char* dato)
 {
     Entradas lista;
@@ -12,37 +14,34 @@ Entradas leer_entradas(const QString& sql, const char* texto, const char* dato)
 
 Entradas con_sin_filtro(const Entradas& leidas)
 {
-    Entradas lista{{QStringLiteral("(sin filtro)"), 0}};
+    Entradas lista{{u"(sin filtro)"_s, 0}};
     lista.insert(lista.end(), leidas.begin(), leidas.end());
     return lista;
 }
 
 Entradas provincias()
 {
-    return leer_entradas(QStringLiteral("select GPRO_ID, GPRO_DESCRIPCION, GPRO_JURISDICCION, GPRO_LETRA_PAT ")
-                             + QStringLiteral(" from GLB_TB_PROVINCIAS ") + QStringLiteral(" order by GPRO_DESCRIPCION collate ESPANOL"),
+    return leer_entradas(u"select GPRO_ID, GPRO_DESCRIPCION, GPRO_JURISDICCION, GPRO_LETRA_PAT  from GLB_TB_PROVINCIAS " u" order by GPRO_DESCRIPCION collate ESPANOL"_s,
                          "GPRO_DESCRIPCION", "GPRO_ID");
 }
 
 Entradas localidades(int provincia)
 {
-    return leer_entradas(QStringLiteral("select GLOC_ID, GLOC_DESCRIPCION, GPRO_ID from GLB_TB_LOCALIDADES") + QStringLiteral(" where GPRO_ID=")
-                             + QString::number(provincia) + QStringLiteral(" order by GLOC_DESCRIPCION collate ESPANOL"),
+    return leer_entradas(u"select GLOC_ID, GLOC_DESCRIPCION, GPRO_ID from GLB_TB_LOCALIDADES where GPRO_ID="_s
+                             + QString::number(provincia) + u" order by GLOC_DESCRIPCION collate ESPANOL"_s,
                          "GLOC_DESCRIPCION", "GLOC_ID");
 }
 
 Entradas localidades_propias()
 {
-    return leer_entradas(QStringLiteral("select L.GLOC_ID, L.GLOC_DESCRIPCION ") + QStringLiteral(" from GLB_TB_LOCALIDADES as L, GLB_TB_PROVINCIAS as P")
-                             + QStringLiteral(" where L.GPRO_ID=P.GPRO_ID") + QStringLiteral(" and P.GPRO_DESCRIPCION='MARVEN'")
-                             + QStringLiteral(" order by L.GLOC_DESCRIPCION collate ESPANOL "),
+    return leer_entradas(u"select L.GLOC_ID, L.GLOC_DESCRIPCION  from GLB_TB_LOCALIDADES as L, GLB_TB_PROVINCIAS as P" u" where L.GPRO_ID=P.GPRO_ID and P.GPRO_DESCRIPCION='MARVEN'" u" order by L.GLOC_DESCRIPCION collate ESPANOL "_s,
                          "GLOC_DESCRIPCION", "GLOC_ID");
 }
 
 Entradas conceptos_sellos()
 {
     Entradas lista;
-    for (Recordset rs(cnRtn, QStringLiteral("select SCON_ID, SCON_DESCRIPCION from SEL_TB_CONCEPTOS")); !rs.eof(); rs.siguiente())
-        lista.push_back({rs.texto("SCON_ID") + QStringLiteral(" - ") + rs.texto("SCON_DESCRIPCION"), rs.valor("SCON_ID")});
+    for (Recordset rs(cnRtn, u"select SCON_ID, SCON_DESCRIPCION from SEL_TB_CONCEPTOS"_s); !rs.eof(); rs.siguiente())
+        lista.push_back({rs.texto("SCON_ID") + u" - "_s + rs.texto("SCON_DESCRIPCION"), rs.valor("SCON_ID")});
     return lista;
 }

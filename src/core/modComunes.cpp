@@ -5,11 +5,12 @@
 #include <array>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 void obtener_valor_modulo(int ley)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select GVMO_VALOR_MODULO from GLB_TB_VALORES_MODULO ")
-                                  + QStringLiteral(" where GVMO_LEY_NRO=") + QString::number(ley)
-                                  + QStringLiteral(" and GVMO_CONCEPTO='SELLOS'"));
+    const Recordset rs(cnRtn, u"select GVMO_VALOR_MODULO from GLB_TB_VALORES_MODULO  where GVMO_LEY_NRO="_s + QString::number(ley)
+                                  + u" and GVMO_CONCEPTO='SELLOS'"_s);
     if (!rs.eof())
         ValorModulo = rs.real("GVMO_VALOR_MODULO");
 }

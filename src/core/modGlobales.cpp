@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 Conexion cnRtn;
 Conexion cnTmp;
 
@@ -36,5 +38,5 @@ void fijar_carpeta_programa(const QString& carpeta)
 
 QString clave_almacen()
 {
-    return QStringLiteral("Xk7pQ2mR");
+    return u"Xk7pQ2mR"_s;
 }

@@ -5,6 +5,8 @@
 #include <array>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array CENTENAS{"", "ciento ", "doscientos ", "trescientos ", "cuatrocientos ", "quinientos ",
@@ -72,8 +74,8 @@ QString nro_a_letras(double importe, int modo, bool entre_parentesis)
         palabras += en_palabras(grupos[size_t(i)]) + nombre_grupo(i, grupos[size_t(i)], grupos[size_t(i) + 1]);
 
     const QString texto = QString::fromLatin1(palabras)
-        + (entre_parentesis ? QStringLiteral("( ") + centavos + QStringLiteral("/100)")
-                            : QStringLiteral(" con ") + centavos + QStringLiteral("/100"));
+        + (entre_parentesis ? u"( "_s + centavos + u"/100)"_s
+                            : u" con "_s + centavos + u"/100"_s);
     switch (modo) {
     case 1: return texto.toUpper();
     case 2: return texto.toLower();

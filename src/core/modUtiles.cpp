@@ -2,6 +2,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString reducir_apostrofos(const QString& texto, QLatin1StringView reemplazo)
@@ -68,6 +70,11 @@ bool cuit_valido(QString& texto)
     return cuit.back().digitValue() == digito;
 }
 
+QString fecha_corta(const QDate& fecha)
+{
+    return fecha.toString(u"dd/MM/yyyy"_s);
+}
+
 QString fecha_sql(const QDate& fecha)
 {
     return u'\'' + fecha.toString(Qt::ISODate) + u'\'';
@@ -75,7 +82,7 @@ QString fecha_sql(const QDate& fecha)
 
 QString logico_sql(bool si)
 {
-    return si ? QStringLiteral("1") : QStringLiteral("0");
+    return si ? u"1"_s : u"0"_s;
 }
 
 QString entre_comillas(const QString& texto)
@@ -85,5 +92,5 @@ QString entre_comillas(const QString& texto)
 
 QString texto_o_null(const QString& texto)
 {
-    return texto.isEmpty() ? QStringLiteral("null") : entre_comillas(texto);
+    return texto.isEmpty() ? u"null"_s : entre_comillas(texto);
 }

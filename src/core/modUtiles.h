@@ -19,6 +19,8 @@ QString compactar_espacios(QString& texto);
 /// Only the digits of the text.
 [[nodiscard]] QString solo_digitos(const QString& texto);
 
+/// dd/mm/aaaa, empty without a date.
+[[nodiscard]] QString fecha_corta(const QDate& fecha);
 /// 'YYYY-MM-DD' between apostrophes.
 [[nodiscard]] QString fecha_sql(const QDate& fecha);
 /// 1 or 0, as the store holds booleans.

@@ -1,8 +1,9 @@
-// Decimal rounding, and the number field without its widget: the text that the user sees is
-// the only truth about the number.
+// The number field without its widget: the text that the user sees is the only truth about the
+// number.
 #pragma once
 
 #include "core/clsLocaleInfo.h"
+#include "core/redondeo.h"
 
 #include <QString>
 
@@ -17,17 +18,6 @@ public:
     ErrorConversion() : std::runtime_error("No coinciden los tipos") {}
 };
 
-/// The number's text of 15 significant digits, rounded half away from zero to `decimales`, with
-/// "." as separator and no grouping. What rounds to zero has no sign.
-[[nodiscard]] QString formato_decimal(double valor, int decimales);
-/// The same rounding, as a number.
-[[nodiscard]] double redondear(double valor, int decimales);
-/// The number as "0.00" is filled, in the separators of the user's locale.
-[[nodiscard]] QString formato_importe(double valor);
-/// A whole number with leading zeros up to `ancho`.
-[[nodiscard]] QString con_ceros(qint64 valor, int ancho);
-/// Up to 15 significant digits with ".", as a statement takes a number.
-[[nodiscard]] QString numero_sql(double valor);
 /// The number that a stored text with "." stands for; throws ErrorConversion.
 [[nodiscard]] double numero_de_texto_sql(const QString& texto);
 /// The number that a shown text stands for under the user's locale; throws ErrorConversion.
@@ -82,8 +72,12 @@ public:
 private:
     void poner(const QString& texto);
     [[nodiscard]] QString desnudo() const;
+    [[nodiscard]] QString mascara(double valor) const;
 
     clsLocaleInfo local_;
     QString texto_;
     mutable std::optional<double> leido_;  ///< what the text was read as, until it changes
 };
+
+/// The field as a statement takes it, 0 when it is empty.
+[[nodiscard]] QString sql_o_cero(const Numero& n);

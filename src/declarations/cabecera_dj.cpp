@@ -4,6 +4,8 @@
 #include "core/modUtiles.h"
 #include "core/numero.h"
 
+using namespace Qt::StringLiterals;
+
 bool posicion_admitida(int anio, int mes)
 {
     return anio > 2006 || (anio == 2006 && mes >= 6);
@@ -47,21 +49,20 @@ QString componer_resolucion(double numero, double anio)
 
 void actualizar_cabecera(const CabeceraDJ& dj)
 {
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_CABDJ set ") + QStringLiteral(" SEDJ_ANIO=") + QString::number(dj.anio)
-                   + QStringLiteral(", SEDJ_MES=") + QString::number(dj.mes) + QStringLiteral(", SEDJ_SECUENCIA=") + QString::number(dj.secuencia)
-                   + QStringLiteral(", SEDJ_ESTADO=") + QString::number(dj.estado) + QStringLiteral(", SEDJ_OBSERVACIONES=")
-                   + texto_o_null(toSQL(dj.observaciones)) + QStringLiteral(", SEDJ_TOTAL_RETENIDO=") + numero_sql(dj.totalRetenido)
-                   + QStringLiteral(", SEDJ_FVENCIMIENTO=") + fecha_sql(dj.vencimiento) + QStringLiteral(", SRTN_NRO=")
-                   + QString::number(dj.agente) + QStringLiteral(", SEDJ_ACRED_MONTO=") + numero_sql(dj.acredMonto)
-                   + QStringLiteral(", SEDJ_ACRED_RESOLUCION='") + dj.acredResolucion + QStringLiteral("'") + QStringLiteral(" where SEDJ_NRO='")
-                   + dj.nro + QStringLiteral("'"));
+    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set  SEDJ_ANIO="_s + QString::number(dj.anio)
+                   + u", SEDJ_MES="_s + QString::number(dj.mes) + u", SEDJ_SECUENCIA="_s + QString::number(dj.secuencia)
+                   + u", SEDJ_ESTADO="_s + QString::number(dj.estado) + u", SEDJ_OBSERVACIONES="_s
+                   + texto_o_null(toSQL(dj.observaciones)) + u", SEDJ_TOTAL_RETENIDO="_s + numero_sql(dj.totalRetenido)
+                   + u", SEDJ_FVENCIMIENTO="_s + fecha_sql(dj.vencimiento) + u", SRTN_NRO="_s
+                   + QString::number(dj.agente) + u", SEDJ_ACRED_MONTO="_s + numero_sql(dj.acredMonto)
+                   + u", SEDJ_ACRED_RESOLUCION='"_s + dj.acredResolucion + u"' where SEDJ_NRO='"_s
+                   + dj.nro + u"'"_s);
 }
 
 std::optional<CabeceraDJ> cargar_dj(const QString& nro, QString& localidad)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select C.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_CABDJ C left join GLB_TB_LOCALIDADES L")
-                                  + QStringLiteral(" on (C.GLOC_ID=L.GLOC_ID )") + QStringLiteral(" where C.SEDJ_NRO='") + nro
-                                  + QStringLiteral("'"));
+    const Recordset rs(cnRtn, u"select C.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_CABDJ C left join GLB_TB_LOCALIDADES L" u" on (C.GLOC_ID=L.GLOC_ID ) where C.SEDJ_NRO='"_s + nro
+                                  + u"'"_s);
     if (rs.eof())
         return {};
     localidad = rs.texto("GLOC_DESCRIPCION");
@@ -70,14 +71,14 @@ std::optional<CabeceraDJ> cargar_dj(const QString& nro, QString& localidad)
 
 double total_retenido(const QString& nro)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_CABDJ ") + QStringLiteral(" where SEDJ_NRO='") + nro
-                                  + QStringLiteral("'"));
+    const Recordset rs(cnRtn, u"select SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_CABDJ  where SEDJ_NRO='"_s + nro
+                                  + u"'"_s);
     return rs.eof() ? 0 : rs.real(0);
 }
 
 int cantidad_renglones(const QString& nro)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select count(*) as CANT_MOV from SEL_TB_RTN_DETDJ where SEDJ_NRO='") + nro + QStringLiteral("'"));
+    const Recordset rs(cnRtn, u"select count(*) as CANT_MOV from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro + u"'"_s);
     return int(rs.entero(0));
 }
 
@@ -86,6 +87,6 @@ void borrar_escrituras(const QString& nro)
     Transaccion t(cnRtn);
     for (const char* tabla : {"SEL_TB_RTN_INS_ROLES", "SEL_TB_RTN_INS_VC", "SEL_TB_RTN_INS_OPERACIONES", "SEL_TB_RTN_INS_PARTES",
                               "SEL_TB_RTN_INS_INMUEBLES", "SEL_TB_RTN_DETDJ"})
-        cnRtn.ejecutar(QStringLiteral("delete from ") + QLatin1String(tabla) + QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("'"));
+        cnRtn.ejecutar(u"delete from "_s + QLatin1String(tabla) + u" where SEDJ_NRO='"_s + nro + u"'"_s);
     t.confirmar();
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/dialogo.h"
-#include "declarations/arbol_dj.h"
+#include "tree/arbol_dj.h"
 
 /// The header as the screen holds it, before it is a row.
 struct ControlesCabecera

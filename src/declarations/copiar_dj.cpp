@@ -1,8 +1,10 @@
 #include "declarations/copiar_dj.h"
 
 #include "core/modGlobales.h"
-#include "declarations/modABM_dj.h"
+#include "tree/modABM_dj.h"
 #include "declarations/numero_dj.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -26,7 +28,7 @@ public:
 
 QString todo(const char* tabla, const QString& nro)
 {
-    return QStringLiteral("select * from ") + QLatin1String(tabla) + QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("'");
+    return u"select * from "_s + QLatin1String(tabla) + u" where SEDJ_NRO='"_s + nro + u"'"_s;
 }
 
 template <class T, class Alta>

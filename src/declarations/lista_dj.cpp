@@ -7,25 +7,25 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 QString consulta_dj(const FiltroDJ& filtro)
 {
-    QString sql = QStringLiteral("select SEDJ_NRO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, "
-                                 "SEDJ_OBSERVACIONES ")
-        + QStringLiteral(" from SEL_TB_RTN_CABDJ as C ");
-    QString nexo = QStringLiteral(" where ");
+    QString sql = u"select SEDJ_NRO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, " u"SEDJ_OBSERVACIONES  from SEL_TB_RTN_CABDJ as C "_s;
+    QString nexo = u" where "_s;
     const auto condicion = [&](const char* campo, int valor) {
         if (valor == 0)
             return;
         sql += nexo + QLatin1StringView(campo) + QString::number(valor);
-        nexo = QStringLiteral(" and ");
+        nexo = u" and "_s;
     };
     condicion(" SRTN_NRO=", filtro.agente);
     condicion(" SEDJ_ANIO=", filtro.anio);
     condicion(" SEDJ_MES=", filtro.mes);
-    return sql + QStringLiteral(" order by SRTN_NRO, SEDJ_ANIO desc, SEDJ_MES desc, SEDJ_SECUENCIA desc");
+    return sql + u" order by SRTN_NRO, SEDJ_ANIO desc, SEDJ_MES desc, SEDJ_SECUENCIA desc"_s;
 }
 
-void leer_lista_dj(const FiltroDJ& filtro, const std::function<void(std::span<const std::string_view>)>& fila)
+void leer_lista_dj(const FiltroDJ& filtro, const AgregarFilaUtf8& fila)
 {
     std::array<std::string_view, 8> celdas;
     for (Recordset rs(cnRtn, consulta_dj(filtro)); !rs.eof(); rs.siguiente()) {
@@ -57,12 +57,12 @@ void borrar_dj(const QString& nro, Dialogo& dialogo)
 {
     try {
         Transaccion t(cnRtn);
-        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='") + nro + QStringLiteral("'"));
-        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='") + nro + QStringLiteral("'"));
-        vaciar_carpeta(carpeta_programa() + QStringLiteral("/data/") + nro + QStringLiteral("/testimonios"));
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='"_s + nro + u"'"_s);
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='"_s + nro + u"'"_s);
+        vaciar_carpeta(carpeta_programa() + u"/data/"_s + nro + u"/testimonios"_s);
         t.confirmar();
     } catch (const ErrorAlmacen& e) {
-        dialogo.avisar({e.descripcion + QStringLiteral("No se pudo borrar la DJ seleccionada"), QStringLiteral("Borrar DJ"), Icono::exclamacion});
+        dialogo.avisar({e.descripcion + u"No se pudo borrar la DJ seleccionada"_s, u"Borrar DJ"_s, Icono::exclamacion});
     }
 }
 
@@ -71,16 +71,15 @@ QString dj_a_rectificar(const QString& nro, Dialogo& dialogo)
     const NumeroDJ elegida(nro);
     // A number of another length builds no condition, and the query fails.
     const QString condicion = elegida.largoPrefijo() == 0
-        ? QStringLiteral(" where ")
-        : QStringLiteral(" where mid(SEDJ_NRO,1,") + QString::number(elegida.largoPrefijo()) + QStringLiteral(")='") + elegida.prefijo()
-            + QStringLiteral("'");
-    const Recordset rs(cnRtn, QStringLiteral(" select max(SEDJ_NRO) as MAX_SEDJ_NRO ") + QStringLiteral(" from SEL_TB_RTN_CABDJ ") + condicion);
+        ? u" where "_s
+        : u" where mid(SEDJ_NRO,1,"_s + QString::number(elegida.largoPrefijo()) + u")='"_s + elegida.prefijo()
+            + u"'"_s;
+    const Recordset rs(cnRtn, u" select max(SEDJ_NRO) as MAX_SEDJ_NRO  from SEL_TB_RTN_CABDJ "_s + condicion);
     const QString maximo = rs.texto(0);
     if (maximo <= nro)
         return maximo;
-    const QString pregunta = QStringLiteral("La DJ ")
-        + (elegida.secuencia().toInt() == 0 ? QStringLiteral(" Original") : QStringLiteral(" Rectificativa ") + elegida.secuencia())
-        + QStringLiteral(" para la posicion ") + elegida.mes() + u'/' + elegida.anio() + QStringLiteral(" ya fue rectificada\n")
-        + QStringLiteral("Desea emitir una nueva rectificativa de la DJ Rectificativa ") + NumeroDJ(maximo).secuencia() + QStringLiteral(" ?");
-    return dialogo.preguntar({pregunta, QStringLiteral("Nueva DJ"), Icono::informacion}) ? maximo : QString();
+    const QString pregunta = u"La DJ "_s
+        + (elegida.secuencia().toInt() == 0 ? u" Original"_s : u" Rectificativa "_s + elegida.secuencia())
+        + u" para la posicion "_s + elegida.mes() + u'/' + elegida.anio() + u" ya fue rectificada\nDesea emitir una nueva rectificativa de la DJ Rectificativa "_s + NumeroDJ(maximo).secuencia() + u" ?"_s;
+    return dialogo.preguntar({pregunta, u"Nueva DJ"_s, Icono::informacion}) ? maximo : QString();
 }

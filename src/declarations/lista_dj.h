@@ -2,12 +2,10 @@
 #pragma once
 
 #include "core/dialogo.h"
+#include "core/filas.h"
 
 #include <QString>
 
-#include <functional>
-#include <span>
-#include <string_view>
 
 struct FiltroDJ
 {
@@ -20,7 +18,7 @@ struct FiltroDJ
 [[nodiscard]] QString consulta_dj(const FiltroDJ& filtro);
 /// Reads the list, one call a row with the cells of the grid, in UTF-8, good for that call alone.
 /// Throws ErrorAlmacen.
-void leer_lista_dj(const FiltroDJ& filtro, const std::function<void(std::span<const std::string_view>)>& fila);
+void leer_lista_dj(const FiltroDJ& filtro, const AgregarFilaUtf8& fila);
 
 /// Deletes a DJ with what hangs from it, and the files of its folder of testimonios. An error is
 /// told and leaves the DJ.

@@ -3,6 +3,8 @@
 #include "core/modGlobales.h"
 #include "core/numero.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // What the column of the operation says of a deed.
@@ -27,13 +29,7 @@ std::string_view texto_operacion(const Recordset& rs, bool& incompleto)
 
 QString consulta_renglones(const QString& nro)
 {
-    return QStringLiteral(" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, ")
-        + QStringLiteral(" D.SSUB_DESCRIPCION, D.SEDD_OBSERVACIONES, D.SEDD_TOTAL_IMPUESTO, ")
-        + QStringLiteral(" D.SEDD_ESTADO, D.SEDD_ALCANZADO, D.SEDD_FNAME_TESTIMONIO, D.REQUIERE_TESTIMONIO ")
-        + QStringLiteral(" from SEL_VW_DJ_DETALLE D left join ") + QStringLiteral("         (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO ")
-        + QStringLiteral("          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O ")
-        + QStringLiteral("          on S.SSUB_ID=O.SSUB_ID) as A ") + QStringLiteral(" on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID ")
-        + QStringLiteral(" where D.SEDJ_NRO='") + nro + QStringLiteral("'") + QStringLiteral(" order by D.SEDD_ESCRITURA_NRO");
+    return u" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, " u" D.SSUB_DESCRIPCION, D.SEDD_OBSERVACIONES, D.SEDD_TOTAL_IMPUESTO, " u" D.SEDD_ESTADO, D.SEDD_ALCANZADO, D.SEDD_FNAME_TESTIMONIO, D.REQUIERE_TESTIMONIO " u" from SEL_VW_DJ_DETALLE D left join          (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO " u"          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O " u"          on S.SSUB_ID=O.SSUB_ID) as A  on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID " u" where D.SEDJ_NRO='"_s + nro + u"' order by D.SEDD_ESCRITURA_NRO"_s;
 }
 
 void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila)
@@ -41,7 +37,7 @@ void leer_renglones(const QString& nro, const std::function<void(const FilaRengl
     for (Recordset rs(cnRtn, consulta_renglones(nro)); !rs.eof(); rs.siguiente()) {
         FilaRenglon f;
         const std::string_view operacion = texto_operacion(rs, f.incompleto);
-        const QByteArray impuesto = rs.utf8(7) == "P" ? formato_importe(rs.real(6)).toUtf8() : QByteArrayLiteral("0.00");
+        const QByteArray impuesto = rs.utf8(7) == "P" ? importe_llano(rs.real(6)).toUtf8() : QByteArrayLiteral("0.00");
         f.celdas = {rs.utf8(0), rs.utf8(1), rs.utf8(2), rs.utf8(3), operacion, rs.utf8(5), {impuesto.constData(), size_t(impuesto.size())}};
         fila(f);
     }
@@ -49,19 +45,19 @@ void leer_renglones(const QString& nro, const std::function<void(const FilaRengl
 
 bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
 {
-    const QString donde = QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("' and SEDD_ID=") + QString::number(id);
+    const QString donde = u" where SEDJ_NRO='"_s + nro + u"' and SEDD_ID="_s + QString::number(id);
     try {
         Transaccion t(cnRtn);
-        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_INS_ROLES") + donde);
-        cnRtn.ejecutar(QStringLiteral("delete from SEL_TB_RTN_DETDJ") + donde);
-        Comando resta(cnRtn, QStringLiteral("update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-? where SEDJ_NRO=?"));
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES"_s + donde);
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_DETDJ"_s + donde);
+        Comando resta(cnRtn, u"update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-? where SEDJ_NRO=?"_s);
         resta.parametro("p_monto", monto);
         resta.parametro("p_dj_nro", nro, 17);
         resta.ejecutar();
         t.confirmar();
         return true;
     } catch (const ErrorAlmacen&) {
-        dialogo.avisar({QStringLiteral("No se pudo borrar el renglón seleccionado"), QStringLiteral("Borrar renglón"), Icono::informacion});
+        dialogo.avisar({u"No se pudo borrar el renglón seleccionado"_s, u"Borrar renglón"_s, Icono::informacion});
         return false;
     }
 }

@@ -7,6 +7,8 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr size_t BLOQUE = 1 << 16;
@@ -60,8 +62,8 @@ public:
 private:
     [[noreturn]] void fallar() const
     {
-        throw std::runtime_error((QStringLiteral("No se pudo escribir el archivo ") + QDir::toNativeSeparators(archivo_.fileName())
-                                  + QStringLiteral(": ") + archivo_.errorString())
+        throw std::runtime_error((u"No se pudo escribir el archivo "_s + QDir::toNativeSeparators(archivo_.fileName())
+                                  + u": "_s + archivo_.errorString())
                                      .toStdString());
     }
 
@@ -98,8 +100,8 @@ void escribir_registros(const QString& nro, Salida& salida)
 
 QString numero_escritura(const QString& nro, int renglon)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ where SEDJ_NRO='") + nro
-                                  + QStringLiteral("' and SEDD_ID=") + QString::number(renglon));
+    const Recordset rs(cnRtn, u"select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro
+                                  + u"' and SEDD_ID="_s + QString::number(renglon));
     return rs.eof() ? QString() : rs.texto(0);
 }
 
@@ -107,13 +109,13 @@ QString numero_escritura(const QString& nro, int renglon)
 
 QString carpeta_dj(const QString& nro)
 {
-    return carpeta_programa() + QStringLiteral("/data/") + nro;
+    return carpeta_programa() + u"/data/"_s + nro;
 }
 
 EmisionArchivo generar_archivo_dj(const QString& nro)
 {
     EmisionArchivo emision;
-    emision.archivo = carpeta_dj(nro) + QStringLiteral("/SRTN") + nro + QStringLiteral(".txt");
+    emision.archivo = carpeta_dj(nro) + u"/SRTN"_s + nro + u".txt"_s;
     Salida salida(emision.archivo);
     if (!QDir().mkpath(carpeta_dj(nro)) || !salida.crear())
         return emision;
@@ -124,11 +126,10 @@ EmisionArchivo generar_archivo_dj(const QString& nro)
     } catch (const ErrorRegistro& e) {
         salida.descartarRegistro();
         salida.volcar();
-        const QString escritura = e.renglon == 0 ? QString() : QStringLiteral(", escritura Nº ") + numero_escritura(nro, e.renglon);
+        const QString escritura = e.renglon == 0 ? QString() : u", escritura Nº "_s + numero_escritura(nro, e.renglon);
         throw std::runtime_error((e.registro + escritura + e.detalle).toStdString());
     }
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_CABDJ ") + QStringLiteral(" set SEDJ_MD5='") + codigo + QStringLiteral("' ")
-                   + QStringLiteral(" where SEDJ_NRO='") + nro + QStringLiteral("'"));
+    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ  set SEDJ_MD5='"_s + codigo + u"'  where SEDJ_NRO='"_s + nro + u"'"_s);
     emision.codigo = codigo;
     return emision;
 }

@@ -11,6 +11,8 @@
 #include <QFileInfo>
 #include <QProcess>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int SIN_LIMITE = -1;
@@ -27,13 +29,13 @@ void borrar(const QString& archivo)
     QFile f(archivo);
     f.setPermissions(f.permissions() | QFile::WriteOwner);
     if (!f.remove())
-        fallar(QStringLiteral("No se pudo borrar "), archivo);
+        fallar(u"No se pudo borrar "_s, archivo);
 }
 
 // Replaces what stands there; false when the source can't be copied.
 bool copiar(const QString& de, const QString& a)
 {
-    const QString aparte = a + QStringLiteral(".nuevo");
+    const QString aparte = a + u".nuevo"_s;
     QFile::remove(aparte);
     if (!QFile::copy(de, aparte))
         return false;
@@ -48,7 +50,7 @@ class Empaquetado
 {
 public:
     Empaquetado(const QString& nro, Dialogo& dialogo)
-        : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)), testimonios_(carpeta_ + QStringLiteral("/testimonios"))
+        : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)), testimonios_(carpeta_ + u"/testimonios"_s)
     {
     }
 
@@ -59,10 +61,10 @@ public:
         // The batch file stands from here on, empty until all its lines are known.
         escribirLote({});
         // The quote in front of the command's name makes the line one name that fails; it does no harm.
-        texto_ = palabra_shell(QStringLiteral("rm ") + archivo()) + u'\n';
-        empaquetar(carpeta_ + QStringLiteral("/SRTN") + nro_ + QStringLiteral(".txt"));
+        texto_ = palabra_shell(u"rm "_s + archivo()) + u'\n';
+        empaquetar(carpeta_ + u"/SRTN"_s + nro_ + u".txt"_s);
         if (!QDir().mkpath(testimonios_))
-            fallar(QStringLiteral("No se pudo crear "), testimonios_);
+            fallar(u"No se pudo crear "_s, testimonios_);
         for (const QString& viejo : QDir(testimonios_).entryList(QDir::Files | QDir::Hidden))
             borrar(testimonios_ + u'/' + viejo);
         if (!copiarTestimonios())
@@ -71,40 +73,40 @@ public:
         QProcess lotes;
         lotes.setStandardErrorFile(QProcess::nullDevice());
         lotes.setStandardOutputFile(QProcess::nullDevice());
-        lotes.start(QStringLiteral("/bin/sh"), {lote()});
-        if (QFileInfo::exists(archivo()) && !copiar(archivo(), carpeta_ + QStringLiteral("/dj.rar")))
-            fallar(QStringLiteral("No se pudo copiar "), archivo());
+        lotes.start(u"/bin/sh"_s, {lote()});
+        if (QFileInfo::exists(archivo()) && !copiar(archivo(), carpeta_ + u"/dj.rar"_s))
+            fallar(u"No se pudo copiar "_s, archivo());
         return guardar(pedir, lotes);
     }
 
 private:
-    [[nodiscard]] QString lote() const { return base_ + QStringLiteral("/comprimir.bat"); }
-    [[nodiscard]] QString archivo() const { return base_ + QStringLiteral("/dj.rar"); }
-    [[nodiscard]] QString titulo() const { return QStringLiteral("Emitir DJ ") + nro_; }
+    [[nodiscard]] QString lote() const { return base_ + u"/comprimir.bat"_s; }
+    [[nodiscard]] QString archivo() const { return base_ + u"/dj.rar"_s; }
+    [[nodiscard]] QString titulo() const { return u"Emitir DJ "_s + nro_; }
 
     void empaquetar(const QString& fichero)
     {
         ficheros_ << QFileInfo(fichero).fileName();
-        texto_ += palabra_shell(base_ + QStringLiteral("/rar")) + QStringLiteral(" a -y ") + palabra_shell(archivo()) + u' ' + palabra_shell(fichero) + u'\n';
+        texto_ += palabra_shell(base_ + u"/rar"_s) + u" a -y "_s + palabra_shell(archivo()) + u' ' + palabra_shell(fichero) + u'\n';
     }
 
     bool copiarTestimonios()
     {
-        for (Recordset rs(cnRtn, QStringLiteral("select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDJ_NRO='") + nro_
-                                     + QStringLiteral("'"));
+        for (Recordset rs(cnRtn, u"select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro_
+                                     + u"'"_s);
              !rs.eof(); rs.siguiente()) {
             const QString origen = fromSQL(rs.texto(2));
             if (origen.isEmpty())
                 continue;
             if (!QFileInfo(origen).isFile()) {
-                dialogo_.avisar({QStringLiteral("Error en la escritura Nº ") + rs.texto(1) + QStringLiteral(",  no existe el archivo del testimonio \n") + origen
-                                     + QStringLiteral("\n\nComplete la declaracion jurada e intente mas tarde."),
+                dialogo_.avisar({u"Error en la escritura Nº "_s + rs.texto(1) + u",  no existe el archivo del testimonio \n"_s + origen
+                                     + u"\n\nComplete la declaracion jurada e intente mas tarde."_s,
                                  titulo(), Icono::informacion});
                 return false;
             }
             const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.' + QFileInfo(origen).suffix().toLower();
             if (!copiar(origen, copia))
-                fallar(QStringLiteral("No se pudo copiar "), origen);
+                fallar(u"No se pudo copiar "_s, origen);
             empaquetar(copia);
         }
         return true;
@@ -115,18 +117,18 @@ private:
         QFile f(lote());
         const QByteArray bytes = QFile::encodeName(texto);
         if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.flush())
-            fallar(QStringLiteral("No se pudo escribir "), lote());
+            fallar(u"No se pudo escribir "_s, lote());
     }
 
     // The packer works while the user chooses; the copy waits for its end.
     bool guardar(const PedirDestino& pedir, QProcess& lotes) const
     {
-        const QString nombre = QStringLiteral("SRTN") + nro_ + QStringLiteral(".rar");
+        const QString nombre = u"SRTN"_s + nro_ + u".rar"_s;
         const QString elegido = pedir(QDir::home().filePath(nombre));
         lotes.waitForFinished(SIN_LIMITE);
         if (!elegido.isEmpty() && entero(lotes) && copiar(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre))
             return true;
-        dialogo_.avisar({QStringLiteral("Error: Se canceló la emisión de la declaracion jurada"), titulo(), Icono::informacion});
+        dialogo_.avisar({u"Error: Se canceló la emisión de la declaracion jurada"_s, titulo(), Icono::informacion});
         return false;
     }
 
@@ -159,7 +161,7 @@ private:
 
 QString palabra_shell(const QString& texto)
 {
-    return u'\'' + QString(texto).replace(u'\'', QStringLiteral("'\\''")) + u'\'';
+    return u'\'' + QString(texto).replace(u'\'', u"'\\''"_s) + u'\'';
 }
 
 bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir)

@@ -1,11 +1,12 @@
 #include "filing/escribir_registro.h"
 
-#include "core/numero.h"
+#include "core/redondeo.h"
 
 #include <sqlcipher/sqlite3.h>
 
-#include <cmath>
 #include <cstring>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,21 +31,9 @@ qsizetype largo(std::string_view t)
     return n;
 }
 
-// The text of 15 significant digits only matters near a half; elsewhere the nearest whole number
-// is the same.
-std::string entero_redondeado(double v)
-{
-    constexpr double LEJOS_DE_LA_MITAD = 1e-4;
-    constexpr double EXACTOS = 1e10;
-    const double resto = std::fabs(v) - std::floor(std::fabs(v));
-    if (std::fabs(v) < EXACTOS && std::fabs(resto - 0.5) > LEJOS_DE_LA_MITAD)
-        return std::to_string(std::llround(v));
-    return formato_decimal(v, 0).toStdString();
-}
-
 void escribir_cifras(double v, int ancho, Piezas& salida)
 {
-    const std::string cifras = entero_redondeado(v);
+    const std::string cifras = cifras_enteras(v);
     const bool negativo = cifras.front() == '-';
     if (negativo)
         salida.ascii("-");
@@ -79,17 +68,17 @@ EscritorRegistro::EscritorRegistro(const Registro& registro, sqlite3_stmt* sente
 
 void EscritorRegistro::fallar(const CampoRegistro& c, const QString& motivo) const
 {
-    throw ErrorRegistro(QStringLiteral("Registro %1 (%2)").arg(QLatin1Char(registro_.tipo)).arg(QString::fromUtf8(registro_.titulo)),
+    throw ErrorRegistro(u"Registro %1 (%2)"_s.arg(QLatin1Char(registro_.tipo)).arg(QString::fromUtf8(registro_.titulo)),
                         columnaRenglon_ < 0 ? 0 : sqlite3_column_int(sentencia_, columnaRenglon_),
-                        QStringLiteral("\nCampo: ") + QLatin1StringView(c.nombre) + u'\n' + motivo);
+                        u"\nCampo: "_s + QLatin1StringView(c.nombre) + u'\n' + motivo);
 }
 
 // Blanks up to the width, counted on a length; more text than width is a failure of the emission.
 void EscritorRegistro::rellenar(const CampoRegistro& c, std::string_view texto, qsizetype cuentan, Piezas& salida) const
 {
     if (cuentan > c.ancho)
-        fallar(c, QStringLiteral("Texto: ") + QString::fromUtf8(texto.data(), qsizetype(texto.size())) + QStringLiteral("\nLargo: ")
-                      + QString::number(cuentan) + QStringLiteral(", ancho del campo: ") + QString::number(c.ancho));
+        fallar(c, u"Texto: "_s + QString::fromUtf8(texto.data(), qsizetype(texto.size())) + u"\nLargo: "_s
+                      + QString::number(cuentan) + u", ancho del campo: "_s + QString::number(c.ancho));
     salida.utf8(texto);
     salida.repetir(' ', c.ancho - cuentan);
 }
@@ -111,7 +100,7 @@ void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida
     }
     const bool nulo = !vale(c, columna);
     if (nulo && c.forma.nuloEsFalla)
-        fallar(c, QStringLiteral("El valor falta (es nulo)."));
+        fallar(c, u"El valor falta (es nulo)."_s);
     if (nulo && c.forma.nulo) {
         salida.ascii(c.forma.nulo);
         return;

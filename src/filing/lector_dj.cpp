@@ -10,6 +10,8 @@
 #include <limits>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr size_t FALLAS_MAXIMAS = 1000;
@@ -84,7 +86,7 @@ private:
         const bool hay = salto != std::string_view::npos;
         const std::string_view linea = bytes_.substr(lugar_, (hay ? salto : bytes_.size()) - lugar_);
         if (!hay)
-            falla({linea_, int(linea.size()) + 1, {}, {}, QStringLiteral("falta el fin de línea")});
+            falla({linea_, int(linea.size()) + 1, {}, {}, u"falta el fin de línea"_s});
         lugar_ = hay ? salto + 2 : bytes_.size();
         return linea;
     }
@@ -100,12 +102,12 @@ private:
         const char tipo = r_.bytes.empty() ? '\0' : r_.bytes.front();
         r_.registro = registro_de(tipo);
         if (!r_.registro) {
-            falla({linea_, 1, {}, texto_ansi(r_.bytes.substr(0, 20)), QStringLiteral("el tipo de registro no existe")});
+            falla({linea_, 1, {}, texto_ansi(r_.bytes.substr(0, 20)), u"el tipo de registro no existe"_s});
             return;
         }
         ++l_.registros[tipo];
         if (tipo < anterior_ || (tipo == '1' && l_.registros['1'] > 1) || (tipo != '1' && l_.registros.find('1') == l_.registros.end()))
-            falla({linea_, 1, {}, QString(QLatin1Char(tipo)), QStringLiteral("el registro está fuera de su orden")});
+            falla({linea_, 1, {}, QString(QLatin1Char(tipo)), u"el registro está fuera de su orden"_s});
         anterior_ = std::max(anterior_, tipo);
         if (const int i = partidor_.partir(r_); i >= 0)
             fallaDeCampo(size_t(i));
@@ -156,7 +158,7 @@ private:
         const int col = columna(i);
         const auto desde = std::min(size_t(col) - 1, r_.bytes.size());
         falla({linea_, col, QString::fromLatin1(c.nombre), texto_ansi(r_.bytes.substr(desde, size_t(std::max(c.ancho, 1)))),
-               QStringLiteral("el campo no cabe en el registro (largo %1, previsto %2)").arg(r_.bytes.size()).arg(r_.registro->ancho() + 1)});
+               u"el campo no cabe en el registro (largo %1, previsto %2)"_s.arg(r_.bytes.size()).arg(r_.registro->ancho() + 1)});
     }
 
     void fallaDeValor(const char* campo, const QString& mensaje)
@@ -174,17 +176,17 @@ private:
         const auto previsto = r_.registro->ancho() + 1;
         if (r_.registro->tipo != '8' && (r_.dudoso || int(r_.bytes.size()) != previsto) && l_.avisos.size() < FALLAS_MAXIMAS)
             l_.avisos.push_back({linea_, 1, {}, {},
-                                 r_.dudoso ? QStringLiteral("no se puede saber qué campo falta o sobra (largo %1, previsto %2)").arg(r_.bytes.size()).arg(previsto)
-                                           : QStringLiteral("el registro tiene otro largo (%1, previsto %2)").arg(r_.bytes.size()).arg(previsto)});
+                                 r_.dudoso ? u"no se puede saber qué campo falta o sobra (largo %1, previsto %2)"_s.arg(r_.bytes.size()).arg(previsto)
+                                           : u"el registro tiene otro largo (%1, previsto %2)"_s.arg(r_.bytes.size()).arg(previsto)});
         if (r_.registro->tipo != '8')
             for (const unsigned char c : r_.bytes)
                 if (c < 0x20) {
-                    falla({linea_, 1, {}, {}, QStringLiteral("hay un carácter de control en el registro")});
+                    falla({linea_, 1, {}, {}, u"hay un carácter de control en el registro"_s});
                     break;
                 }
         for (const Dominio& d : DOMINIOS)
             if (const std::string_view v = d.tipo == r_.registro->tipo ? r_.campo(d.campo) : std::string_view(); v.size() == 1 && !std::strchr(d.letras, v.front()))
-                fallaDeValor(d.campo, QStringLiteral("el valor no es de los que admite el campo"));
+                fallaDeValor(d.campo, u"el valor no es de los que admite el campo"_s);
         switch (r_.registro->tipo) {
         case '1': cabecera(); break;
         case '2': escritura(); break;
@@ -204,14 +206,14 @@ private:
         total_ = numero(r_.campo("SEDJ_TOTAL_RETENIDO"));
         l_.totalRetenido = double(total_) / 100;
         if (const qint64 mes = numero(r_.campo("SEDJ_MES")); mes < 1 || mes > 12)
-            fallaDeValor("SEDJ_MES", QStringLiteral("el mes no existe"));
+            fallaDeValor("SEDJ_MES", u"el mes no existe"_s);
     }
 
     void escritura()
     {
         const qint64 id = numero(r_.campo("SEDD_ID"));
         if (!escrituras_.emplace(id, Escritura_{numero(r_.campo("SEDD_TOTAL_IMPUESTO")), 0, false, false, linea_}).second)
-            fallaDeValor("SEDD_ID", QStringLiteral("el renglón está repetido"));
+            fallaDeValor("SEDD_ID", u"el renglón está repetido"_s);
         sumar(suma_, numero(r_.campo("SEDD_TOTAL_IMPUESTO")));
         dudosas_ = dudosas_ || r_.dudoso;
     }
@@ -221,7 +223,7 @@ private:
         const qint64 id = numero(r_.campo("SEDD_ID"));
         const auto it = escrituras_.find(id);
         if (it == escrituras_.end()) {
-            fallaDeValor("SEDD_ID", QStringLiteral("no hay una escritura con ese renglón"));
+            fallaDeValor("SEDD_ID", u"no hay una escritura con ese renglón"_s);
             return;
         }
         const qint64 operacion = numero(r_.campo("SEDO_ID"));
@@ -235,9 +237,9 @@ private:
             it->second.dudosa = it->second.dudosa || r_.dudoso;
         } else if (tipo == '6' || tipo == '7') {
             if (!operaciones_.contains({id, operacion}))
-                fallaDeValor("SEDO_ID", QStringLiteral("no hay una operación con ese número en la escritura"));
+                fallaDeValor("SEDO_ID", u"no hay una operación con ese número en la escritura"_s);
             if (tipo == '6' && !partes_.contains({id, numero(r_.campo("SPIN_ID"))}))
-                fallaDeValor("SPIN_ID", QStringLiteral("no hay una parte con ese número en la escritura"));
+                fallaDeValor("SPIN_ID", u"no hay una parte con ese número en la escritura"_s);
         }
     }
 
@@ -245,14 +247,14 @@ private:
     {
         l_.totalEscrituras = double(suma_) / 100;
         if (l_.registros.find('1') == l_.registros.end())
-            falla({1, 1, {}, {}, QStringLiteral("falta la cabecera")});
+            falla({1, 1, {}, {}, u"falta la cabecera"_s});
         else if (suma_ != total_ && !dudosas_)
-            falla({1, 1, QStringLiteral("SEDJ_TOTAL_RETENIDO"), formato_decimal(double(total_) / 100, 2),
-                   QStringLiteral("las escrituras suman ") + formato_decimal(double(suma_) / 100, 2)});
+            falla({1, 1, u"SEDJ_TOTAL_RETENIDO"_s, formato_decimal(double(total_) / 100, 2),
+                   u"las escrituras suman "_s + formato_decimal(double(suma_) / 100, 2)});
         for (const auto& [id, e] : escrituras_)
             if (e.conOperacion && !e.dudosa && e.operaciones != e.impuesto)
-                falla({e.linea, 1, QStringLiteral("SEDD_TOTAL_IMPUESTO"), formato_decimal(double(e.impuesto) / 100, 2),
-                       QStringLiteral("las operaciones de la escritura suman ") + formato_decimal(double(e.operaciones) / 100, 2)});
+                falla({e.linea, 1, u"SEDD_TOTAL_IMPUESTO"_s, formato_decimal(double(e.impuesto) / 100, 2),
+                       u"las operaciones de la escritura suman "_s + formato_decimal(double(e.operaciones) / 100, 2)});
     }
 
     struct Escritura_

@@ -6,9 +6,11 @@
 #include <QFileInfo>
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString INCOMPLETA = QStringLiteral("La declaración jurada está incompleta.");
+const QString INCOMPLETA = u"La declaración jurada está incompleta."_s;
 
 // A mistyped number may leave hundreds of millions of them missing: no box holds that list.
 constexpr qsizetype MAXIMO_LISTADO = 5000;
@@ -17,8 +19,8 @@ constexpr qsizetype MAXIMO_LISTADO = 5000;
 QString huecos(const QString& nro)
 {
     QStringList faltan;
-    Recordset rs(cnRtn, QStringLiteral(" select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ ") + QStringLiteral(" where SEDJ_NRO='") + nro
-                            + QStringLiteral("' ") + QStringLiteral(" and SEDD_ESTADO<>'E' ") + QStringLiteral(" order by SEDD_ESCRITURA_NRO"));
+    Recordset rs(cnRtn, u" select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s + nro
+                            + u"'  and SEDD_ESTADO<>'E'  order by SEDD_ESCRITURA_NRO"_s);
     if (rs.eof())
         return {};
     for (qint64 anterior = rs.entero(0); !rs.eof(); rs.siguiente()) {
@@ -28,25 +30,22 @@ QString huecos(const QString& nro)
         anterior = actual;
     }
     if (faltan.size() == MAXIMO_LISTADO)
-        faltan << QStringLiteral("...");
-    return faltan.isEmpty() ? QString() : INCOMPLETA + QStringLiteral("\nFaltan declarar las escrituras Nº: ") + faltan.join(QStringLiteral(", "));
+        faltan << u"..."_s;
+    return faltan.isEmpty() ? QString() : INCOMPLETA + u"\nFaltan declarar las escrituras Nº: "_s + faltan.join(u", "_s);
 }
 
 QString sin_operacion(const QString& nro)
 {
-    const Recordset rs(cnRtn, QStringLiteral(" select * from SEL_TB_RTN_DETDJ as D ") + QStringLiteral(" where  SEDJ_NRO='") + nro
-                                  + QStringLiteral("' ") + QStringLiteral(" and SEDD_ALCANZADO='S' and SEDD_ESTADO='P' ")
-                                  + QStringLiteral(" and not exists ( select * from SEL_TB_RTN_INS_OPERACIONES as O ")
-                                  + QStringLiteral(" where D.SEDJ_NRO=O.SEDJ_NRO and D.SEDD_ID=O.SEDD_ID) "));
+    const Recordset rs(cnRtn, u" select * from SEL_TB_RTN_DETDJ as D  where  SEDJ_NRO='"_s + nro
+                                  + u"'  and SEDD_ALCANZADO='S' and SEDD_ESTADO='P' " u" and not exists ( select * from SEL_TB_RTN_INS_OPERACIONES as O " u" where D.SEDJ_NRO=O.SEDJ_NRO and D.SEDD_ID=O.SEDD_ID) "_s);
     return rs.eof() ? QString()
-                    : INCOMPLETA + QStringLiteral("\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación.");
+                    : INCOMPLETA + u"\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación."_s;
 }
 
 QString sin_testimonio(const QString& nro)
 {
-    Recordset rs(cnRtn, QStringLiteral(" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO, REQUIERE_TESTIMONIO")
-                            + QStringLiteral(" from SEL_VW_DJ_DETALLE ") + QStringLiteral("  where SEDJ_NRO='") + nro
-                            + QStringLiteral("'  and  SEDD_ESTADO='P' ") + QStringLiteral("  order by SEDD_ESCRITURA_NRO "));
+    Recordset rs(cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO, REQUIERE_TESTIMONIO" u" from SEL_VW_DJ_DETALLE   where SEDJ_NRO='"_s + nro
+                            + u"'  and  SEDD_ESTADO='P'   order by SEDD_ESCRITURA_NRO "_s);
     QStringList sin_archivo;
     QStringList no_existe;
     // The deed with the lowest number is never looked at; the skip is deliberate.
@@ -63,10 +62,10 @@ QString sin_testimonio(const QString& nro)
     }
     if (sin_archivo.isEmpty() && no_existe.isEmpty())
         return {};
-    const QString coma = QStringLiteral(", ");
-    return INCOMPLETA + QStringLiteral(" Faltan testimonios\n\n")
-        + (sin_archivo.isEmpty() ? QString() : QStringLiteral("Escrituras que no tienen archivo: ") + sin_archivo.join(coma) + QStringLiteral("\n\n"))
-        + (no_existe.isEmpty() ? QString() : QStringLiteral("Escrituras cuyo archivo no existe: ") + no_existe.join(coma));
+    const QString coma = u", "_s;
+    return INCOMPLETA + u" Faltan testimonios\n\n"_s
+        + (sin_archivo.isEmpty() ? QString() : u"Escrituras que no tienen archivo: "_s + sin_archivo.join(coma) + u"\n\n"_s)
+        + (no_existe.isEmpty() ? QString() : u"Escrituras cuyo archivo no existe: "_s + no_existe.join(coma));
 }
 
 }  // namespace
@@ -78,12 +77,12 @@ bool verificar_dj_completa(const QString& nro, const QString& tituloVentana, Dia
             const QString falta = revisar(nro);
             if (falta.isEmpty())
                 continue;
-            dialogo.avisar({falta, tituloVentana + QStringLiteral(" - DJ incompleta"), Icono::informacion});
+            dialogo.avisar({falta, tituloVentana + u" - DJ incompleta"_s, Icono::informacion});
             return false;
         }
     } catch (const ErrorAlmacen& e) {
         // The emission deliberately goes on after an error.
-        dialogo.avisar({e.descripcion, QStringLiteral("Verificar DJ completa"), Icono::informacion});
+        dialogo.avisar({e.descripcion, u"Verificar DJ completa"_s, Icono::informacion});
     }
     return true;
 }

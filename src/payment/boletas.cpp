@@ -5,16 +5,12 @@
 #include "core/modUtiles.h"
 #include "core/reloj.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int TIPO_MENSUAL = 0;
 constexpr int LARGO_SIN_SECUENCIA = 20;
-
-// What the SQL accepts, whatever the separators of the user's locale; an empty field is 0.
-QString importe(const Numero& n)
-{
-    return n.vacio() ? QStringLiteral("0") : n.toSQL();
-}
 
 QString en_centavos(const Numero& n, int ancho)
 {
@@ -47,16 +43,15 @@ std::optional<Falla> validar_boleta(ControlesBoleta& c)
          "nroTotalBoleta"},
     });
     if (falla)
-        falla->titulo = QStringLiteral("Generar boleta de deposito");
+        falla->titulo = u"Generar boleta de deposito"_s;
     return falla;
 }
 
 QString proximo_nro_boleta(const QString& dj)
 {
-    const Recordset rs(cnRtn, QStringLiteral("select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA ") + QStringLiteral(" from SEL_TB_RTN_BOLDEP ")
-                                  + QStringLiteral(" where SEDJ_NRO='") + dj + QStringLiteral("' and SBDI_TIPO_BOLETA=0"));
+    const Recordset rs(cnRtn, u"select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA  from SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s + dj + u"' and SBDI_TIPO_BOLETA=0"_s);
     if (rs.eof() || rs.nulo(0))
-        return QStringLiteral("202") + dj + QStringLiteral("00");
+        return u"202"_s + dj + u"00"_s;
     // The places are those of a DJ of 17 characters; the number of a shorter one grows by them.
     const QString maximo = rs.texto(0);
     return maximo.left(LARGO_SIN_SECUENCIA) + con_ceros(maximo.mid(LARGO_SIN_SECUENCIA, 2).toInt() + 1, 2);
@@ -64,8 +59,8 @@ QString proximo_nro_boleta(const QString& dj)
 
 QString codigo_barras_boleta(const QString& nroBoleta, const ControlesBoleta& c)
 {
-    const QString sin_digito = con_ceros(BancoConvenio, 6) + QStringLiteral("020") + nroBoleta.leftJustified(30, u'0')
-        + c.vencimiento.toString(QStringLiteral("yyyyMMdd")) + en_centavos(c.impuesto, 12) + QString(10, u'0') + en_centavos(c.interes, 10);
+    const QString sin_digito = con_ceros(BancoConvenio, 6) + u"020"_s + nroBoleta.leftJustified(30, u'0')
+        + c.vencimiento.toString(u"yyyyMMdd"_s) + en_centavos(c.impuesto, 12) + QString(10, u'0') + en_centavos(c.interes, 10);
     return sin_digito + QString::number(digito_verificador(sin_digito));
 }
 
@@ -84,20 +79,20 @@ QString insertar_boleta(const ControlesBoleta& c)
         {"GBAN_ID", QString::number(BancoId)},
         {"GBAN_DESCRIPCION", entre_comillas(BancoNombre)},
         {"SBDI_CUENTA", entre_comillas(QString::number(BancoCuenta))},
-        {"SBDI_IMPORTE", importe(c.impuesto)},
-        {"SBDI_INTERES", importe(c.interes)},
-        {"SBDI_MULTA", QStringLiteral("0")},
-        {"SBDI_TOTAL", importe(c.totalDepositar)},
-        {"SBDI_ANULADA", QStringLiteral("null")},
+        {"SBDI_IMPORTE", sql_o_cero(c.impuesto)},
+        {"SBDI_INTERES", sql_o_cero(c.interes)},
+        {"SBDI_MULTA", u"0"_s},
+        {"SBDI_TOTAL", sql_o_cero(c.totalDepositar)},
+        {"SBDI_ANULADA", u"null"_s},
         {"SSUB_FILIAL_BANCO", texto_o_null(toSQL(c.filial.trimmed()))},
-        {"SBDI_FORMAS_PAGO", QStringLiteral("0")},
-        {"SBDI_EFECTIVO", importe(c.efectivo)},
+        {"SBDI_FORMAS_PAGO", u"0"_s},
+        {"SBDI_EFECTIVO", sql_o_cero(c.efectivo)},
         {"SBDI_CHEQUE1_NRO", texto_o_null(toSQL(c.cheques[0].nro))},
         {"SBDI_CHEQUE1_BANCO", texto_o_null(toSQL(c.cheques[0].banco))},
-        {"SBDI_CHEQUE1_MONTO", importe(c.cheques[0].monto)},
+        {"SBDI_CHEQUE1_MONTO", sql_o_cero(c.cheques[0].monto)},
         {"SBDI_CHEQUE2_NRO", texto_o_null(toSQL(c.cheques[1].nro))},
         {"SBDI_CHEQUE2_BANCO", texto_o_null(toSQL(c.cheques[1].banco))},
-        {"SBDI_CHEQUE2_MONTO", importe(c.cheques[1].monto)},
+        {"SBDI_CHEQUE2_MONTO", sql_o_cero(c.cheques[1].monto)},
         {"SBDI_TIPO_BOLETA", QString::number(TIPO_MENSUAL)},
     };
     QStringList nombres;
@@ -106,23 +101,22 @@ QString insertar_boleta(const ControlesBoleta& c)
         nombres << QString::fromLatin1(columna);
         valores << valor;
     }
-    if (cnRtn.ejecutar(QStringLiteral("insert into SEL_TB_RTN_BOLDEP (") + nombres.join(QStringLiteral(", ")) + QStringLiteral(") values (")
-                       + valores.join(QStringLiteral(", ")) + QStringLiteral(")"))
+    if (cnRtn.ejecutar(u"insert into SEL_TB_RTN_BOLDEP ("_s + nombres.join(u", "_s) + u") values ("_s
+                       + valores.join(u", "_s) + u")"_s)
         != 1)
         return {};
-    cnRtn.ejecutar(QStringLiteral("update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='") + codigo_barras_boleta(nro, c) + QStringLiteral("'")
-                   + QStringLiteral(" where SBDI_NROBOLETA='") + nro + QStringLiteral("'"));
+    cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='"_s + codigo_barras_boleta(nro, c) + u"' where SBDI_NROBOLETA='"_s + nro + u"'"_s);
     return nro;
 }
 
 int borrar_boleta(const QString& nro)
 {
-    return cnRtn.ejecutar(QStringLiteral("delete from  SEL_TB_RTN_BOLDEP where SBDI_NROBOLETA='") + nro + QStringLiteral("'"));
+    return cnRtn.ejecutar(u"delete from  SEL_TB_RTN_BOLDEP where SBDI_NROBOLETA='"_s + nro + u"'"_s);
 }
 
-void leer_boletas(const QString& dj, const std::function<void(const QStringList&)>& fila)
+void leer_boletas(const QString& dj, const AgregarFila& fila)
 {
-    for (Recordset rs(cnRtn, QStringLiteral("select * from  SEL_TB_RTN_BOLDEP ") + QStringLiteral(" where SEDJ_NRO='") + dj + QStringLiteral("'"));
+    for (Recordset rs(cnRtn, u"select * from  SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s + dj + u"'"_s);
          !rs.eof(); rs.siguiente())
-        fila({rs.texto("SBDI_NROBOLETA"), formato_importe(rs.real("SBDI_TOTAL"))});
+        fila({rs.texto("SBDI_NROBOLETA"), importe_llano(rs.real("SBDI_TOTAL"))});
 }

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "core/dialogo.h"
+#include "core/filas.h"
 #include "core/numero.h"
 
 #include <QDate>
 #include <QStringList>
 
-#include <functional>
 
 /// One of the two cheques of a slip.
 struct ChequeBoleta
@@ -50,4 +50,4 @@ struct ControlesBoleta
 /// Rows deleted.
 int borrar_boleta(const QString& nro);
 /// The slips of a DJ, one call a row: number and total.
-void leer_boletas(const QString& dj, const std::function<void(const QStringList&)>& fila);
+void leer_boletas(const QString& dj, const AgregarFila& fila);

@@ -62,7 +62,7 @@ protected:
     static QString dato(const QString& sql);
     /// All rows of a query: cells parted by "|", rows by a line end.
     static QString filas(const QString& sql);
-    [[nodiscard]] QString ruta() const { return carpeta.path() + QStringLiteral("/vedra_rtn.db"); }
+    [[nodiscard]] QString ruta() const { return carpeta.path() + "/vedra_rtn.db"_u; }
 
     /// A DJ of the posición 2026/10 with its agent; gives its number.
     static QString nueva_dj(int secuencia = 0);

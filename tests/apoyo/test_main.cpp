@@ -1,4 +1,4 @@
-#include "core/MDIAplicacion.h"
+#include "application/aplicacion.h"
 
 #include <QLocale>
 

@@ -1,6 +1,6 @@
 #include "apoyo/ventanas.h"
 
-#include "declarations/frmDJ_buscar.h"
+#include "declarations/screens/frmDJ_buscar.h"
 #include "manejo/manejo.h"
 
 #include <QTest>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "apoyo/apoyo.h"
-#include "core/MDIPrincipal.h"
-#include "core/formulario.h"
+#include "application/screens/MDIPrincipal.h"
+#include "widgets/formulario.h"
 
 #include <memory>
 

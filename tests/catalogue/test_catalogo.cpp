@@ -4,7 +4,7 @@
 #include "catalogue/lista_subconceptos.h"
 #include "catalogue/rangos.h"
 #include "catalogue/roles_catalogo.h"
-#include "catalogue/subconcepto.h"
+#include "catalogue/reglas_subconcepto.h"
 
 #include <QRegularExpression>
 

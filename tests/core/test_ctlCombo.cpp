@@ -1,7 +1,7 @@
 // The drop-down box of several columns, by keyboard and mouse.
 
 #include "apoyo/apoyo.h"
-#include "core/ctlCombo.h"
+#include "widgets/ctlCombo.h"
 
 #include <QApplication>
 #include <QHeaderView>

@@ -1,5 +1,5 @@
 #include "apoyo/apoyo.h"
-#include "core/ctlNumero.h"
+#include "widgets/ctlNumero.h"
 #include "core/numero.h"
 
 #include <QLineEdit>

@@ -1,12 +1,14 @@
 // The search of parties against a plain walk over the rows.
 
 #include "apoyo/apoyo.h"
-#include "declarations/buscar_parte.h"
+#include "parties/buscar_parte.h"
 
 #include <QRegularExpression>
 #include <QSet>
 
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -43,7 +45,7 @@ protected:
     QStringList hallar(FiltroPartes f)
     {
         QStringList lista;
-        leer_partes_halladas(consulta_partes(f, "Buscar persona"_u, oyente), [&lista](std::span<const std::string_view> c) {
+        leer_partes_halladas(consulta_busqueda_partes(f, "Buscar persona"_u, oyente), [&lista](std::span<const std::string_view> c) {
             QStringList celdas;
             for (const std::string_view s : c)
                 celdas << QString::fromUtf8(s.data(), qsizetype(s.size()));
@@ -73,7 +75,7 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
         const QString tipo = uno_de(tipos);
         const bool cuit = tipo == u"80" || tipo == u"86";
         const QString nro = azar() % 8 == 0 ? QString() : QString::number(cuit ? 20100000000 + azar() % 40 : 30000000 + azar() % 40);
-        agregar({QStringLiteral("2012345678626%1000").arg(azar() % 4 + 1), int(azar() % 4 + 1), tipo, nro, (uno_de(apellidos) + u' ' + uno_de(nombres)).left(60),
+        agregar({u"2012345678626%1000"_s.arg(azar() % 4 + 1), int(azar() % 4 + 1), tipo, nro, (uno_de(apellidos) + u' ' + uno_de(nombres)).left(60),
                  cuit && !nro.isEmpty() ? nro.toDouble() : 0, int(azar() % 3 + 1)});
     }
     const QHash<QString, QString> textos{{"80"_u, "CUIT"_u}, {"86"_u, "CUIL"_u}, {"96"_u, "DNI"_u}};
@@ -122,14 +124,14 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
 TEST_F(BuscarParte, LaSentenciaYElDocumentoQueNoVale)
 {
     FiltroPartes f{.dj = "D"_u, .renglon = "3"_u, .tipoSociedad = 2, .criterio = Criterio::termina, .razonSocial = "O'Brien,  (Ana)"_u, .tipoDoc = 80, .tipoDocTexto = "CUIT"_u, .nroDoc = "20A"_u};
-    EXPECT_EQ(consulta_partes(f, "Buscar persona"_u, oyente),
+    EXPECT_EQ(consulta_busqueda_partes(f, "Buscar persona"_u, oyente),
               " select distinct SPIN_NRODOC, P.GTDC_ID, TC.GTDC_DESCRIPCION, SPIN_RSOCIAL from SEL_TB_RTN_INS_PARTES as P inner join GLB_TB_AFIP_TIPOS_DOC as TC  on P.GTDC_ID=TC.GTDC_ID "
               " where (P.SEDJ_NRO<>'D' and P.SEDD_ID<>3)  and  (GTSO_ID=2) and ( SPIN_RSOCIAL like '%O''Brien,  (Ana)'  or ( SPIN_RSOCIAL like '%O''Brien%Ana')  or ( SPIN_RSOCIAL like '%Ana%O''Brien')  )"
               " and  P.SPIN_CUIT=-1 order by SPIN_NRODOC "_u);
     EXPECT_EQ(oyente.textos, QStringList{"El valor ingresado para CUIT no es válido"_u});
     EXPECT_EQ(f.razonSocial, "O'Brien Ana"_u);
     f = {.dj = "D"_u, .renglon = "3"_u, .tipoDoc = 94, .tipoDocTexto = "PASAPORTE"_u, .nroDoc = "A'1"_u};
-    EXPECT_TRUE(consulta_partes(f, {}, oyente).contains(" and  P.GTDC_ID=94 and P.SPIN_NRODOC='A''1' "_u));
+    EXPECT_TRUE(consulta_busqueda_partes(f, {}, oyente).contains(" and  P.GTDC_ID=94 and P.SPIN_NRODOC='A''1' "_u));
     // An empty number is a null and finds nobody.
     EXPECT_FALSE(parte_con_documento("80"_u, QString()));
 }

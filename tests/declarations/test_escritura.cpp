@@ -1,5 +1,5 @@
 #include "apoyo/apoyo.h"
-#include "declarations/escritura.h"
+#include "deeds/escritura.h"
 
 #include <QFile>
 

@@ -1,5 +1,5 @@
 #include "apoyo/apoyo.h"
-#include "declarations/parte.h"
+#include "parties/parte.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 // The screens of the catalogue and the search of a person, by keys and clicks.
 
 #include "apoyo/ventanas.h"
-#include "catalogue/frmEditarSubconceptoSellos.h"
-#include "catalogue/frmSubconceptos.h"
-#include "computation/frmDJ_detalle_op.h"
-#include "core/ctlCombo.h"
-#include "core/ctlNumero.h"
-#include "core/grilla.h"
+#include "catalogue/screens/frmEditarSubconceptoSellos.h"
+#include "catalogue/screens/frmSubconceptos.h"
+#include "computation/screens/frmDJ_detalle_op.h"
+#include "widgets/ctlCombo.h"
+#include "widgets/ctlNumero.h"
+#include "widgets/grilla.h"
 #include "core/reloj.h"
-#include "declarations/frmDJ_buscar.h"
+#include "declarations/screens/frmDJ_buscar.h"
 #include "manejo/manejo.h"
 
 #include <QAction>

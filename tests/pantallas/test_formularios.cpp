@@ -2,10 +2,10 @@
 // operation's screen.
 
 #include "apoyo/ventanas.h"
-#include "computation/frmDJ_detalle_op.h"
-#include "declarations/frmDJ_buscar.h"
-#include "declarations/frmDJ_detalle.h"
-#include "declarations/frmRTN_buscar.h"
+#include "computation/screens/frmDJ_detalle_op.h"
+#include "declarations/screens/frmDJ_buscar.h"
+#include "deeds/screens/frmDJ_detalle.h"
+#include "agents/screens/frmRTN_buscar.h"
 #include "manejo/manejo.h"
 
 #include <QApplication>

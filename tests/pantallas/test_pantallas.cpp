@@ -1,15 +1,15 @@
 // The real forms, offscreen, with the keys and clicks of a person.
 
 #include "apoyo/ventanas.h"
-#include "computation/frmDJ_detalle_op.h"
+#include "computation/screens/frmDJ_detalle_op.h"
 #include "core/reloj.h"
-#include "declarations/frmDJ_buscar.h"
-#include "declarations/frmDJ_detalle.h"
-#include "declarations/frmDJ_editar.h"
-#include "declarations/frmRTN_buscar.h"
+#include "declarations/screens/frmDJ_buscar.h"
+#include "deeds/screens/frmDJ_detalle.h"
+#include "declarations/screens/frmDJ_editar.h"
+#include "agents/screens/frmRTN_buscar.h"
 #include "manejo/manejo.h"
-#include "printing/ctlVistaPrevia.h"
-#include "printing/frmReportes.h"
+#include "printing/screens/ctlVistaPrevia.h"
+#include "printing/screens/frmReportes.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -5,10 +5,10 @@
 #include "payment/boletas.h"
 #include "payment/comprobantes.h"
 #include "printing/datos_impresos.h"
-#include "printing/rptRTN_boldep1.h"
-#include "printing/rptSalida.h"
-#include "printing/rpt_dj.h"
-#include "printing/rpt_recibo.h"
+#include "printing/screens/rptRTN_boldep1.h"
+#include "printing/screens/rptSalida.h"
+#include "printing/screens/rpt_dj.h"
+#include "printing/screens/rpt_recibo.h"
 
 #include <QImage>
 #include <QProcess>

@@ -1,6 +1,6 @@
 // fatal STORE: an error that nobody traps, in the middle of a transaction. The box is answered.
 
-#include "core/MDIAplicacion.h"
+#include "application/aplicacion.h"
 #include "core/modGlobales.h"
 #include "manejo/manejo.h"
 
@@ -8,17 +8,19 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char** argv)
 {
     Aplicacion aplicacion(argc, argv);
     cnRtn.abrir(QString::fromLocal8Bit(argv[1]), clave_almacen());
-    cnRtn.ejecutar(QStringLiteral("insert into GLB_TB_CONCEPTOS values (50, 'CONFIRMADO')"));
+    cnRtn.ejecutar(u"insert into GLB_TB_CONCEPTOS values (50, 'CONFIRMADO')"_s);
     QTimer::singleShot(0, &aplicacion, [] {
         cnRtn.comenzar();
-        cnRtn.ejecutar(QStringLiteral("insert into GLB_TB_CONCEPTOS values (51, 'A MEDIAS')"));
-        Cajas::durante({{QStringLiteral("no such table: NADA"), QStringLiteral("VEDRA-RTN")}}, [] {
+        cnRtn.ejecutar(u"insert into GLB_TB_CONCEPTOS values (51, 'A MEDIAS')"_s);
+        Cajas::durante({{u"no such table: NADA"_s, u"VEDRA-RTN"_s}}, [] {
             try {
-                cnRtn.ejecutar(QStringLiteral("delete from NADA"));
+                cnRtn.ejecutar(u"delete from NADA"_s);
             } catch (const ErrorAlmacen& e) {
                 Aplicacion::terminar(e.descripcion);
             }

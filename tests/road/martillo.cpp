@@ -3,12 +3,14 @@
 #include "core/modGlobales.h"
 #include "declarations/copiar_dj.h"
 #include "declarations/lista_dj.h"
-#include "declarations/modABM_dj.h"
+#include "tree/modABM_dj.h"
 #include "declarations/renglones.h"
 
 #include <QCoreApplication>
 
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -31,18 +33,18 @@ int main(int argc, char** argv)
     const QCoreApplication aplicacion(argc, argv);
     cnRtn.abrir(QString::fromLocal8Bit(argv[1]), clave_almacen());
     Callado callado;
-    const Recordset rs(cnRtn, QStringLiteral("select count(*) from SEL_TB_RTN_CABDJ"));
+    const Recordset rs(cnRtn, u"select count(*) from SEL_TB_RTN_CABDJ"_s);
     for (int n = int(rs.entero(0)) + 1;; ++n) {
         CabeceraDJ dj;
-        dj.nro = QStringLiteral("%1").arg(n, 15, 10, QLatin1Char('0')) + QStringLiteral("00");
-        dj.titular = QStringLiteral("T");
+        dj.nro = u"%1"_s.arg(n, 15, 10, QLatin1Char('0')) + u"00"_s;
+        dj.titular = u"T"_s;
         if (!alta_cabecera_dj(dj, callado))
             continue;
         confirmado("dj", dj.nro);
         Escritura e;
         e.dj = dj.nro;
-        e.estado = QStringLiteral("P");
-        e.alcanzado = QStringLiteral("S");
+        e.estado = u"P"_s;
+        e.alcanzado = u"S"_s;
         for (int i = 0; i < 3; ++i)
             if (alta_detalle_dj(e, true, callado))
                 confirmado("renglon", dj.nro + u' ' + QString::number(e.id));

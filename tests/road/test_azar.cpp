@@ -2,8 +2,8 @@
 // SEMILLA sets the course.
 
 #include "apoyo/ventanas.h"
-#include "core/ctlCombo.h"
-#include "core/grilla.h"
+#include "widgets/ctlCombo.h"
+#include "widgets/grilla.h"
 #include "manejo/manejo.h"
 
 #include <QAbstractButton>

@@ -16,6 +16,8 @@
 #include <cstdlib>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int NO_SE_LEE = 2;
@@ -27,7 +29,7 @@ void decir(const QString& texto)
 
 bool es_de_dj(const QString& nombre)
 {
-    return nombre.startsWith(QStringLiteral("SRTN")) && nombre.endsWith(QStringLiteral(".txt"));
+    return nombre.startsWith(u"SRTN"_s) && nombre.endsWith(u".txt"_s);
 }
 
 [[noreturn]] void fallar(const QString& texto)
@@ -39,7 +41,7 @@ QByteArray de_archivo(const QString& ruta)
 {
     QFile f(ruta);
     if (!f.open(QIODevice::ReadOnly))
-        fallar(QStringLiteral("No se puede leer ") + ruta);
+        fallar(u"No se puede leer "_s + ruta);
     return f.readAll();
 }
 
@@ -51,49 +53,49 @@ QByteArray de_rar(const QString& ruta)
             continue;
         QByteArray bytes;
         if (!leer_entrada(archivo, e, [&bytes](const char* p, size_t n) { bytes.append(p, qsizetype(n)); }))
-            fallar(ruta + QStringLiteral(": ") + QString::fromStdString(e.nombre) + QStringLiteral(" está dañado"));
+            fallar(ruta + u": "_s + QString::fromStdString(e.nombre) + u" está dañado"_s);
         return bytes;
     }
-    fallar(ruta + QStringLiteral(": no contiene un archivo SRTN….txt"));
+    fallar(ruta + u": no contiene un archivo SRTN….txt"_s);
 }
 
 QByteArray leer_entrada_de(const QString& ruta)
 {
     const QFileInfo info(ruta);
     if (info.isDir()) {
-        const QStringList nombres = QDir(ruta).entryList({QStringLiteral("SRTN*.txt")}, QDir::Files);
+        const QStringList nombres = QDir(ruta).entryList({u"SRTN*.txt"_s}, QDir::Files);
         if (nombres.size() != 1)
-            fallar(ruta + QStringLiteral(": debe contener un solo archivo SRTN….txt, y hay %1").arg(nombres.size()));
+            fallar(ruta + u": debe contener un solo archivo SRTN….txt, y hay %1"_s.arg(nombres.size()));
         return de_archivo(QDir(ruta).filePath(nombres.constFirst()));
     }
-    return ruta.endsWith(QStringLiteral(".rar"), Qt::CaseInsensitive) ? de_rar(ruta) : de_archivo(ruta);
+    return ruta.endsWith(u".rar"_s, Qt::CaseInsensitive) ? de_rar(ruta) : de_archivo(ruta);
 }
 
 QString linea_de(const FallaLectura& f)
 {
-    QString t = QStringLiteral("  línea %1, columna %2").arg(f.linea).arg(f.columna);
+    QString t = u"  línea %1, columna %2"_s.arg(f.linea).arg(f.columna);
     if (!f.campo.isEmpty())
-        t += QStringLiteral(", ") + f.campo;
+        t += u", "_s + f.campo;
     if (!f.valor.isEmpty())
-        t += QStringLiteral(" «") + f.valor + QStringLiteral("»");
-    return t + QStringLiteral(": ") + f.mensaje;
+        t += u" «"_s + f.valor + u"»"_s;
+    return t + u": "_s + f.mensaje;
 }
 
 QJsonArray en_json(const std::vector<FallaLectura>& fallas)
 {
     QJsonArray lista;
     for (const FallaLectura& f : fallas)
-        lista << QJsonObject{{QStringLiteral("linea"), f.linea}, {QStringLiteral("columna"), f.columna}, {QStringLiteral("campo"), f.campo},
-                             {QStringLiteral("valor"), f.valor}, {QStringLiteral("mensaje"), f.mensaje}};
+        lista << QJsonObject{{u"linea"_s, f.linea}, {u"columna"_s, f.columna}, {u"campo"_s, f.campo},
+                             {u"valor"_s, f.valor}, {u"mensaje"_s, f.mensaje}};
     return lista;
 }
 
 void mostrar_campos(const RegistroLeido& r)
 {
-    decir(QStringLiteral("línea %1: registro %2 (%3)").arg(r.linea).arg(QLatin1Char(r.registro->tipo)).arg(QString::fromUtf8(r.registro->titulo)));
+    decir(u"línea %1: registro %2 (%3)"_s.arg(r.linea).arg(QLatin1Char(r.registro->tipo)).arg(QString::fromUtf8(r.registro->titulo)));
     if (r.entero)
         for (size_t i = 0; i < r.registro->campos.size(); ++i)
-            decir(QStringLiteral("    %1 «%2»").arg(QLatin1String(r.registro->campos[i].nombre), -28).arg(texto_ansi(r.campos[i])));
+            decir(u"    %1 «%2»"_s.arg(QLatin1String(r.registro->campos[i].nombre), -28).arg(texto_ansi(r.campos[i])));
 }
 
 QJsonObject registro_json(const RegistroLeido& r)
@@ -103,40 +105,40 @@ QJsonObject registro_json(const RegistroLeido& r)
         for (size_t i = 0; i < r.registro->campos.size(); ++i)
             if (r.registro->campos[i].forma.clase != Clase::literal)
                 campos.insert(QLatin1String(r.registro->campos[i].nombre), texto_ansi(r.campos[i]));
-    return {{QStringLiteral("linea"), r.linea}, {QStringLiteral("tipo"), QString(QLatin1Char(r.registro->tipo))}, {QStringLiteral("campos"), campos}};
+    return {{u"linea"_s, r.linea}, {u"tipo"_s, QString(QLatin1Char(r.registro->tipo))}, {u"campos"_s, campos}};
 }
 
 QJsonObject resumen_json(const LecturaDJ& l, const QJsonArray& registros)
 {
-    return {{QStringLiteral("codigo"), l.codigo},
-            {QStringLiteral("agente"), l.agente},
-            {QStringLiteral("titular"), l.titular},
-            {QStringLiteral("cuit"), l.cuit},
-            {QStringLiteral("posicion"), l.posicion},
-            {QStringLiteral("secuencia"), l.secuencia},
-            {QStringLiteral("estado"), l.estado},
-            {QStringLiteral("totalRetenido"), l.totalRetenido},
-            {QStringLiteral("totalEscrituras"), l.totalEscrituras},
-            {QStringLiteral("fallas"), en_json(l.fallas)},
-            {QStringLiteral("avisos"), en_json(l.avisos)},
-            {QStringLiteral("registros"), registros}};
+    return {{u"codigo"_s, l.codigo},
+            {u"agente"_s, l.agente},
+            {u"titular"_s, l.titular},
+            {u"cuit"_s, l.cuit},
+            {u"posicion"_s, l.posicion},
+            {u"secuencia"_s, l.secuencia},
+            {u"estado"_s, l.estado},
+            {u"totalRetenido"_s, l.totalRetenido},
+            {u"totalEscrituras"_s, l.totalEscrituras},
+            {u"fallas"_s, en_json(l.fallas)},
+            {u"avisos"_s, en_json(l.avisos)},
+            {u"registros"_s, registros}};
 }
 
 void resumir(const QString& ruta, const LecturaDJ& l)
 {
-    decir(QStringLiteral("Archivo: ") + ruta);
-    decir(QStringLiteral("Agente %1, %2, CUIT %3").arg(l.agente, l.titular, l.cuit));
-    decir(QStringLiteral("Posición %1, secuencia %2, %3").arg(l.posicion, l.secuencia, l.estado == u"0" ? QStringLiteral("NORMAL") : QStringLiteral("SIN MOVIMIENTOS")));
+    decir(u"Archivo: "_s + ruta);
+    decir(u"Agente %1, %2, CUIT %3"_s.arg(l.agente, l.titular, l.cuit));
+    decir(u"Posición %1, secuencia %2, %3"_s.arg(l.posicion, l.secuencia, l.estado == u"0" ? u"NORMAL"_s : u"SIN MOVIMIENTOS"_s));
     for (const Registro& r : registros())
         if (const auto it = l.registros.find(r.tipo); it != l.registros.end())
-            decir(QStringLiteral("  registros %1 (%2): %3").arg(QLatin1Char(r.tipo)).arg(QString::fromUtf8(r.titulo)).arg(it->second));
-    decir(QStringLiteral("Total retenido: %1; las escrituras suman %2").arg(l.totalRetenido, 0, 'f', 2).arg(l.totalEscrituras, 0, 'f', 2));
-    decir(QStringLiteral("Código de integridad: ") + l.codigo);
+            decir(u"  registros %1 (%2): %3"_s.arg(QLatin1Char(r.tipo)).arg(QString::fromUtf8(r.titulo)).arg(it->second));
+    decir(u"Total retenido: %1; las escrituras suman %2"_s.arg(l.totalRetenido, 0, 'f', 2).arg(l.totalEscrituras, 0, 'f', 2));
+    decir(u"Código de integridad: "_s + l.codigo);
     for (const FallaLectura& f : l.avisos)
-        decir(QStringLiteral("Aviso:") + linea_de(f));
+        decir(u"Aviso:"_s + linea_de(f));
     for (const FallaLectura& f : l.fallas)
-        decir(QStringLiteral("Falla:") + linea_de(f));
-    decir(l.fallas.empty() ? QStringLiteral("Todo está bien.") : QStringLiteral("Hay %1 fallas.").arg(l.fallas.size()));
+        decir(u"Falla:"_s + linea_de(f));
+    decir(l.fallas.empty() ? u"Todo está bien."_s : u"Hay %1 fallas."_s.arg(l.fallas.size()));
 }
 
 }  // namespace
@@ -145,29 +147,29 @@ int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
     QCommandLineParser a;
-    a.setApplicationDescription(QStringLiteral("Lee y revisa el archivo de una declaración jurada emitida."));
+    a.setApplicationDescription(u"Lee y revisa el archivo de una declaración jurada emitida."_s);
     a.addHelpOption();
-    a.addOption({QStringLiteral("codigo"), QStringLiteral("Código impreso en el papel, para comparar."), QStringLiteral("código")});
-    a.addOption({QStringLiteral("campos"), QStringLiteral("Lista cada campo.")});
-    a.addOption({QStringLiteral("json"), QStringLiteral("Da todo como JSON.")});
-    a.addPositionalArgument(QStringLiteral("entrada"), QStringLiteral("Archivo, carpeta o archivo RAR."));
+    a.addOption({u"codigo"_s, u"Código impreso en el papel, para comparar."_s, u"código"_s});
+    a.addOption({u"campos"_s, u"Lista cada campo."_s});
+    a.addOption({u"json"_s, u"Da todo como JSON."_s});
+    a.addPositionalArgument(u"entrada"_s, u"Archivo, carpeta o archivo RAR."_s);
     a.process(aplicacion);
     if (a.positionalArguments().size() != 1)
         a.showHelp(NO_SE_LEE);
     const QString ruta = a.positionalArguments().constFirst();
     try {
         const QByteArray bytes = leer_entrada_de(ruta);
-        const bool json = a.isSet(QStringLiteral("json"));
+        const bool json = a.isSet(u"json"_s);
         QJsonArray registros_json;
         LecturaDJ l = leer_archivo_dj(bytes, [&](const RegistroLeido& r) {
             if (json)
                 registros_json << registro_json(r);
-            else if (a.isSet(QStringLiteral("campos")))
+            else if (a.isSet(u"campos"_s))
                 mostrar_campos(r);
         });
-        QString codigo = a.value(QStringLiteral("codigo")).toUpper();
+        QString codigo = a.value(u"codigo"_s).toUpper();
         if (codigo.remove(u' '); !codigo.isEmpty() && codigo != l.codigo)
-            l.fallas.push_back({0, 0, {}, codigo, QStringLiteral("el código del papel no es el del archivo (") + l.codigo + u')'});
+            l.fallas.push_back({0, 0, {}, codigo, u"el código del papel no es el del archivo ("_s + l.codigo + u')'});
         if (json)
             std::fputs(QJsonDocument(resumen_json(l, registros_json)).toJson().constData(), stdout);
         else

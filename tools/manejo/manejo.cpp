@@ -1,10 +1,10 @@
 #include "manejo/manejo.h"
 
-#include "core/barra.h"
-#include "core/ctlCombo.h"
-#include "core/ctlNumero.h"
-#include "core/formulario.h"
-#include "core/grilla.h"
+#include "widgets/barra.h"
+#include "widgets/ctlCombo.h"
+#include "widgets/ctlNumero.h"
+#include "widgets/formulario.h"
+#include "widgets/grilla.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -21,6 +21,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,7 +42,7 @@ void vigilar(const std::function<void()>& accion)
 
 QString describir(const QMessageBox* caja)
 {
-    return QStringLiteral("«%1» («%2»)").arg(caja->text(), caja->windowTitle());
+    return u"«%1» («%2»)"_s.arg(caja->text(), caja->windowTitle());
 }
 
 // What is wrong with a box, empty when it is the one expected.
@@ -51,7 +53,7 @@ QString comparar(const QMessageBox* caja, const CajaEsperada& e)
     const bool bien_icono = e.icono < 0 || caja->icon() == e.icono;
     if (bien_texto && bien_titulo && bien_icono)
         return {};
-    return QStringLiteral("vino la caja %1 y se esperaba «%2» («%3»)").arg(describir(caja), e.texto, e.titulo);
+    return u"vino la caja %1 y se esperaba «%2» («%3»)"_s.arg(describir(caja), e.texto, e.titulo);
 }
 
 }  // namespace
@@ -65,9 +67,9 @@ Cajas::Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos) : pe
 void Cajas::elegirArchivo(QFileDialog* dialogo)
 {
     if (archivos_.isEmpty())
-        falla_ = QStringLiteral("vino un diálogo de archivos que nadie esperaba: ") + dialogo->windowTitle();
+        falla_ = u"vino un diálogo de archivos que nadie esperaba: "_s + dialogo->windowTitle();
     const QString archivo = archivos_.isEmpty() ? QString() : archivos_.takeFirst();
-    auto* nombre = dialogo->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    auto* nombre = dialogo->findChild<QLineEdit*>(u"fileNameEdit"_s);
     if (archivo.isEmpty() || !nombre) {
         dialogo->reject();
         return;
@@ -87,7 +89,7 @@ void Cajas::mirar()
         return;
     bool si = true;
     if (pendientes_.isEmpty()) {
-        falla_ = QStringLiteral("vino una caja que nadie esperaba: ") + describir(caja);
+        falla_ = u"vino una caja que nadie esperaba: "_s + describir(caja);
     } else {
         const CajaEsperada esperada = pendientes_.takeFirst();
         if (const QString falla = comparar(caja, esperada); !falla.isEmpty() && falla_.isEmpty())
@@ -115,9 +117,9 @@ void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()
     if (!c.falla_.isEmpty())
         throw Inesperado(c.falla_);
     if (!c.archivos_.isEmpty())
-        throw Inesperado(QStringLiteral("no vino el diálogo para ") + c.archivos_.constFirst());
+        throw Inesperado(u"no vino el diálogo para "_s + c.archivos_.constFirst());
     if (!c.pendientes_.isEmpty())
-        throw Inesperado(QStringLiteral("no vino la caja «%1»").arg(c.pendientes_.constFirst().texto));
+        throw Inesperado(u"no vino la caja «%1»"_s.arg(c.pendientes_.constFirst().texto));
 }
 
 namespace manejo {
@@ -126,7 +128,7 @@ QWidget* control(QWidget* form, const QString& nombre)
 {
     auto* w = form->findChild<QWidget*>(nombre);
     if (!w)
-        throw Inesperado(QStringLiteral("no hay ningún control %1 en %2").arg(nombre, form->objectName()));
+        throw Inesperado(u"no hay ningún control %1 en %2"_s.arg(nombre, form->objectName()));
     return w;
 }
 
@@ -140,14 +142,14 @@ QLineEdit* linea(QWidget* w)
         return c->lineEdit();
     auto* l = w->findChild<QLineEdit*>();
     if (!l)
-        throw Inesperado(w->objectName() + QStringLiteral(" no recibe texto"));
+        throw Inesperado(w->objectName() + u" no recibe texto"_s);
     return l;
 }
 
 void exigir_activo(QWidget* w)
 {
     if (!w->isEnabled() || !w->isVisible())
-        throw Inesperado(w->objectName() + (w->isVisible() ? QStringLiteral(" está inhabilitado") : QStringLiteral(" no se ve")));
+        throw Inesperado(w->objectName() + (w->isVisible() ? u" está inhabilitado"_s : u" no se ve"_s));
     // Not every platform gives the window its focus back behind a box.
     if (!w->window()->isActiveWindow()) {
         w->window()->activateWindow();
@@ -175,7 +177,7 @@ void teclear(QWidget* form, const QString& nombre, const QString& texto)
     exigir_activo(w);
     QLineEdit* l = linea(w);
     if (l->isReadOnly())
-        throw Inesperado(nombre + QStringLiteral(" no admite texto"));
+        throw Inesperado(nombre + u" no admite texto"_s);
     if (!l->hasFocus())
         QTest::mouseClick(l, Qt::LeftButton);
     QTest::keyClick(l, Qt::Key_A, Qt::ControlModifier);
@@ -206,10 +208,10 @@ void elegir_fila(ctlCombo* combo, const QString& texto)
     const auto filas = combo->lista();
     const auto it = std::find_if(filas.begin(), filas.end(), [&](const ctlCombo::Fila& f) { return f.texto.startsWith(texto); });
     if (it == filas.end())
-        throw Inesperado(QStringLiteral("%1 no tiene «%2»").arg(combo->objectName(), texto));
+        throw Inesperado(u"%1 no tiene «%2»"_s.arg(combo->objectName(), texto));
     vigilar([&] {
-        QTest::mouseClick(combo->findChild<QToolButton*>(QStringLiteral("cmd")), Qt::LeftButton);
-        auto* lista = combo->findChild<QTreeWidget*>(QStringLiteral("lvw"));
+        QTest::mouseClick(combo->findChild<QToolButton*>(u"cmd"_s), Qt::LeftButton);
+        auto* lista = combo->findChild<QTreeWidget*>(u"lvw"_s);
         lista->setFocus();
         QTest::keyClick(lista, Qt::Key_Home);
         for (int i = 1; i < it->indice; ++i)
@@ -227,11 +229,11 @@ void elegir(QWidget* form, const QString& nombre, const QString& texto)
         return elegir_fila(lista, texto);
     auto* combo = qobject_cast<QComboBox*>(control(form, nombre));
     if (!combo)
-        throw Inesperado(nombre + QStringLiteral(" no es una lista"));
+        throw Inesperado(nombre + u" no es una lista"_s);
     exigir_activo(combo);
     const int indice = combo->findText(texto, Qt::MatchStartsWith);
     if (indice < 0)
-        throw Inesperado(QStringLiteral("%1 no tiene «%2»").arg(nombre, texto));
+        throw Inesperado(u"%1 no tiene «%2»"_s.arg(nombre, texto));
     vigilar([&] {
         combo->setFocus();
         QTest::keyClick(combo, Qt::Key_F4);
@@ -261,7 +263,7 @@ QWidget* boton_de(QWidget* form, const QString& nombre, const QString& clave)
     auto* barra = qobject_cast<BarraHerramientas*>(control(form, nombre));
     QAction* accion = barra ? barra->boton(clave) : nullptr;
     if (!accion)
-        throw Inesperado(QStringLiteral("%1 no tiene el botón %2").arg(nombre, clave));
+        throw Inesperado(u"%1 no tiene el botón %2"_s.arg(nombre, clave));
     return barra->widgetForAction(accion);
 }
 
@@ -276,7 +278,7 @@ void pulsar(QWidget* form, const QString& barra, const QString& clave)
 {
     QWidget* boton = boton_de(form, barra, clave);
     if (!boton->isEnabled())
-        throw Inesperado(QStringLiteral("el botón %1 de %2 está inhabilitado").arg(clave, barra));
+        throw Inesperado(u"el botón %1 de %2 está inhabilitado"_s.arg(clave, barra));
     vigilar([&] { QTest::mouseClick(boton, Qt::LeftButton); });
 }
 
@@ -290,7 +292,7 @@ void solapa(QWidget* form, const QString& nombre, int indice)
 {
     auto* solapas = qobject_cast<QTabWidget*>(control(form, nombre));
     if (!solapas || !solapas->isTabEnabled(indice))
-        throw Inesperado(QStringLiteral("la solapa %1 está inhabilitada").arg(indice));
+        throw Inesperado(u"la solapa %1 está inhabilitada"_s.arg(indice));
     QTabBar* barra = solapas->tabBar();
     vigilar([&] { QTest::mouseClick(barra, Qt::LeftButton, Qt::NoModifier, barra->tabRect(indice).center()); });
 }
@@ -301,7 +303,7 @@ Grilla* grilla_de(QWidget* form, const QString& nombre)
 {
     auto* g = qobject_cast<Grilla*>(control(form, nombre));
     if (!g)
-        throw Inesperado(nombre + QStringLiteral(" no es una grilla"));
+        throw Inesperado(nombre + u" no es una grilla"_s);
     return g;
 }
 
@@ -313,7 +315,7 @@ void celda(QWidget* form, const QString& grilla, int fila, int columna)
     exigir_activo(g);
     const QModelIndex i = g->model()->index(fila, columna);
     if (!i.isValid())
-        throw Inesperado(QStringLiteral("%1 no tiene la fila %2").arg(grilla).arg(fila));
+        throw Inesperado(u"%1 no tiene la fila %2"_s.arg(grilla).arg(fila));
     g->scrollTo(i);
     QTest::mouseClick(g->viewport(), Qt::LeftButton, Qt::NoModifier, g->visualRect(i).center());
     QApplication::processEvents();
@@ -335,13 +337,13 @@ Formulario* formulario(const char* clase)
     for (Formulario* f : Formulario::cargados())
         if (f->inherits(clase) && f->isVisible() && f->isEnabled())
             return f;
-    throw Inesperado(QStringLiteral("la ventana %1 no está abierta o está inhabilitada").arg(QLatin1String(clase)));
+    throw Inesperado(u"la ventana %1 no está abierta o está inhabilitada"_s.arg(QLatin1String(clase)));
 }
 
 void comprobar(const QString& que, const QString& valor, const QString& esperado)
 {
     if (valor != esperado)
-        throw Inesperado(QStringLiteral("%1: dice «%2» y se esperaba «%3»").arg(que, valor, esperado));
+        throw Inesperado(u"%1: dice «%2» y se esperaba «%3»"_s.arg(que, valor, esperado));
 }
 
 }  // namespace manejo

@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 void Guia::paso(const QString& titulo, const std::function<void()>& accion)
 {
     ++pasos_;
@@ -15,7 +17,7 @@ void Guia::paso(const QString& titulo, const std::function<void()>& accion)
     try {
         accion();
     } catch (const Inesperado&) {
-        foto(QStringLiteral("falla"));
+        foto(u"falla"_s);
         throw;
     }
 }
@@ -29,7 +31,7 @@ void Guia::foto(QWidget* ventana, const QString& nombre)
 {
     QApplication::processEvents();
     ++fotos_;
-    const QString archivo = QStringLiteral("%1/%2-%3.png").arg(carpeta_).arg(fotos_, 2, 10, QLatin1Char('0')).arg(nombre);
+    const QString archivo = u"%1/%2-%3.png"_s.arg(carpeta_).arg(fotos_, 2, 10, QLatin1Char('0')).arg(nombre);
     if (!ventana->grab().save(archivo))
-        throw Inesperado(QStringLiteral("no se pudo guardar ") + archivo);
+        throw Inesperado(u"no se pudo guardar "_s + archivo);
 }

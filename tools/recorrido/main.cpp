@@ -1,8 +1,8 @@
 // recorrido [--carpeta CARPETA]: drives the real windows through one month on the sample store.
 
 #include "constructor.h"
-#include "core/MDIPrincipal.h"
-#include "core/MDIAplicacion.h"
+#include "application/screens/MDIPrincipal.h"
+#include "application/aplicacion.h"
 #include "core/modGlobales.h"
 #include "core/reloj.h"
 #include "manejo/manejo.h"
@@ -17,20 +17,22 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void preparar(const QString& carpeta)
 {
     QDir(carpeta).removeRecursively();
     QDir().mkpath(carpeta);
-    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN), {QStringLiteral("datos"), QStringLiteral("muestra")},
-                       carpeta + QStringLiteral("/vedra_rtn.db"), clave_almacen()});
-    QFile cfg(carpeta + QStringLiteral("/vedra_rtn.cfg"));
+    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN), {u"datos"_s, u"muestra"_s},
+                       carpeta + u"/vedra_rtn.db"_s, clave_almacen()});
+    QFile cfg(carpeta + u"/vedra_rtn.cfg"_s);
     if (!cfg.open(QIODevice::WriteOnly) || cfg.write("vedra_rtn.db\n") < 0)
-        throw Inesperado(QStringLiteral("no se pudo escribir ") + cfg.fileName());
-    const QString rar = QCoreApplication::applicationDirPath() + QStringLiteral("/rar");
-    if (!QFile::copy(rar, carpeta + QStringLiteral("/rar")))
-        throw Inesperado(QStringLiteral("no se pudo copiar ") + rar);
+        throw Inesperado(u"no se pudo escribir "_s + cfg.fileName());
+    const QString rar = QCoreApplication::applicationDirPath() + u"/rar"_s;
+    if (!QFile::copy(rar, carpeta + u"/rar"_s))
+        throw Inesperado(u"no se pudo copiar "_s + rar);
     fijar_carpeta_programa(carpeta);
 }
 
@@ -42,12 +44,12 @@ int main(int argc, char** argv)
     Aplicacion aplicacion(argc, argv);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     QCommandLineParser argumentos;
-    argumentos.setApplicationDescription(QStringLiteral("Recorre un mes completo en las ventanas del programa."));
+    argumentos.setApplicationDescription(u"Recorre un mes completo en las ventanas del programa."_s);
     argumentos.addHelpOption();
-    argumentos.addOption({QStringLiteral("carpeta"), QStringLiteral("Dónde dejar lo que hace."), QStringLiteral("carpeta"),
-                          QDir::currentPath() + QStringLiteral("/build/recorrido")});
+    argumentos.addOption({u"carpeta"_s, u"Dónde dejar lo que hace."_s, u"carpeta"_s,
+                          QDir::currentPath() + u"/build/recorrido"_s});
     argumentos.process(aplicacion);
-    const QString carpeta = QDir(argumentos.value(QStringLiteral("carpeta"))).absolutePath();
+    const QString carpeta = QDir(argumentos.value(u"carpeta"_s)).absolutePath();
     try {
         preparar(carpeta);
         // The return of October is made in November, before it is due.
@@ -61,7 +63,7 @@ int main(int argc, char** argv)
         QApplication::processEvents();
         Guia guia(&principal, carpeta);
         recorrer(principal, guia);
-        Cajas::durante({{QStringLiteral("¿Está seguro que desea salir del sistema?"), QStringLiteral("VEDRA-RTN")}}, [&] { principal.close(); });
+        Cajas::durante({{u"¿Está seguro que desea salir del sistema?"_s, u"VEDRA-RTN"_s}}, [&] { principal.close(); });
         std::printf("\nEl mes está completo: %d pasos, %d imágenes.\nTodo quedó en %s\n", guia.pasos(), guia.fotos(), qUtf8Printable(carpeta));
         return EXIT_SUCCESS;
     } catch (const std::exception& e) {

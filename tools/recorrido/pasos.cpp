@@ -1,10 +1,10 @@
 #include "recorrido/pasos.h"
 
-#include "core/MDIPrincipal.h"
-#include "core/formulario.h"
+#include "application/screens/MDIPrincipal.h"
+#include "widgets/formulario.h"
 #include "core/modGlobales.h"
 #include "manejo/manejo.h"
-#include "printing/frmReportes.h"
+#include "printing/screens/frmReportes.h"
 #include "recorrido/guia.h"
 #include "recorrido/pasos_catalogo.h"
 
@@ -16,6 +16,8 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 using namespace manejo;
 
@@ -75,7 +77,7 @@ private:
     {
         auto* accion = principal_.findChild<QAction*>(QLatin1String(nombre));
         if (!accion || !accion->isEnabled())
-            throw Inesperado(QStringLiteral("el menú no ofrece ") + QLatin1String(nombre));
+            throw Inesperado(u"el menú no ofrece "_s + QLatin1String(nombre));
         accion->trigger();
         QApplication::processEvents();
     }

@@ -1,6 +1,6 @@
 #include "recorrido/pasos_catalogo.h"
 
-#include "core/formulario.h"
+#include "widgets/formulario.h"
 #include "manejo/manejo.h"
 #include "recorrido/guia.h"
 

@@ -1,0 +1,96 @@
+#include "agents/screens/frmRTN_editar.h"
+
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
+#include "agents/agente.h"
+#include "ui_frmRTN_editar.h"
+
+#include <QRegularExpressionValidator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Text controls and the fields that they show.
+struct Enlace
+{
+    const char* control;
+    QString Agente::* campo;
+};
+
+constexpr Enlace CAMPOS[] = {
+    {"txtTitular", &Agente::titular},
+    {"txtCUIT", &Agente::cuit},
+    {"txtDomicilio", &Agente::domicilio},
+    {"txtCodPostal", &Agente::codPostal},
+    {"txtTelefono", &Agente::telefono},
+    {"txtEmail", &Agente::email},
+    {"txtAdscripto1_nombre", &Agente::adscripto1},
+    {"txtAdscripto1_cuit", &Agente::adscripto1Cuit},
+    {"txtAdscripto2_nombre", &Agente::adscripto2},
+    {"txtAdscripto2_cuit", &Agente::adscripto2Cuit},
+};
+
+}  // namespace
+
+frmRTN_editar::frmRTN_editar() : ui(std::make_unique<Ui::frmRTN_editar>())
+{
+    ui->setupUi(this);
+    for (QLineEdit* texto : {ui->txtTitular, ui->txtDomicilio, ui->txtCodPostal, ui->txtAdscripto1_nombre, ui->txtAdscripto2_nombre})
+        a_mayusculas(texto);
+    static const QRegularExpression sin_apostrofo(u"[^']*"_s);
+    ui->txtEmail->setValidator(new QRegularExpressionValidator(sin_apostrofo, this));
+    llenar_combo(ui->cboLocalidad, localidades_propias());
+    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        if (clave == u"aceptar")
+            aceptar();
+        else
+            descargar();
+    });
+}
+
+frmRTN_editar::~frmRTN_editar() = default;
+
+void frmRTN_editar::Inicializar(Modo operacion, int nro)
+{
+    Operacion = operacion;
+    nro_ = nro;
+    setWindowTitle(operacion == Modo::nuevo ? u"Nuevo agente de retención"_s : u"Modificar agente de retención"_s);
+    if (operacion != Modo::modificar)
+        return;
+    if (const auto agente = cargar_agente(nro))
+        mostrarAgente(*agente);
+}
+
+Agente frmRTN_editar::leer_controles() const
+{
+    Agente a;
+    a.nroRegNotarial = int(ui->nroRegNotarial->Value());
+    a.localidad = item_data(ui->cboLocalidad);
+    for (const Enlace& e : CAMPOS)
+        a.*e.campo = findChild<QLineEdit*>(QLatin1String(e.control))->text();
+    return a;
+}
+
+void frmRTN_editar::mostrarAgente(const Agente& a)
+{
+    ui->nroRegNotarial->setValue(a.nroRegNotarial);
+    seleccionar_item(ui->cboLocalidad, a.localidad);
+    for (const Enlace& e : CAMPOS)
+        findChild<QLineEdit*>(QLatin1String(e.control))->setText(a.*e.campo);
+}
+
+void frmRTN_editar::aceptar()
+{
+    Agente agente = leer_controles();
+    const auto falla = validar_agente(agente);
+    mostrarAgente(agente);
+    if (falla) {
+        mostrarFalla(*falla);
+        return;
+    }
+    DialogoPantalla dialogo(this);
+    if (Operacion == Modo::nuevo ? agregar_agente(agente, windowTitle(), dialogo)
+                                 : modificar_agente(agente, nro_, windowTitle(), dialogo))
+        descargar();
+}

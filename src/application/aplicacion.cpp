@@ -1,0 +1,57 @@
+#include "application/aplicacion.h"
+
+#include "widgets/barra.h"
+#include "widgets/mensajes.h"
+#include "core/modGlobales.h"
+
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QPalette>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
+{
+    setApplicationName(u"VEDRA-RTN"_s);
+    setApplicationVersion(QStringLiteral(RTN_VERSION));
+    iniciar_recursos();
+    setWindowIcon(QIcon(u":/iconos/programa.svg"_s));
+    // A form that is only read shows most of its fields disabled: they must stay easy to read.
+    QPalette colores = palette();
+    for (const auto papel : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        colores.setColor(QPalette::Disabled, papel, QColor(Qt::darkGray).darker(130));
+    setPalette(colores);
+    auto* traductor = new QTranslator(this);
+    if (traductor->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        installTranslator(traductor);
+}
+
+bool Aplicacion::notify(QObject* objeto, QEvent* evento)
+{
+    try {
+        return QApplication::notify(objeto, evento);
+    } catch (const ErrorAlmacen& e) {
+        terminar(e.descripcion);
+    } catch (const std::exception& e) {
+        terminar(QString::fromUtf8(e.what()));
+    }
+}
+
+void Aplicacion::terminar(const QString& error)
+{
+    static bool terminando = false;
+    if (!terminando) {
+        terminando = true;
+        // Before the box: while it stands, nothing half done is held open.
+        cnRtn.deshacerTodo();
+        std::fprintf(stderr, "%s\n", qUtf8Printable(error));
+        DialogoPantalla(nullptr).avisar({error, u"VEDRA-RTN"_s, Icono::critico});
+        cnRtn.cerrar();
+        cnTmp.cerrar();
+    }
+    std::_Exit(EXIT_FAILURE);
+}

@@ -1,0 +1,18 @@
+#include "application/screens/MDIPrincipal.h"
+#include "application/aplicacion.h"
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    Aplicacion aplicacion(argc, argv);
+    try {
+        MDIPrincipal principal;
+        if (!principal.iniciar())
+            return EXIT_FAILURE;
+        principal.showMaximized();
+        return Aplicacion::exec();
+    } catch (const std::exception& e) {
+        Aplicacion::terminar(QString::fromUtf8(e.what()));
+    }
+}

@@ -1,0 +1,92 @@
+#include "application/screens/MDIPrincipal.h"
+
+#include "catalogue/screens/frmSubconceptos.h"
+#include "core/arranque.h"
+#include "widgets/formulario.h"
+#include "application/screens/frmAcercaDe.h"
+#include "application/screens/frmBackup.h"
+#include "widgets/mensajes.h"
+#include "core/modGlobales.h"
+#include "declarations/screens/frmDJ_buscar.h"
+#include "agents/screens/frmRTN_buscar.h"
+#include "ui_MDIPrincipal.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
+{
+    ui->setupUi(this);
+    setCentralWidget(ui->area);
+    ui->area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    ui->area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // Backup and recovery have no working logic; nothing makes them available.
+    ui->sm_backup_recuperacion->menuAction()->setVisible(false);
+    ui->sm_backup_recuperacion->setEnabled(false);
+    Formulario::fijarArea(ui->area);
+
+    connect(ui->ssmRTN, &QAction::triggered, this, [] { cargar<frmRTN_buscar>()->mostrar(); });
+    connect(ui->smSubconceptos, &QAction::triggered, this, [this] {
+        auto* catalogo = cargar<frmSubconceptos>();
+        Hab_Deshab_Menu(false);
+        connect(catalogo, &frmSubconceptos::cerrado, this, [this] { Hab_Deshab_Menu(true); });
+        catalogo->mostrar();
+    });
+    connect(ui->ssmDJ, &QAction::triggered, this, [] { cargar<frmDJ_buscar>()->mostrar(); });
+    connect(ui->ssmBackup, &QAction::triggered, this, [] { cargar<frmBackup>()->mostrar(); });
+    connect(ui->smAcercaDe, &QAction::triggered, this, [] { cargar<frmAcercaDe>()->mostrar(); });
+    connect(ui->smSalir, &QAction::triggered, this, &QWidget::close);
+}
+
+MDIPrincipal::~MDIPrincipal()
+{
+    Formulario::fijarArea(nullptr);
+}
+
+bool MDIPrincipal::iniciar()
+{
+    DialogoPantalla dialogo(nullptr);
+    if (!abrir_base(dialogo))
+        return false;
+    cargar_parametros(dialogo);
+    cargar_ley_vigente(dialogo);
+    mostrarEstado();
+    return true;
+}
+
+void MDIPrincipal::mostrarEstado()
+{
+    auto* ruta = new QLabel(u"Base de datos: "_s + QDir::toNativeSeparators(ruta_abierta()));
+    ruta->setObjectName(u"panelBase"_s);
+    auto* ley = new QLabel(LeyVigente == 0 ? u"Sin ley vigente"_s
+                                           : u"Ley vigente: %1 (desde %2)"_s
+                                                 .arg(LeyVigente)
+                                                 .arg(LeyVigenciaDesde.toString(u"dd/MM/yyyy"_s)));
+    ley->setObjectName(u"panelLey"_s);
+    ui->StatusBar->addWidget(ruta, 1);
+    ui->StatusBar->addPermanentWidget(ley);
+}
+
+void MDIPrincipal::Hab_Deshab_Menu(bool habilitar)
+{
+    ui->smSubconceptos->setEnabled(habilitar);
+}
+
+void MDIPrincipal::closeEvent(QCloseEvent* evento)
+{
+    evento->ignore();
+    if (!DialogoPantalla(this).preguntar({u"¿Está seguro que desea salir del sistema?"_s,
+                                          u"VEDRA-RTN"_s, Icono::pregunta}))
+        return;
+    // The newest form stands on the others. One that the user keeps open keeps the program.
+    auto formularios = Formulario::cargados();
+    while (!formularios.isEmpty())
+        if (!formularios.takeLast()->descargar())
+            return;
+    cnRtn.cerrar();
+    cnTmp.cerrar();
+    evento->accept();
+}

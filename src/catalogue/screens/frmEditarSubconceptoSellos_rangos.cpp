@@ -1,0 +1,156 @@
+// The tabs of brackets and roles.
+
+#include "catalogue/screens/frmEditarAlicuota.h"
+#include "catalogue/screens/frmEditarModulo.h"
+#include "catalogue/screens/frmEditarRol.h"
+#include "catalogue/screens/frmEditarSubconceptoSellos.h"
+#include "catalogue/roles_catalogo.h"
+#include "core/clsLocaleInfo.h"
+#include "core/modGlobales.h"
+#include "core/motivos.h"
+#include "ui_frmEditarSubconceptoSellos.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A number of the store in the separators of the user's locale, with the decimals that it has.
+QString numero_local(double valor)
+{
+    return numero_sql(valor).replace(u'.', clsLocaleInfo().sDecimal());
+}
+
+QString cota(double valor)
+{
+    return valor == SIN_LIMITE ? u"Sin límite"_s : importe_llano(valor);
+}
+
+QString si_no(bool si)
+{
+    return si ? u"Si"_s : u"No"_s;
+}
+
+// The bracket or role of the grid's current row, which stands in the order of the list.
+template <class T>
+const T* elegido(const Grilla* grilla, const QList<T>& lista)
+{
+    const int fila = grilla->filaActual();
+    return fila < 0 || fila >= lista.size() ? nullptr : &lista[fila];
+}
+
+}  // namespace
+
+void frmEditarSubconceptoSellos::prepararRangos()
+{
+    preparar_grilla(ui->grillaAlicuotas, {u"Desde"_s, u"Hasta"_s, u"Alicuota"_s, u"Expresión"_s},
+                    {2000, 2000, 1600, 2000});
+    preparar_grilla(ui->grillaModulos, {u"Desde"_s, u"Hasta"_s, u"Monto Impuesto"_s}, {2000, 2000, 2000});
+    preparar_grilla(ui->grillaRoles,
+                    {u"Id"_s, u"Descripción"_s, u"Interviene"_s, u"Obligado"_s, u"Requrido SM"_s,
+                     u"Depende de"_s, u"Con valor de"_s, u"de la Tabla"_s, u"CuitEnTramite"_s},
+                    {1300, 2600, 1200, 900, 1200, 2000, 1200, 1600, 1200});
+    for (const auto& [grilla, barra, clave] : {std::tuple{ui->grillaAlicuotas, ui->tlbAlicuotas, "modificar"},
+                                               std::tuple{ui->grillaModulos, ui->tlbModulos, "modificar"},
+                                               std::tuple{ui->grillaRoles, ui->tlbRoles, "editar"}})
+        connect(grilla, &Grilla::elegida, this, [barra, clave] { barra->pulsar(QLatin1StringView(clave)); });
+    ui->fraModulos->hide();
+}
+
+void frmEditarSubconceptoSellos::obtener_alicuotas()
+{
+    alicuotas_ = alicuotas_de(codigo());
+    ui->grillaAlicuotas->llenar([this] {
+        for (const clsAlicuotaSellos& a : std::as_const(alicuotas_))
+            ui->grillaAlicuotas->agregar(QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
+                                          a.Divisor == 0 ? QString() : numero_local(a.Dividendo) + u'/' + numero_local(a.Divisor)});
+    });
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::obtener_modulos()
+{
+    modulos_ = modulos_de(codigo());
+    ui->grillaModulos->llenar([this] {
+        for (const clsModuloSellos& m : std::as_const(modulos_))
+            ui->grillaModulos->agregar(QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
+    });
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::obtener_roles()
+{
+    roles_ = roles_de(codigo());
+    ui->grillaRoles->llenar([this] {
+        for (const clsRol& r : std::as_const(roles_))
+            ui->grillaRoles->agregar({QString::number(r.IdRol), r.Descripcion, r.Requerido ? u"Siempre"_s : u"Esporádico"_s,
+                                      si_no(r.ParicipaImpuesto), si_no(r.CargaOblig_SM), r.SSUBAtributo, r.SSUBAtributo_valor, r.SSUBAtributo_tabla,
+                                      si_no(r.Permite_CuitEnTramite)});
+    });
+    habilitarBarras();
+}
+
+void frmEditarSubconceptoSellos::habilitarBarras()
+{
+    const bool si = editando_ && guardado_;
+    for (const auto& [barra, filas] : {std::pair{ui->tlbAlicuotas, alicuotas_.size()}, {ui->tlbModulos, modulos_.size()}, {ui->tlbRoles, roles_.size()}}) {
+        barra->habilitar(u"alta"_s, si);
+        for (const char* clave : {"modificar", "editar", "borrar"})
+            barra->habilitar(QLatin1StringView(clave), si && filas > 0);
+    }
+}
+
+void frmEditarSubconceptoSellos::borrar(const QString& pregunta, const QString& titulo, const QString& tituloError, const std::function<void()>& accion)
+{
+    if (!preguntar(pregunta, titulo))
+        return;
+    try {
+        accion();
+    } catch (const ErrorAlmacen& e) {
+        avisar(motivo_de_escritura(e), tituloError);
+    }
+}
+
+template <class Editor, class T>
+void frmEditarSubconceptoSellos::abrirEditor(const T* elegido)
+{
+    auto* editor = cargar<Editor>();
+    editor->Inicializar(elegido ? Modo::modificar : Modo::nuevo, codigo(), elegido ? *elegido : T());
+    abrir(editor);
+}
+
+void frmEditarSubconceptoSellos::tlbAlicuotas_pulsada(const QString& clave)
+{
+    const clsAlicuotaSellos* a = elegido(ui->grillaAlicuotas, alicuotas_);
+    if (clave == u"borrar" && a) {
+        borrar(u"¿Está seguro que desea borrar la alicuota seleccionada?"_s, u"Borrar alicuota de sellos"_s,
+               u"Borrar alicuota de sellos"_s, [id = a->IdAlicuota] { borrar_rango(RANGOS_ALICUOTAS, id); });
+        obtener_alicuotas();
+    } else if (clave == u"alta" || a) {
+        abrirEditor<frmEditarAlicuota>(clave == u"alta" ? nullptr : a);
+    }
+}
+
+void frmEditarSubconceptoSellos::tlbModulos_pulsada(const QString& clave)
+{
+    const clsModuloSellos* m = elegido(ui->grillaModulos, modulos_);
+    if (clave == u"borrar" && m) {
+        // The title of the question is that of the rates, deliberately.
+        borrar(u"¿Está seguro que desea borrar el rango seleccionado?"_s, u"Borrar alicuota de sellos"_s,
+               u"Borrar rango de módulos de sellos"_s, [id = m->IdModulo] { borrar_rango(RANGOS_MODULOS, id); });
+        obtener_modulos();
+    } else if (clave == u"alta" || m) {
+        abrirEditor<frmEditarModulo>(clave == u"alta" ? nullptr : m);
+    }
+}
+
+void frmEditarSubconceptoSellos::tlbRoles_pulsada(const QString& clave)
+{
+    const clsRol* r = elegido(ui->grillaRoles, roles_);
+    if (clave == u"borrar" && r) {
+        borrar(u"¿Está seguro que desea borrar la parte seleccionada?"_s, u"Borrar parte"_s, u"Borrar rol"_s,
+               [id = r->IdRol] { borrar_rol(id); });
+        obtener_roles();
+    } else if (clave == u"alta" || r) {
+        abrirEditor<frmEditarRol>(clave == u"alta" ? nullptr : r);
+    }
+}

@@ -1,0 +1,54 @@
+// The taxable items of the catalogue: found by their filters, picked, and kept.
+#pragma once
+
+#include "widgets/formulario.h"
+
+#include <memory>
+
+namespace Ui {
+class frmSubconceptos;
+}
+struct FiltroSubconceptos;
+
+/// What takes an item that was picked, by its identifier.
+class ReceptorSubconcepto
+{
+public:
+    virtual ~ReceptorSubconcepto() = default;
+    virtual void SeleccionarSubconcepto(int id) = 0;
+};
+
+class frmSubconceptos : public Formulario
+{
+    Q_OBJECT
+
+public:
+    frmSubconceptos();
+    ~frmSubconceptos() override;
+
+    /// Lists only the items of this concept, 0 for all.
+    int concepto = 0;
+    /// Lists only the items of a law, 0 for all.
+    int ley = 0;
+
+    void alActivar() override;
+    void buscar_subconceptos();
+
+signals:
+    void cerrado();
+
+protected:
+    void alDescargar() override;
+
+private:
+    void pulsada(const QString& clave);
+    void ordenar(int columna);
+    void seleccionar();
+    void abrirEditor(Modo operacion);
+    void borrar();
+    void habilitarBotones();
+    [[nodiscard]] FiltroSubconceptos filtro() const;
+
+    std::unique_ptr<Ui::frmSubconceptos> ui;
+    QString orden_;
+};

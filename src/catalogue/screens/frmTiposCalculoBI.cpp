@@ -1,0 +1,50 @@
+#include "catalogue/screens/frmTiposCalculoBI.h"
+
+#include "core/modGlobales.h"
+#include "ui_frmTiposCalculoBI.h"
+
+using namespace Qt::StringLiterals;
+
+frmTiposCalculoBI::frmTiposCalculoBI() : ui(std::make_unique<Ui::frmTiposCalculoBI>())
+{
+    ui->setupUi(this);
+    preparar_grilla(ui->grillaTCBI, {u"ID"_s, u"Descripción"_s, u"Observaciones"_s}, {600, 4200, 3600});
+    connect(ui->grillaTCBI->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmTiposCalculoBI::mostrarFila);
+    connect(ui->grillaTCBI, &Grilla::elegida, this, [this] { ui->tlbTCBI->pulsar(u"seleccionar"_s); });
+    connect(ui->tlbTCBI, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        if (clave == u"seleccionar")
+            seleccionar();
+        else
+            descargar();
+    });
+    ui->grillaTCBI->llenar([this] {
+        for (Recordset rs(cnRtn, u"select * from SEL_TB_TIPOS_CALCULO_BI"_s); !rs.eof(); rs.siguiente())
+            ui->grillaTCBI->agregar({rs.texto("SCBI_ID"), rs.texto("SCBI_DESCRIPCION"), rs.texto("SCBI_OBSERVACIONES")});
+    });
+}
+
+frmTiposCalculoBI::~frmTiposCalculoBI() = default;
+
+void frmTiposCalculoBI::fijarTCBI(int id)
+{
+    for (int i = 0; i < ui->grillaTCBI->filas(); ++i)
+        if (ui->grillaTCBI->celda(i, 0).toInt() == id)
+            ui->grillaTCBI->irAFila(i);
+}
+
+void frmTiposCalculoBI::mostrarFila()
+{
+    const int fila = ui->grillaTCBI->filaActual();
+    IdTCBI_ = ui->grillaTCBI->celda(fila, 0).toInt();
+    ui->txtDescripcion->setText(ui->grillaTCBI->celda(fila, 1));
+    ui->txtObservaciones->setText(ui->grillaTCBI->celda(fila, 2));
+}
+
+void frmTiposCalculoBI::seleccionar()
+{
+    if (ui->grillaTCBI->filaActual() < 0)
+        return;
+    if (auto* receptor = dynamic_cast<ReceptorTCBI*>(Llamador.data()))
+        receptor->TCBI(IdTCBI_, ui->txtDescripcion->text());
+    descargar();
+}

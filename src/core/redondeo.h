@@ -1,0 +1,30 @@
+// Decimal rounding and the texts of numbers. There is no other place that rounds.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+#include <string>
+
+/// The number's text of 15 significant digits, rounded half away from zero to `decimales`, with
+/// "." as separator and no grouping. What rounds to zero has no sign. Throws ErrorConversion for what is
+/// no finite number, and so do all others here that round.
+[[nodiscard]] QString formato_decimal(double valor, int decimales);
+/// The same rounding, as a number.
+[[nodiscard]] double redondear(double valor, int decimales);
+/// The same under a mask: these separators, an empty `miles` being no grouping.
+[[nodiscard]] QString con_mascara(double valor, int decimales, const QString& coma, const QString& miles);
+/// Rounded to a whole number, in plain digits.
+[[nodiscard]] std::string cifras_enteras(double valor);
+/// The number scaled to its last decimal and rounded, where that needs no text: far from a half, and
+/// well below 15 digits. Nothing elsewhere.
+[[nodiscard]] std::optional<qint64> escalado(double valor, int decimales);
+
+/// An amount with two decimals in the separators of the user's locale, not grouped.
+[[nodiscard]] QString importe_llano(double importe);
+/// An amount or a rate in the separators of the user's locale, grouped.
+[[nodiscard]] QString importe_agrupado(double importe, int decimales = 2);
+/// A whole number with leading zeros up to `ancho`.
+[[nodiscard]] QString con_ceros(qint64 valor, int ancho);
+/// Up to 15 significant digits with ".", as a statement takes a number.
+[[nodiscard]] QString numero_sql(double valor);

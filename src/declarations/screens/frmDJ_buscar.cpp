@@ -1,0 +1,175 @@
+#include "declarations/screens/frmDJ_buscar.h"
+
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
+#include "agents/agente.h"
+#include "declarations/screens/frmDJ_editar.h"
+#include "declarations/lista_dj.h"
+#include "filing/archivo_dj.h"
+#include "filing/empaquetado.h"
+#include "filing/verificacion.h"
+#include "printing/screens/frmReportes.h"
+#include "ui_frmDJ_buscar.h"
+
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+frmDJ_buscar::frmDJ_buscar() : ui(std::make_unique<Ui::frmDJ_buscar>())
+{
+    ui->setupUi(this);
+    preparar_grilla(ui->flx,
+                    {u"DJ Nº"_s, u"AR Nº"_s, u"Municipio"_s, u"Año"_s, u"Mes"_s,
+                     u"Rectif."_s, u"Estado"_s, u"Observaciones"_s},
+                    {2200, 1000, 2800, 800, 800, 800, 1400, 2000});
+    cargar_agentes();
+    ui->nroAnio->ClearText();
+    ui->nroMes->ClearText();
+
+    connect(ui->tlbDJ, &BarraHerramientas::pulsada, this, &frmDJ_buscar::tlbDJ_pulsada);
+    connect(ui->flx, &Grilla::elegida, this, [this] { ui->tlbDJ->pulsar(u"modificar"_s); });
+    connect(ui->cboRTN, &QComboBox::activated, this, [this] { listar_dj(true); });
+    for (ctlNumero* n : {ui->nroAnio, ui->nroMes})
+        n->findChild<QLineEdit*>(u"txt"_s)->installEventFilter(this);
+    connect(ui->nroAnio, &ctlNumero::KeyPress, this, [this](int& tecla) {
+        if (tecla == 13)
+            aceptarAnio();
+    });
+    connect(ui->nroMes, &ctlNumero::KeyPress, this, [this](int& tecla) {
+        if (tecla == 13)
+            aceptarMes();
+    });
+    connect(ui->nroAnio, &ctlNumero::salida, this, &frmDJ_buscar::aceptarAnio);
+}
+
+frmDJ_buscar::~frmDJ_buscar() = default;
+
+void frmDJ_buscar::alActivar()
+{
+    listar_dj(false);
+    habilitar_botones();
+}
+
+// A month that is none keeps the focus: the validation is refused.
+bool frmDJ_buscar::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (evento->type() == QEvent::FocusOut && objeto == ui->nroMes->focusProxy()) {
+        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+        const bool sale = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason || motivo == Qt::MouseFocusReason
+            || motivo == Qt::OtherFocusReason || motivo == Qt::ShortcutFocusReason;
+        if (sale && !aceptarMes())
+            QMetaObject::invokeMethod(ui->nroMes, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
+    }
+    return Formulario::eventFilter(objeto, evento);
+}
+
+void frmDJ_buscar::aceptarAnio()
+{
+    if (ui->nroAnio->Value() == 0)
+        ui->nroAnio->ClearText();
+    else
+        listar_dj(true);
+}
+
+bool frmDJ_buscar::aceptarMes()
+{
+    const double mes = ui->nroMes->Value();
+    if (mes == 0) {
+        ui->nroMes->ClearText();
+        return true;
+    }
+    if (mes < 1 || mes > 12)
+        return false;
+    listar_dj(true);
+    return true;
+}
+
+void frmDJ_buscar::cargar_agentes()
+{
+    Entradas leidas;
+    try {
+        leidas = leer_entradas(consulta_agentes(), "SRTN_TITULAR_NOMBRE", "SRTN_NRO");
+    } catch (const ErrorAlmacen&) {
+        avisar(u"Error al cargar los agentes de retención"_s, {}, Icono::ninguno);
+    }
+    llenar_combo(ui->cboRTN, con_sin_filtro(leidas));
+    ui->cboRTN->setCurrentIndex(0);
+}
+
+void frmDJ_buscar::listar_dj(bool limpiar)
+{
+    if (limpiar)
+        ui->flx->vaciar();
+    const FiltroDJ filtro{item_data(ui->cboRTN), int(ui->nroAnio->Value()), int(ui->nroMes->Value())};
+    ui->flx->llenar([&] { leer_lista_dj(filtro, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
+    habilitar_botones();
+}
+
+void frmDJ_buscar::habilitar_botones()
+{
+    for (const char* clave : {"modificar", "borrar", "rectificar", "emitir"})
+        ui->tlbDJ->habilitar(QLatin1String(clave), ui->flx->filas() > 0);
+}
+
+void frmDJ_buscar::abrirEditor(Modo operacion, const QString& nro)
+{
+    auto* editor = cargar<frmDJ_editar>();
+    if (editor->iniciar(operacion, nro))
+        abrir(editor);
+    else
+        editor->descargar();
+}
+
+void frmDJ_buscar::tlbDJ_pulsada(const QString& clave)
+{
+    const QString nro = ui->flx->clave();
+    if (clave == u"salir")
+        descargar();
+    else if (clave == u"nueva")
+        abrirEditor(Modo::nuevo, {});
+    else if (nro.isEmpty())
+        return;
+    else if (clave == u"modificar")
+        abrirEditor(Modo::modificar, nro);
+    else if (clave == u"rectificar")
+        rectificar();
+    else if (clave == u"emitir")
+        emitir();
+    else if (clave == u"borrar" && preguntar(u"¿Esta seguro que desea borrar la DJ seleccionada?"_s, u"Borrar DJ"_s)) {
+        DialogoPantalla dialogo(this);
+        borrar_dj(nro, dialogo);
+        listar_dj(false);
+    }
+}
+
+void frmDJ_buscar::rectificar()
+{
+    DialogoPantalla dialogo(this);
+    const QString ultima = dj_a_rectificar(ui->flx->clave(), dialogo);
+    if (!ultima.isEmpty())
+        abrirEditor(Modo::rectificar, ultima);
+}
+
+void frmDJ_buscar::emitir()
+{
+    DialogoPantalla dialogo(this);
+    const QString nro = ui->flx->clave();
+    if (!verificar_dj_completa(nro, windowTitle(), dialogo))
+        return;
+    const EmisionArchivo emision = generar_archivo_dj(nro);
+    if (emision.codigo.isEmpty()) {
+        avisar(u"No se puede emitir la DJ impresa sin generar el archivo previamente \n" u"debido a que se genera un código de verificación de la integridad entre el diskete y la DJ impresa"_s,
+               {}, Icono::ninguno);
+        return;
+    }
+    const auto pedir = [this](const QString& propuesto) {
+        return QFileDialog::getSaveFileName(this, u"Guardar la declaración jurada"_s, propuesto, u"Archivo comprimido (*.rar)"_s);
+    };
+    if (!comprimir_dj(nro, dialogo, pedir))
+        return;
+    auto* reporte = cargar<frmReportes>();
+    reporte->DJ(nro, emision.codigo);
+    abrir(reporte);
+}

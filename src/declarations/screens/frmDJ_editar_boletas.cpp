@@ -1,0 +1,137 @@
+// The tab of the deposit slips.
+
+#include "core/almacen.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/ctlEspera.h"
+#include "declarations/screens/frmDJ_editar.h"
+#include "payment/boletas.h"
+#include "printing/datos_impresos.h"
+#include "printing/screens/frmReportes.h"
+#include "ui_frmDJ_editar.h"
+
+using namespace Qt::StringLiterals;
+
+void frmDJ_editar::conectarBoletas()
+{
+    connect(ui->tlbB, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbB_pulsada);
+    connect(ui->flxB, &Grilla::elegida, this, [this] { ui->tlbB->pulsar(u"imprimir"_s); });
+    for (ctlNumero* n : {ui->nroImpuesto, ui->nroInteres})
+        connect(n, &ctlNumero::cambiado, this,
+                [this] { ui->nroBOL_Total_depositar->setValue(ui->nroImpuesto->Value() + ui->nroInteres->Value()); });
+    for (ctlNumero* n : {ui->nroEfectivo, ui->nroCheque1_monto, ui->nroCheque2_monto})
+        connect(n, &ctlNumero::cambiado, this, [this] {
+            ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value() + ui->nroEfectivo->Value());
+        });
+    habilitar_botones_boleta();
+}
+
+void frmDJ_editar::alDescargar()
+{
+    puntero_normal();
+}
+
+void frmDJ_editar::devolverBoletas()
+{
+    ui->tlbB->setEnabled(true);
+}
+
+void frmDJ_editar::cargar_boletas()
+{
+    ui->flxB->llenar([this] { leer_boletas(ui->txtNroDJ->text(), [this](const QStringList& fila) { ui->flxB->agregar(fila); }); });
+    habilitar_botones_boleta();
+}
+
+void frmDJ_editar::habilitar_botones_boleta()
+{
+    for (const char* clave : {"borrar", "imprimir"})
+        ui->tlbB->habilitar(QLatin1String(clave), ui->flxB->filas() > 0);
+}
+
+ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
+{
+    ControlesBoleta c;
+    c.dj = ui->txtNroDJ->text();
+    c.agenteNro = ui->txtRTN_nro->text();
+    c.agenteNombre = ui->cboRTN->currentText();
+    c.anio = ui->txtAnio->text();
+    c.mes = item_data(ui->cboMes);
+    c.secuencia = item_data(ui->cboRectificativa);
+    c.emision = ui->dtpBOL_emision->date();
+    c.vencimiento = ui->dtpBOL_venc->date();
+    const std::pair<Numero*, ctlNumero*> numeros[] = {
+        {&c.impuesto, ui->nroImpuesto}, {&c.interes, ui->nroInteres}, {&c.totalDepositar, ui->nroBOL_Total_depositar},
+        {&c.efectivo, ui->nroEfectivo}, {&c.cheques[0].monto, ui->nroCheque1_monto}, {&c.cheques[1].monto, ui->nroCheque2_monto},
+        {&c.totalBoleta, ui->nroTotalBoleta}};
+    for (const auto& [numero, campo] : numeros)
+        numero->escribirTexto(campo->toString());
+    c.cheques[0].nro = ui->txtCheque1_nro->text();
+    c.cheques[0].banco = ui->txtCheque1_banco->text();
+    c.cheques[1].nro = ui->txtCheque2_nro->text();
+    c.cheques[1].banco = ui->txtCheque2_banco->text();
+    c.filial = ui->txtFilialBanco->text();
+    return c;
+}
+
+// A refused check deliberately leaves the toolbar disabled and the pointer an hourglass, until the
+// report window gives them back or the editor closes.
+void frmDJ_editar::generar_boleta()
+{
+    ui->tlbB->setEnabled(false);
+    puntero_de_espera();
+    ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value() + ui->nroEfectivo->Value());
+    ControlesBoleta c = leer_boleta_de_pantalla();
+    const auto falla = validar_boleta(c);
+    ui->txtCheque1_nro->setText(c.cheques[0].nro);
+    ui->txtCheque1_banco->setText(c.cheques[0].banco);
+    ui->txtCheque2_nro->setText(c.cheques[1].nro);
+    ui->txtCheque2_banco->setText(c.cheques[1].banco);
+    if (falla) {
+        mostrarFalla(*falla);
+        return;
+    }
+    const QString nro = insertar_boleta(c);
+    cargar_boletas();
+    imprimir_boleta(nro);
+    habilitar_botones_boleta();
+}
+
+void frmDJ_editar::imprimir_boleta(const QString& nro)
+{
+    std::optional<BoletaImpresa> boleta;
+    try {
+        boleta = leer_boleta(nro);
+    } catch (const ErrorAlmacen&) {
+        // Nothing is told: the slip is stored, and may be printed again.
+    }
+    if (!boleta) {
+        devolverBoletas();
+        puntero_normal();
+        return;
+    }
+    auto* reporte = cargar<frmReportes>();
+    connect(reporte, &frmReportes::cerrado, this, &frmDJ_editar::devolverBoletas, Qt::UniqueConnection);
+    reporte->BolDep(*boleta);
+    abrir(reporte);
+}
+
+void frmDJ_editar::tlbB_pulsada(const QString& clave)
+{
+    if (clave == u"generar") {
+        generar_boleta();
+        return;
+    }
+    const QString nro = ui->flxB->clave();
+    if (nro.isEmpty())
+        return;
+    if (clave == u"imprimir") {
+        imprimir_boleta(nro);
+        return;
+    }
+    const QString titulo = u"Borrar boleta"_s;
+    if (!preguntar(u"¿Esta seguro de borrar la boleta seleccionada?"_s, titulo))
+        return;
+    if (borrar_boleta(nro) == 0)
+        avisar(u"No se pudo borrar la boleta seleccionada"_s, titulo);
+    else
+        cargar_boletas();
+}

@@ -1,0 +1,18 @@
+// What hangs from a deed: the rows of its three lists, their deletion, and the totals that
+// deletion lowers.
+#pragma once
+
+#include "core/dialogo.h"
+#include "core/filas.h"
+#include "tree/renglon.h"
+
+void leer_partes(const RenglonDJ& r, const AgregarFila& fila);
+/// Gives the sum of the operations, in pesos.
+double leer_operaciones(const RenglonDJ& r, const AgregarFila& fila);
+void leer_inmuebles(const RenglonDJ& r, const AgregarFila& fila);
+
+void borrar_parte(const RenglonDJ& r, const QString& id);
+void borrar_inmueble(const RenglonDJ& r, const QString& id);
+/// Deletes an operation and takes `total`, the tax of the whole deed as it is shown (SQL form),
+/// off the deed and the DJ.
+void borrar_operacion(const RenglonDJ& r, const QString& id, const QString& total, Dialogo& dialogo);

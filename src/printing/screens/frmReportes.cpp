@@ -1,0 +1,150 @@
+#include "printing/screens/frmReportes.h"
+
+#include "core/almacen.h"
+#include "widgets/ctlEspera.h"
+#include "printing/datos_impresos.h"
+#include "printing/screens/rptRTN_boldep1.h"
+#include "printing/screens/rptSalida.h"
+#include "printing/screens/rpt_dj.h"
+#include "printing/screens/rpt_recibo.h"
+#include "ui_frmReportes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QPrintDialog>
+#include <QPrinter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int ZOOM_ANCHO = 0;
+constexpr int ZOOM_PAGINA = 1;
+
+}  // namespace
+
+frmReportes::frmReportes() : ui(std::make_unique<Ui::frmReportes>())
+{
+    ui->setupUi(this);
+    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        if (clave == u"imprimir")
+            imprimir();
+        else if (clave == u"pdf")
+            pedirPDF();
+        else
+            descargar();
+    });
+    ui->tlb->boton(u"imprimir"_s)->setShortcuts({ui->tlb->boton(u"imprimir"_s)->shortcut(), QKeySequence::Print});
+    connect(ui->cboZoom, &QComboBox::activated, this, &frmReportes::cambiarZoom);
+    connect(ui->spnPagina, &QSpinBox::editingFinished, this, [this] { ui->CRViewer91->irAPagina(ui->spnPagina->value() - 1); });
+    connect(ui->cmdAnterior, &QPushButton::clicked, this, [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() - 1); });
+    connect(ui->cmdSiguiente, &QPushButton::clicked, this, [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() + 1); });
+    connect(ui->CRViewer91, &ctlVistaPrevia::cambioPagina, this, [this](int actual, int conocidas, bool completas) {
+        ui->spnPagina->setMaximum(std::max(1, conocidas));
+        if (!ui->spnPagina->hasFocus())
+            ui->spnPagina->setValue(actual + 1);
+        ui->lblPaginas->setText(u"de "_s + QString::number(conocidas) + (completas ? QString() : u"…"_s));
+    });
+}
+
+frmReportes::~frmReportes() = default;
+
+void frmReportes::alActivar()
+{
+    puntero_normal();
+}
+
+void frmReportes::alDescargar()
+{
+    emit cerrado();
+}
+
+void frmReportes::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Escape)
+        descargar();
+    else
+        Formulario::keyPressEvent(evento);
+}
+
+void frmReportes::poner(const QString& titulo, const QString& nombre, std::shared_ptr<Informe> informe)
+{
+    setWindowTitle(titulo);
+    nombre_ = nombre;
+    informe_ = std::move(informe);
+    ui->CRViewer91->mostrar(informe_);
+    puntero_normal();
+}
+
+void frmReportes::BolDep(const BoletaImpresa& boleta)
+{
+    puntero_de_espera();
+    poner(u"Boleta de depósito"_s, u"boleta-"_s + boleta.nro, std::make_shared<rptRTN_boldep1>(boleta));
+}
+
+void frmReportes::DJ(const QString& nro, const QString& codigo)
+{
+    puntero_de_espera();
+    const DJImpresa dj = leer_dj_impresa(nro);
+    const QString version = u"VEDRA RTN v."_s + QCoreApplication::applicationVersion();
+    std::shared_ptr<Informe> informe;
+    if (dj.sinMovimientos)
+        informe = std::make_shared<rpt_dj_sin_mov>(dj, codigo, version);
+    else
+        informe = std::make_shared<rpt_dj>(dj, codigo, version);
+    poner(u"Declaración Jurada"_s, u"dj-"_s + nro, informe);
+}
+
+void frmReportes::recibo(const QString& nro, const QString& dj)
+{
+    puntero_de_espera();
+    const QString titulo = u"Comprobante de retención"_s;
+    cargar_tmp_dj_oper(dj);
+    std::optional<ReciboImpreso> datos;
+    try {
+        datos = leer_recibo(nro);
+    } catch (const ErrorAlmacen& e) {
+        avisar(e.descripcion, titulo);
+    }
+    poner(titulo, u"comprobante-"_s + nro, std::make_shared<rpt_recibo>(datos));
+}
+
+void frmReportes::cambiarZoom(int indice)
+{
+    if (indice == ZOOM_ANCHO)
+        ui->CRViewer91->ajustar(ctlVistaPrevia::Ajuste::ancho);
+    else if (indice == ZOOM_PAGINA)
+        ui->CRViewer91->ajustar(ctlVistaPrevia::Ajuste::pagina);
+    else
+        ui->CRViewer91->fijarZoom(ui->cboZoom->currentText().section(u' ', 0, 0).toDouble() / 100);
+}
+
+void frmReportes::imprimir()
+{
+    QPrinter impresora(QPrinter::HighResolution);
+    impresora.setFullPage(true);
+    impresora.setDocName(nombre_);
+    impresora.setFromTo(1, informe_->paginas());
+    QPrintDialog dialogo(&impresora, this);
+    dialogo.setMinMax(1, informe_->paginas());
+    dialogo.setOption(QAbstractPrintDialog::PrintPageRange);
+    if (dialogo.exec() != QDialog::Accepted)
+        return;
+    const bool rango = impresora.printRange() == QPrinter::PageRange;
+    pintar_informe(*informe_, impresora, rango ? impresora.fromPage() - 1 : 0, rango ? impresora.toPage() : informe_->paginas());
+}
+
+bool frmReportes::guardarPDF(const QString& archivo)
+{
+    return guardar_pdf(*informe_, archivo, windowTitle());
+}
+
+void frmReportes::pedirPDF()
+{
+    const QString archivo = QFileDialog::getSaveFileName(this, u"Guardar como PDF"_s,
+                                                         QDir::home().filePath(nombre_ + u".pdf"_s), u"Archivos PDF (*.pdf)"_s);
+    if (!archivo.isEmpty() && !guardarPDF(archivo))
+        avisar(u"No se pudo guardar "_s + QDir::toNativeSeparators(archivo), windowTitle(), Icono::exclamacion);
+}

@@ -1,0 +1,51 @@
+// The window of every printed document: slip, DJ and receipt. It shows, prints and saves as PDF the
+// same pages.
+#pragma once
+
+#include "widgets/formulario.h"
+
+#include <memory>
+
+namespace Ui {
+class frmReportes;
+}
+class Informe;
+
+class frmReportes : public Formulario
+{
+    Q_OBJECT
+
+public:
+    frmReportes();
+    ~frmReportes() override;
+
+    void alActivar() override;
+
+    /// A deposit slip.
+    void BolDep(const struct BoletaImpresa& boleta);
+    /// The printed DJ with its integrity code.
+    void DJ(const QString& nro, const QString& codigo);
+    /// The withholding receipt; an annulled one gives the empty form.
+    void recibo(const QString& nro, const QString& dj);
+
+    /// Writes all pages as a PDF; false when the file can't be written.
+    [[nodiscard]] bool guardarPDF(const QString& archivo);
+
+signals:
+    /// The window closed.
+    void cerrado();
+
+protected:
+    void alDescargar() override;
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    void poner(const QString& titulo, const QString& nombre, std::shared_ptr<Informe> informe);
+    void imprimir();
+    void pedirPDF();
+    void cambiarZoom(int indice);
+
+    std::unique_ptr<Ui::frmReportes> ui;
+    std::shared_ptr<Informe> informe_;
+    QString nombre_;  // proposed for the PDF: kind and number
+};

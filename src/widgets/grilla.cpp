@@ -1,0 +1,133 @@
+#include "widgets/grilla.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+Grilla::Grilla(QWidget* padre) : QTableView(padre)
+{
+    setModel(&modelo_);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setAlternatingRowColors(true);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(this, &QTableView::doubleClicked, this, [this] { emit elegida(); });
+}
+
+namespace {
+
+// The widths of the columns were drawn for a font whose digits are this wide.
+constexpr double DIGITO_ORIGINAL = 6.0;
+
+}  // namespace
+
+int pixeles(const QWidget* w, int twips)
+{
+    return twips * w->logicalDpiX() / 1440;
+}
+
+int ancho_columna(const QWidget* w, int twips)
+{
+    const double escala = std::max(1.0, w->fontMetrics().horizontalAdvance(u'0') / DIGITO_ORIGINAL);
+    return int(pixeles(w, twips) * escala);
+}
+
+void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos)
+{
+    grilla->preparar(titulos, anchos);
+}
+
+void Grilla::preparar(const QStringList& titulos, const QList<int>& anchos)
+{
+    modelo_.preparar(titulos);
+    for (int i = 0; i < titulos.size(); ++i) {
+        setColumnHidden(i, anchos.value(i) == 0);
+        if (anchos.value(i) > 0)
+            setColumnWidth(i, std::max(ancho_columna(this, anchos[i]), horizontalHeader()->sectionSizeHint(i)));
+    }
+}
+
+int Grilla::primeraVisible() const
+{
+    for (int i = 0; i < modelo_.columnCount(); ++i)
+        if (!isColumnHidden(i))
+            return i;
+    return 0;
+}
+
+void Grilla::llenar(const std::function<void()>& rellenar)
+{
+    const QString anterior = clave();
+    const int columna = std::max(currentIndex().column(), 0);
+    const int desplazamiento = verticalScrollBar()->value();
+    struct Cierre
+    {
+        Grilla& g;
+        const QString& anterior;
+        int columna;
+        int desplazamiento;
+        ~Cierre()
+        {
+            g.modelo_.terminar();
+            const int fila = anterior.isEmpty() ? 0 : std::max(0, g.modelo_.filaCon(g.columnaClave_, anterior));
+            g.verticalScrollBar()->setValue(desplazamiento);
+            g.irAFila(fila, columna);
+        }
+    };
+    modelo_.comenzar();
+    const Cierre cierre{*this, anterior, columna, desplazamiento};
+    rellenar();
+}
+
+void Grilla::vaciar()
+{
+    modelo_.comenzar();
+    modelo_.terminar();
+}
+
+void Grilla::irAFila(int fila, int columna)
+{
+    if (fila < 0 || fila >= filas())
+        return;
+    const int destino = columna < 0 ? currentIndex().column() : columna;
+    const bool sirve = destino >= 0 && destino < modelo_.columnCount() && !isColumnHidden(destino);
+    setCurrentIndex(modelo_.index(fila, sirve ? destino : primeraVisible()));
+}
+
+void Grilla::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->matches(QKeySequence::Copy)) {
+        copiar();
+        return;
+    }
+    if ((evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) && filaActual() >= 0) {
+        emit elegida();
+        return;
+    }
+    QTableView::keyPressEvent(evento);
+}
+
+// The selected rows as lines of cells parted by tabs, hidden columns apart.
+void Grilla::copiar() const
+{
+    QModelIndexList filas_elegidas = selectionModel()->selectedRows(primeraVisible());
+    std::sort(filas_elegidas.begin(), filas_elegidas.end());
+    QStringList lineas;
+    for (const QModelIndex& fila : std::as_const(filas_elegidas)) {
+        QStringList celdas;
+        for (int c = 0; c < modelo_.columnCount(); ++c)
+            if (!isColumnHidden(c))
+                celdas << celda(fila.row(), c);
+        lineas << celdas.join(u'\t');
+    }
+    QApplication::clipboard()->setText(lineas.join(u'\n'));
+}

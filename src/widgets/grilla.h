@@ -1,0 +1,61 @@
+// A read-only grid of rows.
+#pragma once
+
+#include "widgets/modelo_grilla.h"
+
+#include <QTableView>
+
+#include <functional>
+
+class Grilla : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit Grilla(QWidget* padre = nullptr);
+
+    /// Titles, and widths in twips; a width of 0 hides the column.
+    void preparar(const QStringList& titulos, const QList<int>& anchos);
+    /// Empties the grid and fills it by the function, which calls `agregar`. The row that was
+    /// selected, known by its key cell, is selected again, else the first one. When the function
+    /// throws, the rows that it added stay.
+    void llenar(const std::function<void()>& rellenar);
+    void agregar(const QStringList& celdas) { modelo_.agregar(celdas); }
+    void agregar(std::span<const std::string_view> celdas) { modelo_.agregar(celdas); }
+    void colorear(int fila, const ModeloGrilla::Colores& colores) { modelo_.colorear(fila, colores); }
+    void vaciar();
+
+    /// Data rows; the titles do not count.
+    [[nodiscard]] int filas() const { return modelo_.rowCount(); }
+    /// The current data row from 0, -1 without one.
+    [[nodiscard]] int filaActual() const { return currentIndex().row(); }
+    void irAFila(int fila, int columna = -1);
+    [[nodiscard]] QString celda(int fila, int columna) const { return modelo_.texto(fila, columna); }
+    void ponerCelda(int fila, int columna, const QString& texto) { modelo_.ponerTexto(fila, columna, texto); }
+    /// The column whose cells tell the rows apart; the first one unless it is set.
+    void setColumnaClave(int columna) { columnaClave_ = columna; }
+    /// The key cell of the current row, empty without one.
+    [[nodiscard]] QString clave() const { return celda(filaActual(), columnaClave_); }
+
+signals:
+    /// A double click on a row, or Enter on it.
+    void elegida();
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+
+private:
+    void copiar() const;
+    [[nodiscard]] int primeraVisible() const;
+
+    ModeloGrilla modelo_;
+    int columnaClave_ = 0;
+};
+
+/// Pixels of a length in twips at the window's resolution.
+[[nodiscard]] int pixeles(const QWidget* w, int twips);
+/// Pixels of a column's width in twips, which was drawn for a narrower font than the one in use.
+[[nodiscard]] int ancho_columna(const QWidget* w, int twips);
+
+/// Titles and widths of a grid, as the forms set them.
+void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos);

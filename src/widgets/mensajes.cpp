@@ -1,0 +1,36 @@
+#include "widgets/mensajes.h"
+
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon icono_de(Icono icono)
+{
+    switch (icono) {
+    case Icono::informacion: return QMessageBox::Information;
+    case Icono::exclamacion: return QMessageBox::Warning;
+    case Icono::pregunta: return QMessageBox::Question;
+    case Icono::critico: return QMessageBox::Critical;
+    case Icono::ninguno: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons botones)
+{
+    QMessageBox caja(icono_de(m.icono), m.titulo, m.texto, botones, padre);
+    caja.setTextFormat(Qt::PlainText);
+    return caja.exec();
+}
+
+}  // namespace
+
+void DialogoPantalla::avisar(const Mensaje& mensaje)
+{
+    mostrar(padre_, mensaje, QMessageBox::Ok);
+}
+
+bool DialogoPantalla::preguntar(const Mensaje& mensaje)
+{
+    return mostrar(padre_, mensaje, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
