@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "almacen_grande.h"
 
 #include "constructor.h"
@@ -15,7 +17,8 @@ namespace {
 CabeceraDJ cabecera(int anio, int mes, int n)
 {
     CabeceraDJ c;
-    c.nro = u"%1%2%300"_s.arg(20000000000LL + n).arg(anio % 100, 2, 10, QLatin1Char('0')).arg(mes, 2, 10, QLatin1Char('0'));
+    c.nro =
+        u"%1%2%300"_s.arg(20000000000LL + n).arg(anio % 100, 2, 10, QLatin1Char('0')).arg(mes, 2, 10, QLatin1Char('0'));
     c.anio = anio;
     c.mes = mes;
     c.agente = n;
@@ -137,8 +140,11 @@ void AlmacenGrande::cabeceras(int cuantas)
 
 void AlmacenGrande::subconceptos(int cuantos)
 {
-    cnRtn.ejecutar(u"with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) " u"insert into SEL_TB_SUBCONCEPTOS (SSUB_ID, SSUB_DESCRIPCION, SSUB_LEYVIGENCIA, SSUB_FECHAVIGENCIA, STIC_ID, SCBI_ID, SCON_ID, SSUB_USOS, SSUB_MODULOSMIN, SSUB_OBSERVACIONES) " u"select (1000+i/900)*1000+i%900+1, 'SUBCONCEPTO DE PRUEBA Nº '||i||' CESIÓN Y TRANSFERENCIA', 'LEY '||(1000+i/900)||' - ART '||(i*7919%300)||'º - INC a)', " u"'2008-01-02', 1+i%4, 1, 1+i%8, 2, i%50, 'OBSERVACIÓN '||i from n"_s
-                       .arg(cuantos));
+    cnRtn.ejecutar(
+        u"with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) "
+        u"insert into SEL_TB_SUBCONCEPTOS (SSUB_ID, SSUB_DESCRIPCION, SSUB_LEYVIGENCIA, SSUB_FECHAVIGENCIA, STIC_ID, SCBI_ID, SCON_ID, SSUB_USOS, SSUB_MODULOSMIN, SSUB_OBSERVACIONES) "
+        u"select (1000+i/900)*1000+i%900+1, 'SUBCONCEPTO DE PRUEBA Nº '||i||' CESIÓN Y TRANSFERENCIA', 'LEY '||(1000+i/900)||' - ART '||(i*7919%300)||'º - INC a)', "
+        u"'2008-01-02', 1+i%4, 1, 1+i%8, 2, i%50, 'OBSERVACIÓN '||i from n"_s.arg(cuantos));
 }
 
 void AlmacenGrande::partes(int cuantas)
@@ -146,9 +152,15 @@ void AlmacenGrande::partes(int cuantas)
     const QString dj = u"20000000000200100"_s;
     cnRtn.ejecutar(u"insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SEDJ_ANIO, SEDJ_MES) values ('%1', 2020, 1)"_s.arg(dj));
     const QString cuenta = u"with recursive n(i) as (select 0 union all select i+1 from n where i+1<%1) "_s;
-    cnRtn.ejecutar(cuenta.arg(cuantas / 4)
-                   + u"insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_ESTADO, SEDD_ALCANZADO) select '%1', i+1, 1, i+1, i+1, 'P', 'S' from n"_s.arg(dj));
-    cnRtn.ejecutar(cuenta.arg(cuantas)
-                   + u"insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL, GTSO_ID, SPIN_DOMICILIO, SPIN_NACIONALIDAD) " u"select i%4+1, '%1', i/4+1, '80', 20000000000+i*7919%100003, 20000000000+i*7919%100003, 0, " u"case i%5 when 0 then 'GÓMEZ' when 1 then 'PEÑALOZA' when 2 then 'SOSA' when 3 then 'D''ANGELO' else 'PEREZ' end||' '||" u"case i%7 when 0 then 'JUAN CARLOS' when 1 then 'ANA MARÍA' when 2 then 'JUAN' when 3 then 'LUZ' else 'NÉSTOR' end||' '||i, 1+i%3, 'LOS ÁLAMOS '||i, 'A' from n"_s
-                         .arg(dj));
+    cnRtn.ejecutar(
+        cuenta.arg(cuantas / 4)
+        + u"insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_ESTADO, SEDD_ALCANZADO) select '%1', i+1, 1, i+1, i+1, 'P', 'S' from n"_s
+              .arg(dj));
+    cnRtn.ejecutar(
+        cuenta.arg(cuantas)
+        + u"insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL, GTSO_ID, SPIN_DOMICILIO, SPIN_NACIONALIDAD) "
+          u"select i%4+1, '%1', i/4+1, '80', 20000000000+i*7919%100003, 20000000000+i*7919%100003, 0, "
+          u"case i%5 when 0 then 'GÓMEZ' when 1 then 'PEÑALOZA' when 2 then 'SOSA' when 3 then 'D''ANGELO' else 'PEREZ' end||' '||"
+          u"case i%7 when 0 then 'JUAN CARLOS' when 1 then 'ANA MARÍA' when 2 then 'JUAN' when 3 then 'LUZ' else 'NÉSTOR' end||' '||i, 1+i%3, 'LOS ÁLAMOS '||i, 'A' from n"_s
+              .arg(dj));
 }

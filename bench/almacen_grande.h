@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stores of the sizes that the cases ask for.
 #pragma once
 

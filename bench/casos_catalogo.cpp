@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The catalogue's list and the search of parties, beside their bare queries.
 
 #include "almacen_grande.h"
@@ -65,7 +66,13 @@ void partes(benchmark::State& estado, Criterio criterio, const QString& nombre, 
     QApplication::processEvents();
     auto* grilla = f->findChild<Grilla*>(u"flx"_s);
     Callado callado;
-    FiltroPartes filtro{.dj = u"OTRA"_s, .renglon = u"0"_s, .criterio = criterio, .razonSocial = nombre, .tipoDoc = tipoDoc, .tipoDocTexto = u"CUIT"_s, .nroDoc = nroDoc};
+    FiltroPartes filtro{.dj = u"OTRA"_s,
+                        .renglon = u"0"_s,
+                        .criterio = criterio,
+                        .razonSocial = nombre,
+                        .tipoDoc = tipoDoc,
+                        .tipoDocTexto = u"CUIT"_s,
+                        .nroDoc = nroDoc};
     const QString sql = consulta_busqueda_partes(filtro, {}, callado);
     medir(
         estado, 1.3,
@@ -82,9 +89,15 @@ void partes(benchmark::State& estado, Criterio criterio, const QString& nombre, 
 
 void registrar_catalogo()
 {
-    benchmark::RegisterBenchmark("catalogo_de_5000", catalogo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
+    benchmark::RegisterBenchmark("catalogo_de_5000", catalogo)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(15);
     const auto caso = [](const char* nombre, Criterio criterio, const QString& texto, int tipo, const QString& nro) {
-        benchmark::RegisterBenchmark(nombre, partes, criterio, texto, tipo, nro)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(11);
+        benchmark::RegisterBenchmark(nombre, partes, criterio, texto, tipo, nro)
+            ->UseManualTime()
+            ->Unit(benchmark::kMillisecond)
+            ->Iterations(11);
     };
     caso("buscar_parte_por_dos_palabras", Criterio::contiene, u"JUAN, SOSA"_s, 0, {});
     caso("buscar_parte_por_una_letra", Criterio::contiene, u"S"_s, 0, {});

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "almacen_grande.h"
 #include "medir.h"
 
@@ -90,13 +92,20 @@ void primera_pagina(benchmark::State& estado)
         QPainter p(&papel);
         pintar_pagina(p, *informe.pagina(0), 900 / ANCHO_A4);
     };
-    medir(estado, 1.5, [&] { mostrar(larga); }, [&] { mostrar(corta); });
+    medir(
+        estado, 1.5, [&] { mostrar(larga); }, [&] { mostrar(corta); });
 }
 
 }  // namespace
 
 void registrar_impresion()
 {
-    benchmark::RegisterBenchmark("dj_de_2000_escrituras_a_PDF", dj_a_pdf)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
-    benchmark::RegisterBenchmark("primera_pagina", primera_pagina)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(21);
+    benchmark::RegisterBenchmark("dj_de_2000_escrituras_a_PDF", dj_a_pdf)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(3);
+    benchmark::RegisterBenchmark("primera_pagina", primera_pagina)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(21);
 }

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "almacen_grande.h"
 #include "medir.h"
 
@@ -95,7 +97,9 @@ void archivo(benchmark::State& estado)
         t_grande = std::min(t_grande, tiempo(grande));
     }
     estado.counters["diez_veces_mas"] = t_grande / t_media;
-    medir(estado, 1.5, [&] { benchmark::DoNotOptimize(generar_archivo_dj(grande)); }, [&] { leer_y_digerir(grande, bytes); });
+    medir(
+        estado, 1.5, [&] { benchmark::DoNotOptimize(generar_archivo_dj(grande)); },
+        [&] { leer_y_digerir(grande, bytes); });
 }
 
 void calculo(benchmark::State& estado)
@@ -123,7 +127,9 @@ void calculo(benchmark::State& estado)
         },
         [&] {
             for (int i = 0; i < VECES; ++i) {
-                sqlite3_stmt* st = preparar(u"select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS  where SSUB_ID=5707001 " u"and (SALI_DESDEVALOR<1234567.89 and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>=1234567.89))"_s);
+                sqlite3_stmt* st = preparar(
+                    u"select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS  where SSUB_ID=5707001 "
+                    u"and (SALI_DESDEVALOR<1234567.89 and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>=1234567.89))"_s);
                 sqlite3_step(st);
                 benchmark::DoNotOptimize(sqlite3_column_double(st, 3));
                 sqlite3_finalize(st);
@@ -161,7 +167,9 @@ void copia(benchmark::State& estado)
     const QString dj = AlmacenGrande::dj(2026, 3, 1000);
     const QString otra = dj.left(15) + u"77"_s;
     const auto borrar = [](const QString& nro) {
-        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='%1'; delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_s.arg(nro));
+        cnRtn.ejecutar(
+            u"delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='%1'; delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_s
+                .arg(nro));
     };
     double t_caso = 0, t_limite = 0;
     const auto cronometrar = [](const std::function<void()>& f) {
@@ -175,12 +183,13 @@ void copia(benchmark::State& estado)
         casos.push_back(t_caso = cronometrar([&] { nueva = copiar_dj(dj, callado); }));
         borrar(nueva);
         limites.push_back(t_limite = cronometrar([&] {
-            cnRtn.comenzar();
-            for (const char* t : {"SEL_TB_RTN_CABDJ", "SEL_TB_RTN_DETDJ", "SEL_TB_RTN_INS_INMUEBLES", "SEL_TB_RTN_INS_PARTES", "SEL_TB_RTN_INS_OPERACIONES",
-                                  "SEL_TB_RTN_INS_VC", "SEL_TB_RTN_INS_ROLES"})
-                insertar_igual(t, dj, otra);
-            cnRtn.confirmar();
-        }));
+                              cnRtn.comenzar();
+                              for (const char* t : {"SEL_TB_RTN_CABDJ", "SEL_TB_RTN_DETDJ", "SEL_TB_RTN_INS_INMUEBLES",
+                                                    "SEL_TB_RTN_INS_PARTES", "SEL_TB_RTN_INS_OPERACIONES",
+                                                    "SEL_TB_RTN_INS_VC", "SEL_TB_RTN_INS_ROLES"})
+                                  insertar_igual(t, dj, otra);
+                              cnRtn.confirmar();
+                          }));
         borrar(otra);
         estado.SetIterationTime(t_caso / 1000);
     }
@@ -247,9 +256,24 @@ void packer(benchmark::State& estado)
 
 void registrar_logica()
 {
-    benchmark::RegisterBenchmark("leer_dj_de_10000_escrituras", lector)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(9);
-    benchmark::RegisterBenchmark("rar_de_500_MB", packer)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(3);
-    benchmark::RegisterBenchmark("archivo_y_codigo_de_10000_escrituras", archivo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(7);
-    benchmark::RegisterBenchmark("CalcularImpuesto", calculo)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
-    benchmark::RegisterBenchmark("copiar_dj_de_1000_escrituras", copia)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(5);
+    benchmark::RegisterBenchmark("leer_dj_de_10000_escrituras", lector)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(9);
+    benchmark::RegisterBenchmark("rar_de_500_MB", packer)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(3);
+    benchmark::RegisterBenchmark("archivo_y_codigo_de_10000_escrituras", archivo)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(7);
+    benchmark::RegisterBenchmark("CalcularImpuesto", calculo)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(15);
+    benchmark::RegisterBenchmark("copiar_dj_de_1000_escrituras", copia)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(5);
 }

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "almacen_grande.h"
 #include "medir.h"
 
@@ -11,7 +13,6 @@
 #include "declarations/screens/frmDJ_editar.h"
 #include "declarations/lista_dj.h"
 #include "declarations/renglones.h"
-
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -105,7 +106,13 @@ void arranque(benchmark::State& estado)
 
 void registrar_pantallas()
 {
-    benchmark::RegisterBenchmark("lista_de_20000_DJ", lista)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(11);
-    benchmark::RegisterBenchmark("solapa_de_2000_renglones", detalle)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(11);
+    benchmark::RegisterBenchmark("lista_de_20000_DJ", lista)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(11);
+    benchmark::RegisterBenchmark("solapa_de_2000_renglones", detalle)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(11);
     benchmark::RegisterBenchmark("arranque", arranque)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(15);
 }

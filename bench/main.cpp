@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "medir.h"
 
 #include "application/aplicacion.h"
@@ -28,7 +30,8 @@ double mediana(std::vector<double> v)
 
 }  // namespace
 
-void medir(benchmark::State& estado, double pedido, const std::function<void()>& caso, const std::function<void()>& limite)
+void medir(benchmark::State& estado, double pedido, const std::function<void()>& caso,
+           const std::function<void()>& limite)
 {
     caso();
     limite();

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # cmake --install BUILD --prefix DIR makes a self-contained folder: program, configuration, store.
 install(TARGETS vedra_rtn crear_base leer_dj rar RUNTIME DESTINATION .)
 install(CODE [[

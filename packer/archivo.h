@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A file by its descriptor; every failure throws std::runtime_error with the file's name.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // rar a -y ARCHIVE FILE… | rar t ARCHIVE | rar l ARCHIVE
 
 #include "rar5.h"

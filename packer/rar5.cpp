@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "rar5.h"
 
 #include "archivo.h"
@@ -140,7 +142,8 @@ std::string leer_cabecera(Archivo& a)
     const auto danado = [&a] { throw std::runtime_error(a.ruta() + ": el archivo está dañado"); };
     if (n < 4)
         danado();
-    const uint32_t crc = uint32_t(crudo[0]) | uint32_t(crudo[1]) << 8 | uint32_t(crudo[2]) << 16 | uint32_t(crudo[3]) << 24;
+    const uint32_t crc = uint32_t(crudo[0]) | uint32_t(crudo[1]) << 8 | uint32_t(crudo[2]) << 16
+                         | uint32_t(crudo[3]) << 24;
     std::string con_largo;
     uint64_t largo = 0;
     for (int corrido = 0;; corrido += 7) {
@@ -250,7 +253,8 @@ std::vector<EntradaRar> listar_rar(const std::string& archivo)
     }
 }
 
-bool leer_entrada(const std::string& archivo, const EntradaRar& entrada, const std::function<void(const char*, size_t)>& bloque)
+bool leer_entrada(const std::string& archivo, const EntradaRar& entrada,
+                  const std::function<void(const char*, size_t)>& bloque)
 {
     if (!entrada.guardada)
         throw std::runtime_error(archivo + ": " + entrada.nombre + " está comprimido");
@@ -282,7 +286,9 @@ void agregar_rar(const std::string& archivo, const std::vector<std::string>& arc
         if (existe) {
             Archivo anterior(archivo, O_RDONLY);
             for (const EntradaRar& e : listar_rar(archivo)) {
-                const bool reemplazada = std::any_of(archivos.begin(), archivos.end(), [&e](const std::string& r) { return nombre_base(r) == nombre_base(e.nombre); });
+                const bool reemplazada = std::any_of(archivos.begin(), archivos.end(), [&e](const std::string& r) {
+                    return nombre_base(r) == nombre_base(e.nombre);
+                });
                 if (reemplazada)
                     continue;
                 anterior.ir(e.cabecera);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The RAR 5 container as it is published ("RAR 5.0 archive format"): signature, main header, file
 // headers with stored data, end header. Nothing is compressed.
 #pragma once
@@ -10,15 +11,15 @@
 /// One file of an archive.
 struct EntradaRar
 {
-    std::string nombre;        ///< in UTF-8
-    uint64_t largo = 0;        ///< bytes of the file
-    uint64_t almacenado = 0;   ///< bytes in the archive
-    uint32_t modificado = 0;   ///< seconds since 1970
+    std::string nombre;       ///< in UTF-8
+    uint64_t largo = 0;       ///< bytes of the file
+    uint64_t almacenado = 0;  ///< bytes in the archive
+    uint32_t modificado = 0;  ///< seconds since 1970
     uint32_t crc = 0;
     bool conCrc = false;
-    bool guardada = true;      ///< stored without compression
-    uint64_t cabecera = 0;     ///< where its header begins
-    uint64_t datos = 0;        ///< where its data begin
+    bool guardada = true;   ///< stored without compression
+    uint64_t cabecera = 0;  ///< where its header begins
+    uint64_t datos = 0;     ///< where its data begin
 };
 
 /// The files of an archive, in their order. Throws std::runtime_error on what is no archive, or on a

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "constructor.h"
 
 #include "core/almacen.h"
@@ -37,7 +39,7 @@ struct Columna
 
 struct Referencia
 {
-    int columna;         // in the file
+    int columna;  // in the file
     QString tabla;
     QString clave;
 };
@@ -54,7 +56,8 @@ Tabla describir(Conexion& cn, const QString& nombre, const QStringList& titulos,
     for (Recordset rs(cn, u"pragma table_info(%1)"_s.arg(nombre)); !rs.eof(); rs.siguiente()) {
         static const QRegularExpression ancho(u"\\((\\d+)\\)"_s);
         const QString tipo = rs.texto("type").toLower();
-        declaradas.insert(rs.texto("name"), {rs.texto("name"), tipo.section(u'(', 0, 0), ancho.match(tipo).captured(1).toInt()});
+        declaradas.insert(rs.texto("name"),
+                          {rs.texto("name"), tipo.section(u'(', 0, 0), ancho.match(tipo).captured(1).toInt()});
     }
     if (declaradas.isEmpty())
         fallar(u"%1: no existe la tabla %2"_s.arg(lugar, nombre));
@@ -115,11 +118,11 @@ void cargar_tabla(Conexion& cn, const QString& ruta, QHash<QString, QString>& lu
     if (!titulos)
         fallar(lugar() + u": falta la línea de títulos"_s);
     const Tabla tabla = describir(cn, nombre, *titulos, lugar());
-    const QString sql = u"insert into %1 (%2) values (%3)"_s
-                            .arg(nombre, titulos->join(u", "), QStringList(titulos->size(), u"?"_s).join(u", "));
-    const auto columna_id = titulos->indexOf(QRegularExpression(
-        nombre == u"SEL_TB_ALICUOTAS" ? u"SALI_ID"_s
-        : nombre == u"SEL_TB_MODULOS" ? u"SMOD_ID"_s : u"SSUB_ID"_s));
+    const QString sql = u"insert into %1 (%2) values (%3)"_s.arg(nombre, titulos->join(u", "),
+                                                                 QStringList(titulos->size(), u"?"_s).join(u", "));
+    const auto columna_id = titulos->indexOf(QRegularExpression(nombre == u"SEL_TB_ALICUOTAS" ? u"SALI_ID"_s
+                                                                : nombre == u"SEL_TB_MODULOS" ? u"SMOD_ID"_s
+                                                                                              : u"SSUB_ID"_s));
     Comando insertar(cn, sql);
     while (const auto campos = csv.siguiente()) {
         if (campos->size() != titulos->size())
@@ -131,7 +134,9 @@ void cargar_tabla(Conexion& cn, const QString& ruta, QHash<QString, QString>& lu
         } catch (const ErrorAlmacen& e) {
             const QString rota = referencia_rota(cn, tabla, *campos);
             fallar(lugar() + u": "_s
-                   + (!rota.isEmpty() ? rota : e.claveDuplicada() ? u"la clave ya existe (%1)"_s.arg(e.descripcion) : e.descripcion));
+                   + (!rota.isEmpty()      ? rota
+                      : e.claveDuplicada() ? u"la clave ya existe (%1)"_s.arg(e.descripcion)
+                                           : e.descripcion));
         }
         if (columna_id >= 0)
             lugares.insert(nombre + u'/' + campos->at(columna_id), lugar());
@@ -142,7 +147,8 @@ void cargar_tabla(Conexion& cn, const QString& ruta, QHash<QString, QString>& lu
 QStringList tablas(Conexion& cn)
 {
     QStringList nombres;
-    for (Recordset rs(cn, u"select name from sqlite_master where type='table' order by rowid"_s); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cn, u"select name from sqlite_master where type='table' order by rowid"_s); !rs.eof();
+         rs.siguiente())
         nombres << rs.texto(0);
     return nombres;
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Builds the store from its schema, views and rows as text.
 #pragma once
 
@@ -6,9 +7,9 @@
 
 struct Construccion
 {
-    QString textos;                 ///< folder of `esquema.sql`, `vistas.sql` and the folders of rows
-    QStringList carpetas;           ///< folders of rows, in the order in which they load
-    QString destino;                ///< the store to make; an earlier one is replaced at the end
+    QString textos;        ///< folder of `esquema.sql`, `vistas.sql` and the folders of rows
+    QStringList carpetas;  ///< folders of rows, in the order in which they load
+    QString destino;       ///< the store to make; an earlier one is replaced at the end
     QString clave;
 };
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Comma-separated text, as in RFC 4180, read line by line with the number of each line.
 #pragma once
 

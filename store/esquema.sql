@@ -1,3 +1,4 @@
+-- SPDX-License-Identifier: GPL-3.0-or-later
 -- The store of VEDRA-RTN. Texts compare without regard to case; dates are 'YYYY-MM-DD',
 -- booleans 0 and 1, amounts in pesos. Keys are computed by the program before each insert.
 

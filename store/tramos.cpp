@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tramos.h"
 
 #include "core/almacen.h"
@@ -34,7 +36,8 @@ QString revisar(Conexion& cn, const TablaTramos& t, const QHash<QString, QString
     qint64 item = -1;
     double fin = -1;
     QString ultimo;
-    for (Recordset rs(cn, u"select * from %1 order by SSUB_ID, %2_DESDEVALOR"_s.arg(tabla, p)); !rs.eof(); rs.siguiente()) {
+    for (Recordset rs(cn, u"select * from %1 order by SSUB_ID, %2_DESDEVALOR"_s.arg(tabla, p)); !rs.eof();
+         rs.siguiente()) {
         const QString lugar = lugares.value(tabla + u'/' + rs.texto(id.constData()));
         const bool nuevo = rs.entero("SSUB_ID") != item;
         if (nuevo && fin != -1)
@@ -53,11 +56,13 @@ QString revisar(Conexion& cn, const TablaTramos& t, const QHash<QString, QString
     }
     if (fin != -1)
         return u"%1: el último tramo de %2 no llega a -1"_s.arg(ultimo).arg(item);
-    const Recordset sin(cn, u"select S.SSUB_ID from SEL_TB_SUBCONCEPTOS S join SEL_TB_TIPOS_CALCULOS C on C.STIC_ID=S.STIC_ID " u"where C.STIC_DESCRIPCION in (%1) and S.SSUB_ID not in (select SSUB_ID from %2)"_s
-                                .arg(QLatin1StringView(t.tipos), tabla));
+    const Recordset sin(
+        cn, u"select S.SSUB_ID from SEL_TB_SUBCONCEPTOS S join SEL_TB_TIPOS_CALCULOS C on C.STIC_ID=S.STIC_ID "
+            u"where C.STIC_DESCRIPCION in (%1) and S.SSUB_ID not in (select SSUB_ID from %2)"_s.arg(
+                QLatin1StringView(t.tipos), tabla));
     if (!sin.eof())
-        return u"%1: el subconcepto no tiene tramos en %2"_s
-            .arg(lugares.value(u"SEL_TB_SUBCONCEPTOS/"_s + sin.texto(0)), tabla);
+        return u"%1: el subconcepto no tiene tramos en %2"_s.arg(
+            lugares.value(u"SEL_TB_SUBCONCEPTOS/"_s + sin.texto(0)), tabla);
     return {};
 }
 

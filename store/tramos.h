@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whether the brackets of each item of the catalogue cover all amounts once.
 #pragma once
 

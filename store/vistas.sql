@@ -1,3 +1,4 @@
+-- SPDX-License-Identifier: GPL-3.0-or-later
 -- The views that the program reads.
 
 -- One row a deed, with the item of its first operation.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "agents/agente.h"
 
 #include "core/modGlobales.h"
@@ -70,7 +72,8 @@ bool guardar(const QString& titulo, Dialogo& dialogo, F escribir)
 
 std::optional<Falla> validar_agente(Agente& a)
 {
-    for (QString* texto : {&a.titular, &a.domicilio, &a.email, &a.adscripto1, &a.adscripto2, &a.adscripto1Cuit, &a.adscripto2Cuit})
+    for (QString* texto :
+         {&a.titular, &a.domicilio, &a.email, &a.adscripto1, &a.adscripto2, &a.adscripto1Cuit, &a.adscripto2Cuit})
         *texto = texto->trimmed();
     if (a.adscripto1.isEmpty() && a.adscripto1Cuit.isEmpty()) {
         a.adscripto1.swap(a.adscripto2);
@@ -87,15 +90,23 @@ std::optional<Falla> validar_agente(Agente& a)
         {a.domicilio.isEmpty(), "Ingrese el domicilio del titular", "txtDomicilio"},
         {a.localidad == 0, "Ingrese la localidad del titular", "cboLocalidad"},
         {a.codPostal.isEmpty(), "Ingrese el codigo postal del titular", "txtCodPostal"},
-        {!a.adscripto1.isEmpty() && a.adscripto1Cuit.isEmpty(), "Ingrese el cuit del primer adscripto", "txtAdscripto1_cuit"},
-        {a.adscripto1.isEmpty() && !a.adscripto1Cuit.isEmpty(), "Ingrese el nombre del primer adscripto", "txtAdscripto1_nombre"},
+        {!a.adscripto1.isEmpty() && a.adscripto1Cuit.isEmpty(), "Ingrese el cuit del primer adscripto",
+         "txtAdscripto1_cuit"},
+        {a.adscripto1.isEmpty() && !a.adscripto1Cuit.isEmpty(), "Ingrese el nombre del primer adscripto",
+         "txtAdscripto1_nombre"},
         {!a.adscripto1Cuit.isEmpty() && !cuit1_bien, "El CUIT del primer adscripto no es válido", "txtAdscripto1_cuit"},
-        {!a.adscripto2.isEmpty() && a.adscripto2Cuit.isEmpty(), "Ingrese el cuit del segundo adscripto", "txtAdscripto2_cuit"},
-        {a.adscripto2.isEmpty() && !a.adscripto2Cuit.isEmpty(), "Ingrese el nombre del segundo adscripto", "txtAdscripto2_nombre"},
-        {!a.adscripto2Cuit.isEmpty() && !cuit2_bien, "El CUIT del segundo adscripto no es válido", "txtAdscripto2_cuit"},
-        {mismo_cuit(a.adscripto1Cuit, a.cuit), "El CUIT del primer adscripto no puede ser el mismo que el CUIT del titular", "txtAdscripto1_cuit"},
-        {mismo_cuit(a.adscripto2Cuit, a.cuit), "El CUIT del segundo adscripto no puede ser el mismo que el CUIT del titular", "txtAdscripto2_cuit"},
-        {mismo_cuit(a.adscripto1Cuit, a.adscripto2Cuit), "Los CUITs de los adscriptos no pueden ser iguales", "txtAdscripto1_cuit"},
+        {!a.adscripto2.isEmpty() && a.adscripto2Cuit.isEmpty(), "Ingrese el cuit del segundo adscripto",
+         "txtAdscripto2_cuit"},
+        {a.adscripto2.isEmpty() && !a.adscripto2Cuit.isEmpty(), "Ingrese el nombre del segundo adscripto",
+         "txtAdscripto2_nombre"},
+        {!a.adscripto2Cuit.isEmpty() && !cuit2_bien, "El CUIT del segundo adscripto no es válido",
+         "txtAdscripto2_cuit"},
+        {mismo_cuit(a.adscripto1Cuit, a.cuit),
+         "El CUIT del primer adscripto no puede ser el mismo que el CUIT del titular", "txtAdscripto1_cuit"},
+        {mismo_cuit(a.adscripto2Cuit, a.cuit),
+         "El CUIT del segundo adscripto no puede ser el mismo que el CUIT del titular", "txtAdscripto2_cuit"},
+        {mismo_cuit(a.adscripto1Cuit, a.adscripto2Cuit), "Los CUITs de los adscriptos no pueden ser iguales",
+         "txtAdscripto1_cuit"},
     });
 }
 
@@ -103,9 +114,19 @@ bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo)
 {
     static const QString sentencia = sentencia_alta<FilaAgente>("SEL_TB_RTN_PADRON", COLUMNAS);
     return guardar(titulo, dialogo, [&] {
-        const FilaAgente f{a.nroRegNotarial, a.nroRegNotarial, toSQL(a.titular), numero_cuit(a.cuit), toSQL(a.domicilio), toSQL(a.codPostal),
-                           toSQL(a.telefono), a.localidad, toSQL(a.email), toSQL(a.adscripto1), numero_cuit(a.adscripto1Cuit),
-                           toSQL(a.adscripto2), numero_cuit(a.adscripto2Cuit)};
+        const FilaAgente f{a.nroRegNotarial,
+                           a.nroRegNotarial,
+                           toSQL(a.titular),
+                           numero_cuit(a.cuit),
+                           toSQL(a.domicilio),
+                           toSQL(a.codPostal),
+                           toSQL(a.telefono),
+                           a.localidad,
+                           toSQL(a.email),
+                           toSQL(a.adscripto1),
+                           numero_cuit(a.adscripto1Cuit),
+                           toSQL(a.adscripto2),
+                           numero_cuit(a.adscripto2Cuit)};
         insertar_fila<FilaAgente>(cnRtn, sentencia, COLUMNAS, f);
     });
 }
@@ -113,16 +134,14 @@ bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo)
 bool modificar_agente(const Agente& a, int nro, const QString& titulo, Dialogo& dialogo)
 {
     return guardar(titulo, dialogo, [&] {
-        cnRtn.ejecutar(u"update SEL_TB_RTN_PADRON set  SRTN_TITULAR_NOMBRE='"_s + toSQL(a.titular)
-                       + u"', SRTN_TITULAR_CUIT="_s + cuit_sql(a.cuit) + u", SRTN_DOMICILIO="_s
-                       + texto_o_null(toSQL(a.domicilio)) + u", SRTN_TELEFONO="_s + texto_o_null(toSQL(a.telefono))
-                       + u", GLOC_ID="_s + QString::number(a.localidad) + u", SRTN_CODPOSTAL='"_s + toSQL(a.codPostal)
-                       + u"', SRTN_EMAIL="_s + texto_o_null(toSQL(a.email))
-                       + u", SRTN_ADSCRIPTO1_NOMBRE="_s + texto_o_null(toSQL(a.adscripto1))
-                       + u", SRTN_ADSCRIPTO1_CUIT="_s + cuit_sql(a.adscripto1Cuit)
-                       + u", SRTN_ADSCRIPTO2_NOMBRE="_s + texto_o_null(toSQL(a.adscripto2))
-                       + u", SRTN_ADSCRIPTO2_CUIT="_s + cuit_sql(a.adscripto2Cuit) + u" where SRTN_NRO="_s
-                       + QString::number(nro));
+        cnRtn.ejecutar(
+            u"update SEL_TB_RTN_PADRON set  SRTN_TITULAR_NOMBRE='"_s + toSQL(a.titular) + u"', SRTN_TITULAR_CUIT="_s
+            + cuit_sql(a.cuit) + u", SRTN_DOMICILIO="_s + texto_o_null(toSQL(a.domicilio)) + u", SRTN_TELEFONO="_s
+            + texto_o_null(toSQL(a.telefono)) + u", GLOC_ID="_s + QString::number(a.localidad) + u", SRTN_CODPOSTAL='"_s
+            + toSQL(a.codPostal) + u"', SRTN_EMAIL="_s + texto_o_null(toSQL(a.email)) + u", SRTN_ADSCRIPTO1_NOMBRE="_s
+            + texto_o_null(toSQL(a.adscripto1)) + u", SRTN_ADSCRIPTO1_CUIT="_s + cuit_sql(a.adscripto1Cuit)
+            + u", SRTN_ADSCRIPTO2_NOMBRE="_s + texto_o_null(toSQL(a.adscripto2)) + u", SRTN_ADSCRIPTO2_CUIT="_s
+            + cuit_sql(a.adscripto2Cuit) + u" where SRTN_NRO="_s + QString::number(nro));
     });
 }
 
@@ -132,10 +151,12 @@ std::optional<Agente> cargar_agente(int nro)
     if (rs.eof())
         return {};
     const auto texto = [&rs](const char* c) { return fromSQL(rs.texto(c)); };
-    return Agente{int(rs.entero("SRTN_NRO")), texto("SRTN_TITULAR_NOMBRE"), texto("SRTN_TITULAR_CUIT"), texto("SRTN_DOMICILIO"),
-                  int(rs.entero("GLOC_ID")), texto("SRTN_CODPOSTAL"), texto("SRTN_TELEFONO"), texto("SRTN_EMAIL"),
-                  texto("SRTN_ADSCRIPTO1_NOMBRE"), texto("SRTN_ADSCRIPTO1_CUIT"), texto("SRTN_ADSCRIPTO2_NOMBRE"),
-                  texto("SRTN_ADSCRIPTO2_CUIT")};
+    return Agente{int(rs.entero("SRTN_NRO")),      texto("SRTN_TITULAR_NOMBRE"),
+                  texto("SRTN_TITULAR_CUIT"),      texto("SRTN_DOMICILIO"),
+                  int(rs.entero("GLOC_ID")),       texto("SRTN_CODPOSTAL"),
+                  texto("SRTN_TELEFONO"),          texto("SRTN_EMAIL"),
+                  texto("SRTN_ADSCRIPTO1_NOMBRE"), texto("SRTN_ADSCRIPTO1_CUIT"),
+                  texto("SRTN_ADSCRIPTO2_NOMBRE"), texto("SRTN_ADSCRIPTO2_CUIT")};
 }
 
 int borrar_agente(int nro)
@@ -145,23 +166,29 @@ int borrar_agente(int nro)
 
 void leer_padron(const AgregarFila& fila)
 {
-    for (Recordset rs(cnRtn, u"select * from SEL_TB_RTN_PADRON order by SRTN_TITULAR_NOMBRE collate ESPANOL"_s); !rs.eof();
-         rs.siguiente())
+    for (Recordset rs(cnRtn, u"select * from SEL_TB_RTN_PADRON order by SRTN_TITULAR_NOMBRE collate ESPANOL"_s);
+         !rs.eof(); rs.siguiente())
         fila({rs.texto("SRTN_NRO"), rs.texto("SRTN_TITULAR_NOMBRE"), rs.texto("SRTN_TITULAR_CUIT")});
 }
 
 std::optional<DatosAgenteDJ> datos_agente_dj(int nro)
 {
-    const Recordset rs(cnRtn, u"select P.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_PADRON P, GLB_TB_LOCALIDADES L where p.SRTN_NRO = "_s + QString::number(nro) + u" and P.GLOC_ID=L.GLOC_ID"_s);
+    const Recordset rs(
+        cnRtn, u"select P.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_PADRON P, GLB_TB_LOCALIDADES L where p.SRTN_NRO = "_s
+                   + QString::number(nro) + u" and P.GLOC_ID=L.GLOC_ID"_s);
     if (rs.eof())
         return {};
-    return DatosAgenteDJ{int(rs.entero("SRTN_NRO")), rs.texto("SRTN_TITULAR_NOMBRE"), rs.texto("SRTN_TITULAR_CUIT"), rs.texto("SRTN_DOMICILIO"),
-                         rs.texto("SRTN_CODPOSTAL"), rs.texto("SRTN_TELEFONO"), rs.texto("GLOC_DESCRIPCION"), rs.texto("SRTN_EMAIL"),
-                         rs.texto("SRTN_ADSCRIPTO1_NOMBRE"), rs.texto("SRTN_ADSCRIPTO1_CUIT"), rs.texto("SRTN_ADSCRIPTO2_NOMBRE"),
-                         rs.texto("SRTN_ADSCRIPTO2_CUIT"), int(rs.entero("GLOC_ID"))};
+    return DatosAgenteDJ{int(rs.entero("SRTN_NRO")),         rs.texto("SRTN_TITULAR_NOMBRE"),
+                         rs.texto("SRTN_TITULAR_CUIT"),      rs.texto("SRTN_DOMICILIO"),
+                         rs.texto("SRTN_CODPOSTAL"),         rs.texto("SRTN_TELEFONO"),
+                         rs.texto("GLOC_DESCRIPCION"),       rs.texto("SRTN_EMAIL"),
+                         rs.texto("SRTN_ADSCRIPTO1_NOMBRE"), rs.texto("SRTN_ADSCRIPTO1_CUIT"),
+                         rs.texto("SRTN_ADSCRIPTO2_NOMBRE"), rs.texto("SRTN_ADSCRIPTO2_CUIT"),
+                         int(rs.entero("GLOC_ID"))};
 }
 
 QString consulta_agentes()
 {
-    return u"select AR.SRTN_NRO, AR.SRTN_TITULAR_NOMBRE  from SEL_TB_RTN_PADRON as AR" u" order by AR.SRTN_TITULAR_NOMBRE collate ESPANOL "_s;
+    return u"select AR.SRTN_NRO, AR.SRTN_TITULAR_NOMBRE  from SEL_TB_RTN_PADRON as AR"
+           u" order by AR.SRTN_TITULAR_NOMBRE collate ESPANOL "_s;
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An agent of the register: a titular and up to two adscriptos.
 #pragma once
 
@@ -6,7 +7,6 @@
 #include "core/filas.h"
 
 #include <QStringList>
-
 
 /// The agent as the screen holds it; a CUIT is the text that was typed.
 struct Agente
@@ -43,7 +43,8 @@ void leer_padron(const AgregarFila& fila);
 struct DatosAgenteDJ
 {
     int nro = 0;
-    QString titular, cuit, domicilio, codPostal, telefono, localidadNombre, email, adscripto1, adscripto1Cuit, adscripto2, adscripto2Cuit;
+    QString titular, cuit, domicilio, codPostal, telefono, localidadNombre, email, adscripto1, adscripto1Cuit,
+        adscripto2, adscripto2Cuit;
     std::optional<int> localidad;
 };
 /// An agent without a locality is not found.

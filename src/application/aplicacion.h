@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The application: its language, and the one handler of what nobody else traps.
 #pragma once
 

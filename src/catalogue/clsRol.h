@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A role that a party may hold in an operation, and the roles of an item.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/lista_subconceptos.h"
 
 #include "core/modGlobales.h"
@@ -30,13 +32,11 @@ QString igual_o_no_exento(const FiltroSubconceptos& f)
     switch (f.exenciones) {
     case Exenciones::subjetivas:
         return con_valor ? u" (SSUB_EXENCION_PORC="_s + f.porcExencion + u" or SSUB_EXENCION=0) "_s : QString();
-    case Exenciones::no_exentos:
-        return u" SSUB_EXENCION=0 "_s;
+    case Exenciones::no_exentos: return u" SSUB_EXENCION=0 "_s;
     case Exenciones::exentos:
         return u" SSUB_EXENCION=1 "_s
-            + (con_valor ? u" and (SSUB_EXENCION_PORC="_s + f.porcExencion + u") "_s : QString());
-    case Exenciones::sin_filtro:
-        break;
+               + (con_valor ? u" and (SSUB_EXENCION_PORC="_s + f.porcExencion + u") "_s : QString());
+    case Exenciones::sin_filtro: break;
     }
     return {};
 }
@@ -47,12 +47,13 @@ QString descripcion_parecida(const FiltroSubconceptos& f)
     if (f.criterio == Criterio::ninguno || f.texto.isEmpty())
         return {};
     return u" SSUB_DESCRIPCION like '"_s + (f.criterio == Criterio::comienza ? QString() : u"%"_s) + toSQL(f.texto)
-        + (f.criterio == Criterio::termina ? QString() : u"%"_s) + u"' "_s;
+           + (f.criterio == Criterio::termina ? QString() : u"%"_s) + u"' "_s;
 }
 
 QString norma_parecida(bool si, const char* parte, const QString& texto)
 {
-    return si ? u" SSUB_LEYVIGENCIA like '%"_s + QLatin1StringView(parte) + u' ' + toSQL(texto.trimmed()) + u"%' "_s : QString();
+    return si ? u" SSUB_LEYVIGENCIA like '%"_s + QLatin1StringView(parte) + u' ' + toSQL(texto.trimmed()) + u"%' "_s
+              : QString();
 }
 
 }  // namespace
@@ -83,9 +84,10 @@ QString consulta_subconceptos(const FiltroSubconceptos& f)
     agregar(igual_o_no_exento(f));
 
     const QString campo = f.orden.isEmpty() ? u"SSUB_LEYVIGENCIA"_s : f.orden;
-    const auto columna = std::find_if(COLUMNAS.begin(), COLUMNAS.end(), [&](const auto& c) { return campo == QLatin1StringView(c.campo); });
+    const auto columna = std::find_if(COLUMNAS.begin(), COLUMNAS.end(),
+                                      [&](const auto& c) { return campo == QLatin1StringView(c.campo); });
     return sql + u" order by "_s + campo
-        + (columna != COLUMNAS.end() && columna->texto ? u" collate ESPANOL"_s : QString());
+           + (columna != COLUMNAS.end() && columna->texto ? u" collate ESPANOL"_s : QString());
 }
 
 void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of the catalogue's items: its filters, its order, and what is done with one of them.
 #pragma once
 
@@ -14,9 +15,9 @@ struct FiltroSubconceptos
     /// Place in the list of criteria.
     enum class Criterio { ninguno = -1, comienza = 0, contiene = 1, termina = 2 };
 
-    bool uso = false;             ///< only what this program may use
-    int concepto = 0;             ///< 0 without filter
-    int ley = 0;                  ///< 0 without filter
+    bool uso = false;  ///< only what this program may use
+    int concepto = 0;  ///< 0 without filter
+    int ley = 0;       ///< 0 without filter
     Criterio criterio = Criterio::ninguno;
     QString texto = {};
     bool porLey = false;
@@ -27,8 +28,8 @@ struct FiltroSubconceptos
     QString textoInciso = {};
     bool selladoMultiple = false;
     Exenciones exenciones = Exenciones::sin_filtro;
-    QString porcExencion = {};         ///< as a statement takes it, empty for none
-    QString orden = {};                ///< field of the column clicked, empty for the law
+    QString porcExencion = {};  ///< as a statement takes it, empty for none
+    QString orden = {};         ///< field of the column clicked, empty for the law
 };
 
 /// One column of the list.
@@ -36,8 +37,8 @@ struct ColumnaSubconceptos
 {
     const char* titulo;  ///< null for a column that is not shown
     const char* campo;
-    bool texto;          ///< sorts by the Spanish alphabet
-    int ancho;           ///< twips
+    bool texto;  ///< sorts by the Spanish alphabet
+    int ancho;   ///< twips
 };
 
 /// The columns in the order of the list; the two last hold the identifier and the concept.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/rangos.h"
 
 #include "core/modGlobales.h"
@@ -5,11 +7,22 @@
 
 using namespace Qt::StringLiterals;
 
-const TablaRangos RANGOS_ALICUOTAS{"SEL_TB_ALICUOTAS", "SALI_ID", "SALI_DESDEVALOR", "SALI_HASTAVALOR",
+const TablaRangos RANGOS_ALICUOTAS{"SEL_TB_ALICUOTAS",
+                                   "SALI_ID",
+                                   "SALI_DESDEVALOR",
+                                   "SALI_HASTAVALOR",
                                    {u"SALI_ALICUOTA"_s, u"SALI_DIVISOR"_s, u"SALI_DIVIDENDO"_s},
-                                   "nroAlicuota", "La alicuota es nula\n¿Está seguro que desea darla de alta?", true};
-const TablaRangos RANGOS_MODULOS{"SEL_TB_MODULOS", "SMOD_ID", "SMOD_DESDEVALOR", "SMOD_HASTAVALOR", {u"SMOD_MODULOS"_s},
-                                 "nroModulos", "Insgrese la cantidad de módulos.", false};
+                                   "nroAlicuota",
+                                   "La alicuota es nula\n¿Está seguro que desea darla de alta?",
+                                   true};
+const TablaRangos RANGOS_MODULOS{"SEL_TB_MODULOS",
+                                 "SMOD_ID",
+                                 "SMOD_DESDEVALOR",
+                                 "SMOD_HASTAVALOR",
+                                 {u"SMOD_MODULOS"_s},
+                                 "nroModulos",
+                                 "Insgrese la cantidad de módulos.",
+                                 false};
 
 namespace {
 
@@ -53,11 +66,10 @@ bool se_solapa(const TablaRangos& t, const Rango& r)
     const QLatin1StringView desde(t.desde);
     const QLatin1StringView hasta(t.hasta);
     const auto abarca = [&](const QString& cota) {
-        return u'(' + desde + u"<"_s + cota + u" and ("_s + hasta + u">"_s + cota + u" or "_s + hasta
-            + u"=-1))"_s;
+        return u'(' + desde + u"<"_s + cota + u" and ("_s + hasta + u">"_s + cota + u" or "_s + hasta + u"=-1))"_s;
     };
-    const Recordset rs(cnRtn, u"select * from "_s + QLatin1StringView(t.tabla) + u" where SSUB_ID="_s + QString::number(r.subconcepto)
-                                  + u" and (("_s + desde + u"="_s + r.desde + u")"_s
+    const Recordset rs(cnRtn, u"select * from "_s + QLatin1StringView(t.tabla) + u" where SSUB_ID="_s
+                                  + QString::number(r.subconcepto) + u" and (("_s + desde + u"="_s + r.desde + u")"_s
                                   + (r.conHasta ? u" or ("_s + hasta + u"="_s + r.hasta + u") "_s : QString())
                                   + u" or ("_s + abarca(r.desde) + u" or "_s
                                   + (r.conHasta ? abarca(r.hasta) : u'(' + hasta + u">"_s + r.desde + u")"_s)
@@ -76,9 +88,9 @@ qint64 proximo_rango(const TablaRangos& t, qint32 subconcepto)
 void alta_rango(const TablaRangos& t, const Rango& r)
 {
     QString columnas = u"SSUB_ID, "_s + QLatin1StringView(t.id) + u", "_s + QLatin1StringView(t.desde) + u", "_s
-        + QLatin1StringView(t.hasta);
-    QString valores = QString::number(r.subconcepto) + u", "_s + QString::number(proximo_rango(t, r.subconcepto)) + u", "_s + r.desde
-        + u", "_s + (r.conHasta ? r.hasta : u"-1"_s);
+                       + QLatin1StringView(t.hasta);
+    QString valores = QString::number(r.subconcepto) + u", "_s + QString::number(proximo_rango(t, r.subconcepto))
+                      + u", "_s + r.desde + u", "_s + (r.conHasta ? r.hasta : u"-1"_s);
     for (qsizetype i = 0; i < t.valores.size(); ++i) {
         columnas += u", "_s + t.valores[i];
         valores += u", "_s + valor_sql(r.valores.value(i));
@@ -98,13 +110,15 @@ void modificar_rango(const TablaRangos& t, qint64 id, const QStringList& valores
 
 void borrar_rango(const TablaRangos& t, qint64 id)
 {
-    cnRtn.ejecutar(u"delete from "_s + QLatin1StringView(t.tabla) + u" where "_s + QLatin1StringView(t.id) + u'=' + QString::number(id));
+    cnRtn.ejecutar(u"delete from "_s + QLatin1StringView(t.tabla) + u" where "_s + QLatin1StringView(t.id) + u'='
+                   + QString::number(id));
 }
 
 QList<clsAlicuotaSellos> alicuotas_de(qint32 subconcepto)
 {
     QList<clsAlicuotaSellos> lista;
-    for (Recordset rs(cnRtn, u"select * from SEL_VW_ALICUOTAS where SSUB_ID="_s + QString::number(subconcepto)); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select * from SEL_VW_ALICUOTAS where SSUB_ID="_s + QString::number(subconcepto));
+         !rs.eof(); rs.siguiente())
         lista << clsAlicuotaSellos{.IdAlicuota = rs.entero("SALI_ID"),
                                    .ValorDesde = rs.real("SALI_DESDEVALOR"),
                                    .ValorHasta = rs.real("SALI_HASTAVALOR"),
@@ -119,7 +133,8 @@ QList<clsAlicuotaSellos> alicuotas_de(qint32 subconcepto)
 QList<clsModuloSellos> modulos_de(qint32 subconcepto)
 {
     QList<clsModuloSellos> lista;
-    for (Recordset rs(cnRtn, u"select * from SEL_VW_MODULOS where SSUB_ID="_s + QString::number(subconcepto)); !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select * from SEL_VW_MODULOS where SSUB_ID="_s + QString::number(subconcepto));
+         !rs.eof(); rs.siguiente())
         lista << clsModuloSellos{.IdModulo = rs.entero("SMOD_ID"),
                                  .ValorDesde = rs.real("SMOD_DESDEVALOR"),
                                  .ValorHasta = rs.real("SMOD_HASTAVALOR"),

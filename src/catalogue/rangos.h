@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The brackets of an item, of rates or of modules: one design over two tables.
 #pragma once
 
@@ -15,10 +16,10 @@ struct TablaRangos
     const char* id;
     const char* desde;
     const char* hasta;
-    QStringList valores;    ///< what the bracket gives
-    const char* control;    ///< of the first of them
-    const char* siEsCero;   ///< what to tell when that one is zero
-    bool ceroSePregunta;    ///< the user may want it so
+    QStringList valores;   ///< what the bracket gives
+    const char* control;   ///< of the first of them
+    const char* siEsCero;  ///< what to tell when that one is zero
+    bool ceroSePregunta;   ///< the user may want it so
 };
 extern const TablaRangos RANGOS_ALICUOTAS;
 extern const TablaRangos RANGOS_MODULOS;
@@ -35,7 +36,8 @@ struct Rango
 
 /// Tells what is wrong with a bracket, and asks where the user decides. Gives the control that gets the
 /// focus, or nothing when the bracket may be saved.
-[[nodiscard]] std::optional<QString> revisar_rango(const TablaRangos& t, const Rango& r, const QString& titulo, Dialogo& dialogo);
+[[nodiscard]] std::optional<QString> revisar_rango(const TablaRangos& t, const Rango& r, const QString& titulo,
+                                                   Dialogo& dialogo);
 /// Whether the bracket meets one that its item already has. Throws ErrorAlmacen.
 [[nodiscard]] bool se_solapa(const TablaRangos& t, const Rango& r);
 /// The identifier that the item's next bracket gets. Throws ErrorAlmacen.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/reglas_subconcepto.h"
 
 #include <array>
@@ -77,19 +79,24 @@ struct CasillaSujeta
 };
 constexpr const char* TIPO_BI = "Tipo de cálculo de la base imponible";
 constexpr std::array SUJETAS{
-    CasillaSujeta{"chkRequiereTasJudicial", {10},
+    CasillaSujeta{"chkRequiereTasJudicial",
+                  {10},
                   "El tipo de cálculo de la base imponible seleccionado requiere la tasacion judicial.\n"
                   "Si no corresponde, seleccione el tipo de cáculo de la base imponible correcto",
                   Titulo::con_formulario},
-    CasillaSujeta{"chkRequiereValFiscal", {1, 2, 10},
+    CasillaSujeta{"chkRequiereValFiscal",
+                  {1, 2, 10},
                   "El tipo de cálculo de la base imponible seleccionado requiere la valuación fiscal.\n"
                   "Para deseleccionarlo, seleccione el tipo de cáculo de la base imponible correcto",
                   Titulo::con_formulario},
-    CasillaSujeta{"chkRequiereValorContractual", {1, 2, 3},
+    CasillaSujeta{"chkRequiereValorContractual",
+                  {1, 2, 3},
                   "El tipo de cálculo de la base imponible seleccionado requiere el valor contractual.\n"
                   "Para deseleccionarlo, seleccione el tipo de cáculo de la base imponible correcto",
                   Titulo::solo},
-    CasillaSujeta{"chkHectareas", {4}, "El tipo de calculo de la base imponible seleccionado necesita solicitar las hectáreas afectadas",
+    CasillaSujeta{"chkHectareas",
+                  {4},
+                  "El tipo de calculo de la base imponible seleccionado necesita solicitar las hectáreas afectadas",
                   Titulo::del_formulario},
 };
 
@@ -97,12 +104,14 @@ constexpr std::array SUJETAS{
 bool falta(const ControlesSubconcepto& c, std::initializer_list<const char*> casillas, const char* numero)
 {
     return c.value(QLatin1StringView(numero)).toString().isEmpty()
-        && std::all_of(casillas.begin(), casillas.end(), [&c](const char* casilla) { return c.value(QLatin1StringView(casilla)).toBool(); });
+           && std::all_of(casillas.begin(), casillas.end(),
+                          [&c](const char* casilla) { return c.value(QLatin1StringView(casilla)).toBool(); });
 }
 
 bool sin_modo(const ControlesSubconcepto& c, const char* casilla, const char* fijo, const char* porcentaje)
 {
-    return c.value(QLatin1StringView(casilla)).toBool() && !c.value(QLatin1StringView(fijo)).toBool() && !c.value(QLatin1StringView(porcentaje)).toBool();
+    return c.value(QLatin1StringView(casilla)).toBool() && !c.value(QLatin1StringView(fijo)).toBool()
+           && !c.value(QLatin1StringView(porcentaje)).toBool();
 }
 
 void suplir(ControlesSubconcepto& c, const char* control, const char* texto)
@@ -123,14 +132,16 @@ bool habilitado_por_casillas(const QString& control, const ControlesSubconcepto&
 {
     return std::all_of(DEPENDENCIAS.begin(), DEPENDENCIAS.end(), [&](const DependenciaSubconcepto& d) {
         const QString casilla = QString::fromUtf8(d.casilla);
-        return control != QString::fromUtf8(d.control) || (c.value(casilla).toBool() && habilitado_por_casillas(casilla, c));
+        return control != QString::fromUtf8(d.control)
+               || (c.value(casilla).toBool() && habilitado_por_casillas(casilla, c));
     });
 }
 
 std::optional<Mensaje> casilla_sujeta(const QString& casilla, int tipo, const QString& titulo)
 {
     for (const CasillaSujeta& s : SUJETAS) {
-        if (tipo == 0 || casilla != QLatin1StringView(s.casilla) || std::find(s.tipos.begin(), s.tipos.end(), tipo) == s.tipos.end())
+        if (tipo == 0 || casilla != QLatin1StringView(s.casilla)
+            || std::find(s.tipos.begin(), s.tipos.end(), tipo) == s.tipos.end())
             continue;
         const QString propio = QString::fromUtf8(TIPO_BI);
         const QString titulos[] = {titulo, titulo + u" - "_s + propio, propio};
@@ -163,9 +174,11 @@ QString impedimento_de_tipo(const QString& tipo, bool conAlicuotas, bool conModu
 {
     const Rangos rangos = rangos_de_tipo(tipo);
     if (rangos == Rangos::alicuotas && conModulos)
-        return u"No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. " u"Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo."_s;
+        return u"No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo. "
+               u"Para cambiar el tipo de cálculo elimine primero los rangos con impuesto fijo."_s;
     if (rangos == Rangos::modulos && conAlicuotas)
-        return u"No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. " u"Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas."_s;
+        return u"No puede cambiar el tipo de calculo a FIJO ya que tiene alícuotas asignadas. "
+               u"Para cambiar el tipo de cálculo elimine primero las alícuotas asignadas."_s;
     return {};
 }
 
@@ -185,29 +198,36 @@ std::optional<Falla> validar_subconcepto(ControlesSubconcepto& c)
             {vacio("txtLeyVigencia"), "Ingrese la Ley de vigencia del subconcepto", "txtLeyVigencia"},
             {c.value(u"cboConcepto"_s).toInt() == 0, "Seleccione el concepto", "cboConcepto"},
             {c.value(u"ctlTipoCalculo"_s).toInt() == 0, "Ingrese el tipo de calculo del impuesto", "ctlTipoCalculo"},
-            {falta(c, {"chkBaseImponible"}, "txtTipoCalculoBI"), "Ingrese el tipo de cálculo del subconcepto", "cmdElegirTCBI"},
-            {falta(c, {"chkPeriodoBI"}, "nroPeriodoBI"), "Ingrese el periodo que se utilizará para el cálculo de la base imponible", "nroPeriodoBI"},
-            {falta(c, {"chkDuracionDefault"}, "nroDuracionDefault"), "Ingrese la duración por defecto", "nroDuracionDefault"},
-            {falta(c, {"chkDur_cotaSup"}, "nroDur_CotaSup"), "Ingrese la cota superior para la duración", "nroDur_CotaSup"},
-            {falta(c, {"chkProrrogaDefault"}, "nroProrrogaDefault"), "Ingrese la prórroga por defecto", "nroProrrogaDefault"},
-            {falta(c, {"chkPro_CotaSup"}, "nroPro_CotaSup"), "Ingrese la cota superior para la prórroga", "nroPro_CotaSup"},
+            {falta(c, {"chkBaseImponible"}, "txtTipoCalculoBI"), "Ingrese el tipo de cálculo del subconcepto",
+             "cmdElegirTCBI"},
+            {falta(c, {"chkPeriodoBI"}, "nroPeriodoBI"),
+             "Ingrese el periodo que se utilizará para el cálculo de la base imponible", "nroPeriodoBI"},
+            {falta(c, {"chkDuracionDefault"}, "nroDuracionDefault"), "Ingrese la duración por defecto",
+             "nroDuracionDefault"},
+            {falta(c, {"chkDur_cotaSup"}, "nroDur_CotaSup"), "Ingrese la cota superior para la duración",
+             "nroDur_CotaSup"},
+            {falta(c, {"chkProrrogaDefault"}, "nroProrrogaDefault"), "Ingrese la prórroga por defecto",
+             "nroProrrogaDefault"},
+            {falta(c, {"chkPro_CotaSup"}, "nroPro_CotaSup"), "Ingrese la cota superior para la prórroga",
+             "nroPro_CotaSup"},
         }))
         return falla;
     suplir(c, "txtDenomVContractual", "Valor contractual");
     suplir(c, "txtDenomVFiscal", "Valuación fiscal");
     return primera_falla({
-        {falta(c, {"chkCargaRapida"}, "nroMontoCRapida"), "Ingrese el monto máximo permitido para la carga rápida", "nroMontoCRapida"},
-        {falta(c, {"chkFondoReparo", "chkFondoReparo_Porc"}, "nroFondoReparo_PorcDef"), "Ingrese el porcentaje a utilizar en el Fondo de Reparo",
-         "nroFondoReparo_PorcDef"},
-        {sin_modo(c, "chkFondoReparo", "optFondoReparo_montoFijo", "optFondoReparo_porcentaje"), "Indique el modo por defecto para el Fondo de Reparo",
-         "optFondoReparo_montoFijo"},
+        {falta(c, {"chkCargaRapida"}, "nroMontoCRapida"), "Ingrese el monto máximo permitido para la carga rápida",
+         "nroMontoCRapida"},
+        {falta(c, {"chkFondoReparo", "chkFondoReparo_Porc"}, "nroFondoReparo_PorcDef"),
+         "Ingrese el porcentaje a utilizar en el Fondo de Reparo", "nroFondoReparo_PorcDef"},
+        {sin_modo(c, "chkFondoReparo", "optFondoReparo_montoFijo", "optFondoReparo_porcentaje"),
+         "Indique el modo por defecto para el Fondo de Reparo", "optFondoReparo_montoFijo"},
         {falta(c, {"chkGarantiaCumplimiento", "chkGarantiaCumplimiento_porc"}, "nroGarantiaCumplimiento_Porc"),
          "Ingrese el porcentaje a utilizar en la Garantia de Cumplimiento", "nroGarantiaCumplimiento_Porc"},
         {sin_modo(c, "chkGarantiaCumplimiento", "optGarantiaCumplimiento_fijo", "optGarantiaCumplimiento_porc"),
          "Indique el modo por defecto para la Garantia de Cumplimiento", "optGarantiaCumplimiento_fijo"},
         {falta(c, {"chkObligAccesoria", "chkObligAccesoria_porcDef"}, "nroObligAccesoria_porcDef"),
          "Ingrese el porcentaje a utilizar en la Obligación Accesoria", "nroObligAccesoria_porcDef"},
-        {sin_modo(c, "chkObligAccesoria", "optObligAccesoria_fijo", "optObligAccesoria_porc"), "Indique el modo por defecto para la Obligación Accesoria",
-         "optObligAccesoria_fijo"},
+        {sin_modo(c, "chkObligAccesoria", "optObligAccesoria_fijo", "optObligAccesoria_porc"),
+         "Indique el modo por defecto para la Obligación Accesoria", "optObligAccesoria_fijo"},
     });
 }

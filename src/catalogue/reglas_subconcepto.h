@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules of an item's editor: what hangs on which box, what a kind of calculation allows, and the
 // checks before the item is saved.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/roles_catalogo.h"
 
 #include "core/modGlobales.h"
@@ -31,9 +33,18 @@ bool existe_tabla(const QString& nombre)
 QList<clsRol> roles_de(qint32 subconcepto)
 {
     QList<clsRol> lista;
-    for (Recordset rs(cnRtn, u"select SROL_ID " u", SSUB_ID, SROL_DESCRIPCION, SROL_REQUERIDO, IIf([SROL_REQUERIDO],'Siempre','Esporádico') AS EXP_REQUERIDO" u", SROL_PARTICIPA_IMPUESTO, IIf([SROL_PARTICIPA_IMPUESTO],'Si','No') AS EXP_PARTICIPA_IMPUESTO" u", SROL_SM_CARGA_OBLIG, IIf([SROL_SM_CARGA_OBLIG],'Si','No') AS EXP_SM_CARGA_OBLIG" u", SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA, SROL_PERMITE_CUIT_EN_TRAMITE" u" FROM SEL_TB_ROLES  where SSUB_ID="_s + QString::number(subconcepto)
-                                 + u" order by SROL_PARTICIPA_IMPUESTO, SROL_DESCRIPCION collate ESPANOL"_s);
-         !rs.eof(); rs.siguiente())
+    for (
+        Recordset rs(
+            cnRtn,
+            u"select SROL_ID "
+            u", SSUB_ID, SROL_DESCRIPCION, SROL_REQUERIDO, IIf([SROL_REQUERIDO],'Siempre','Esporádico') AS EXP_REQUERIDO"
+            u", SROL_PARTICIPA_IMPUESTO, IIf([SROL_PARTICIPA_IMPUESTO],'Si','No') AS EXP_PARTICIPA_IMPUESTO"
+            u", SROL_SM_CARGA_OBLIG, IIf([SROL_SM_CARGA_OBLIG],'Si','No') AS EXP_SM_CARGA_OBLIG"
+            u", SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA, SROL_PERMITE_CUIT_EN_TRAMITE"
+            u" FROM SEL_TB_ROLES  where SSUB_ID="_s
+                + QString::number(subconcepto)
+                + u" order by SROL_PARTICIPA_IMPUESTO, SROL_DESCRIPCION collate ESPANOL"_s);
+        !rs.eof(); rs.siguiente())
         lista << leer_rol(rs);
     return lista;
 }
@@ -49,7 +60,8 @@ QStringList atributos_subconcepto()
 
 qint64 proximo_rol(qint32 subconcepto)
 {
-    const Recordset rs(cnRtn, u"select max(SROL_ID)+1 as MAX_SROL_ID from SEL_TB_ROLES where int(SROL_ID/1000)="_s + QString::number(subconcepto));
+    const Recordset rs(cnRtn, u"select max(SROL_ID)+1 as MAX_SROL_ID from SEL_TB_ROLES where int(SROL_ID/1000)="_s
+                                  + QString::number(subconcepto));
     return rs.nulo(0) ? qint64(subconcepto) * 1000 + 1 : rs.entero(0);
 }
 
@@ -59,11 +71,13 @@ std::optional<Falla> validar_rol(clsRol& rol, bool depende)
         *t = t->trimmed();
     if (auto falla = primera_falla({
             {rol.Descripcion.isEmpty(), "Ingrese la descripción del rol", "txtDescripcion"},
-            {depende && rol.SSUBAtributo.isEmpty(), "Ingrese el atributo del subconcepto del cual depende este rol", "cboSSUBAtributos"},
+            {depende && rol.SSUBAtributo.isEmpty(), "Ingrese el atributo del subconcepto del cual depende este rol",
+             "cboSSUBAtributos"},
         }))
         return falla;
     if (depende && rol.SSUBAtributo_valor.isEmpty())
-        return Falla{.mensaje = u"Ingrese el valor para el atributo "_s + rol.SSUBAtributo + u" para el cual será exigible este rol"_s,
+        return Falla{.mensaje = u"Ingrese el valor para el atributo "_s + rol.SSUBAtributo
+                                + u" para el cual será exigible este rol"_s,
                      .control = u"txtSSUBAtributoValor"_s,
                      .titulo = {}};
     if (!rol.SSUBAtributo_tabla.isEmpty() && !existe_tabla(rol.SSUBAtributo_tabla))
@@ -75,21 +89,24 @@ std::optional<Falla> validar_rol(clsRol& rol, bool depende)
 
 void alta_rol(const clsRol& rol, qint32 subconcepto)
 {
-    cnRtn.ejecutar(u"insert into SEL_TB_ROLES (SROL_ID,  SROL_DESCRIPCION,  SROL_REQUERIDO,  SSUB_ID, " u" SROL_PARTICIPA_IMPUESTO,  SROL_SM_CARGA_OBLIG,  SROL_SSUB_ATRIBUTO,  SROL_SSUB_ATRIBUTO_VALOR, " u" SROL_SSUB_ATRIBUTO_TABLA,  SROL_PERMITE_CUIT_EN_TRAMITE,  AUSU_ID,  SROL_FULTMOD  ) values ("_s
-                   + QString::number(rol.IdRol) + u", "_s + texto(rol.Descripcion) + u", "_s + logico_sql(rol.Requerido) + u", "_s
-                   + QString::number(subconcepto) + u", "_s + logico_sql(rol.ParicipaImpuesto) + u", "_s + logico_sql(rol.CargaOblig_SM)
-                   + u", "_s + texto(rol.SSUBAtributo) + u", "_s + texto(rol.SSUBAtributo_valor) + u", "_s
-                   + texto(rol.SSUBAtributo_tabla) + u", "_s + logico_sql(rol.Permite_CuitEnTramite) + u", 'ZQ', "_s
-                   + fecha_sql(hoy()) + u")"_s);
+    cnRtn.ejecutar(u"insert into SEL_TB_ROLES (SROL_ID,  SROL_DESCRIPCION,  SROL_REQUERIDO,  SSUB_ID, "
+                   u" SROL_PARTICIPA_IMPUESTO,  SROL_SM_CARGA_OBLIG,  SROL_SSUB_ATRIBUTO,  SROL_SSUB_ATRIBUTO_VALOR, "
+                   u" SROL_SSUB_ATRIBUTO_TABLA,  SROL_PERMITE_CUIT_EN_TRAMITE,  AUSU_ID,  SROL_FULTMOD  ) values ("_s
+                   + QString::number(rol.IdRol) + u", "_s + texto(rol.Descripcion) + u", "_s + logico_sql(rol.Requerido)
+                   + u", "_s + QString::number(subconcepto) + u", "_s + logico_sql(rol.ParicipaImpuesto) + u", "_s
+                   + logico_sql(rol.CargaOblig_SM) + u", "_s + texto(rol.SSUBAtributo) + u", "_s
+                   + texto(rol.SSUBAtributo_valor) + u", "_s + texto(rol.SSUBAtributo_tabla) + u", "_s
+                   + logico_sql(rol.Permite_CuitEnTramite) + u", 'ZQ', "_s + fecha_sql(hoy()) + u")"_s);
 }
 
 void modificar_rol(const clsRol& rol, qint32 subconcepto)
 {
     cnRtn.ejecutar(u"update SEL_TB_ROLES set SROL_DESCRIPCION="_s + texto(rol.Descripcion) + u", SROL_REQUERIDO="_s
-                   + logico_sql(rol.Requerido) + u", SSUB_ID="_s + QString::number(subconcepto) + u", SROL_PARTICIPA_IMPUESTO="_s
-                   + logico_sql(rol.ParicipaImpuesto) + u", SROL_SM_CARGA_OBLIG="_s + logico_sql(rol.CargaOblig_SM) + u", SROL_SSUB_ATRIBUTO="_s
-                   + texto(rol.SSUBAtributo) + u", SROL_SSUB_ATRIBUTO_VALOR="_s + texto(rol.SSUBAtributo_valor)
-                   + u", SROL_SSUB_ATRIBUTO_TABLA="_s + texto(rol.SSUBAtributo_tabla) + u", SROL_PERMITE_CUIT_EN_TRAMITE="_s
+                   + logico_sql(rol.Requerido) + u", SSUB_ID="_s + QString::number(subconcepto)
+                   + u", SROL_PARTICIPA_IMPUESTO="_s + logico_sql(rol.ParicipaImpuesto) + u", SROL_SM_CARGA_OBLIG="_s
+                   + logico_sql(rol.CargaOblig_SM) + u", SROL_SSUB_ATRIBUTO="_s + texto(rol.SSUBAtributo)
+                   + u", SROL_SSUB_ATRIBUTO_VALOR="_s + texto(rol.SSUBAtributo_valor) + u", SROL_SSUB_ATRIBUTO_TABLA="_s
+                   + texto(rol.SSUBAtributo_tabla) + u", SROL_PERMITE_CUIT_EN_TRAMITE="_s
                    + logico_sql(rol.Permite_CuitEnTramite) + u", AUSU_ID='ZQ', SROL_FULTMOD="_s + fecha_sql(hoy())
                    + u" where SROL_ID="_s + QString::number(rol.IdRol));
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The roles of an item as the catalogue keeps them.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/subconcepto_fila.h"
 
 #include "core/modGlobales.h"
@@ -43,14 +45,19 @@ constexpr std::array CAMPOS{
     CampoSubconcepto{"SSUB_FONDO_REPARO", Forma::logico, "chkFondoReparo"},
     CampoSubconcepto{"SSUB_FONDO_REPARO_PORC", Forma::numero, "nroFondoReparo_PorcDef", "chkFondoReparo_Porc"},
     CampoSubconcepto{"SSUB_FONDO_REPARO_NOMBRE", Forma::texto, "txtFondoReparo_nombre"},
-    CampoSubconcepto{"SSUB_FONDO_REPARO_MODO_DEFAULT", Forma::modo, "optFondoReparo_montoFijo", "optFondoReparo_porcentaje"},
+    CampoSubconcepto{"SSUB_FONDO_REPARO_MODO_DEFAULT", Forma::modo, "optFondoReparo_montoFijo",
+                     "optFondoReparo_porcentaje"},
     CampoSubconcepto{"SSUB_GARANTIA_CUMPLIMIENTO", Forma::logico, "chkGarantiaCumplimiento"},
-    CampoSubconcepto{"SSUB_GARANTIA_CUMPLIMIENTO_PORC", Forma::numero, "nroGarantiaCumplimiento_Porc", "chkGarantiaCumplimiento_porc"},
-    CampoSubconcepto{"SSUB_GARANTIA_CUMPL_MODO_DEFAULT", Forma::modo, "optGarantiaCumplimiento_fijo", "optGarantiaCumplimiento_porc"},
+    CampoSubconcepto{"SSUB_GARANTIA_CUMPLIMIENTO_PORC", Forma::numero, "nroGarantiaCumplimiento_Porc",
+                     "chkGarantiaCumplimiento_porc"},
+    CampoSubconcepto{"SSUB_GARANTIA_CUMPL_MODO_DEFAULT", Forma::modo, "optGarantiaCumplimiento_fijo",
+                     "optGarantiaCumplimiento_porc"},
     CampoSubconcepto{"SSUB_GARANTIA_CUMPL_SUMA", Forma::mascara, "txtGarantiaCumplimiento_suma"},
     CampoSubconcepto{"SSUB_OBLIG_ACCESORIA", Forma::logico, "chkObligAccesoria"},
-    CampoSubconcepto{"SSUB_OBLIG_ACCESORIA_MODO_DEFAULT", Forma::modo, "optObligAccesoria_fijo", "optObligAccesoria_porc"},
-    CampoSubconcepto{"SSUB_OBLIG_ACCESORIA_PORC", Forma::numero, "nroObligAccesoria_porcDef", "chkObligAccesoria_porcDef"},
+    CampoSubconcepto{"SSUB_OBLIG_ACCESORIA_MODO_DEFAULT", Forma::modo, "optObligAccesoria_fijo",
+                     "optObligAccesoria_porc"},
+    CampoSubconcepto{"SSUB_OBLIG_ACCESORIA_PORC", Forma::numero, "nroObligAccesoria_porcDef",
+                     "chkObligAccesoria_porcDef"},
     CampoSubconcepto{"SSUB_OBLIG_ACCESORIA_SUMA", Forma::mascara, "txtObligAccesoria_suma"},
     CampoSubconcepto{"SSUB_HECTAREAS", Forma::logico, "chkHectareas"},
     CampoSubconcepto{"SSUB_TIPO_RETRIBUCION", Forma::logico, "chkTipoRetribucion"},
@@ -95,8 +102,9 @@ QString literal(const CampoSubconcepto& campo, const ControlesSubconcepto& c)
 
 bool es_de_columna(const char* casilla)
 {
-    return std::any_of(CAMPOS.begin(), CAMPOS.end(),
-                       [casilla](const CampoSubconcepto& campo) { return campo.forma == Forma::logico && QLatin1StringView(campo.control) == QLatin1StringView(casilla); });
+    return std::any_of(CAMPOS.begin(), CAMPOS.end(), [casilla](const CampoSubconcepto& campo) {
+        return campo.forma == Forma::logico && QLatin1StringView(campo.control) == QLatin1StringView(casilla);
+    });
 }
 
 void tomar(const CampoSubconcepto& campo, const Recordset& rs, ControlesSubconcepto& c)
@@ -172,6 +180,7 @@ void modificar_subconcepto(const ControlesSubconcepto& c)
 {
     QString asignaciones;
     for (const CampoSubconcepto& campo : std::span(CAMPOS).subspan(1))
-        asignaciones += (asignaciones.isEmpty() ? u" "_s : u", "_s) + QLatin1StringView(campo.columna) + u'=' + literal(campo, c);
+        asignaciones += (asignaciones.isEmpty() ? u" "_s : u", "_s) + QLatin1StringView(campo.columna) + u'='
+                        + literal(campo, c);
     cnRtn.ejecutar(u"update SEL_TB_SUBCONCEPTOS set "_s + asignaciones + u" where SSUB_ID="_s + literal(CAMPOS[0], c));
 }

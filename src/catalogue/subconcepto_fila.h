@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An item of the catalogue as its editor holds it: which control stands for which column, and the
 // statements.
 #pragma once
@@ -13,10 +14,9 @@
 using ControlesSubconcepto = QHash<QString, QVariant>;
 
 /// How a control's value stands in its column.
-enum class Forma
-{
+enum class Forma {
     codigo,
-    texto,    ///< empty is null
+    texto,  ///< empty is null
     fecha,
     logico,
     numero,   ///< null when empty, and while its box is clear

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/subconcepto_memoria.h"
 
 #include "core/modGlobales.h"
@@ -28,8 +30,12 @@ void clsSubconcepto::setIdSubconcepto(qint32 id)
     id_ = id;
     roles_ = {};
     try {
-        for (Recordset rs(cnRtn, u"select SROL_ID, SROL_DESCRIPCION, SROL_REQUERIDO, SROL_PARTICIPA_IMPUESTO, SROL_SM_CARGA_OBLIG, " u"SROL_PERMITE_CUIT_EN_TRAMITE, SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, " u"SROL_SSUB_ATRIBUTO_TABLA from SEL_VW_ROLES where SSUB_ID="_s
-                                     + QString::number(id) + u" order by SROL_DESCRIPCION collate ESPANOL "_s);
+        for (Recordset rs(
+                 cnRtn,
+                 u"select SROL_ID, SROL_DESCRIPCION, SROL_REQUERIDO, SROL_PARTICIPA_IMPUESTO, SROL_SM_CARGA_OBLIG, "
+                 u"SROL_PERMITE_CUIT_EN_TRAMITE, SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, "
+                 u"SROL_SSUB_ATRIBUTO_TABLA from SEL_VW_ROLES where SSUB_ID="_s
+                     + QString::number(id) + u" order by SROL_DESCRIPCION collate ESPANOL "_s);
              !rs.eof(); rs.siguiente())
             roles_.Add(leer_rol(rs));
     } catch (const ErrorAlmacen&) {

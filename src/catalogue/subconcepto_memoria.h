@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // An item of the tax catalogue with its roles, and what groups and brackets it.
 #pragma once
 
@@ -36,8 +37,8 @@ public:
     QString Descripcion;
     QString LeyVigencia;
     QDate FechaVigencia;
-    QString TipoCalculo;             ///< "FIJO", "FIJO PROPORCIONAL", "FIJO ESCALA" or "VARIABLE"
-    qint32 ModulosMinimo = -1;       ///< -1 without a minimum; 0 is a minimum of zero
+    QString TipoCalculo;        ///< "FIJO", "FIJO PROPORCIONAL", "FIJO ESCALA" or "VARIABLE"
+    qint32 ModulosMinimo = -1;  ///< -1 without a minimum; 0 is a minimum of zero
     bool RequiereBaseImponible = false;
     bool RequiereMoneda = false;
     qint32 IdTipoCalculoBI = 0;

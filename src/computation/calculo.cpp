@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "computation/calculo.h"
 
 #include "core/modComunes.h"
@@ -21,8 +23,7 @@ double base_precio_menos_prestamo(const CamposImpuesto& c, Dialogo& dialogo)
     if (vf >= vc)
         return vf - h;
     if (vc < h) {
-        dialogo.avisar({u"El préstamo no puede ser mayor que el precio de venta"_s, u"Atención"_s,
-                        Icono::ninguno});
+        dialogo.avisar({u"El préstamo no puede ser mayor que el precio de venta"_s, u"Atención"_s, Icono::ninguno});
         return 0;
     }
     return vc - h;
@@ -57,12 +58,14 @@ void buscar_modulos(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
     // The bounds are compared with base times module value; the product is deliberate.
     c.nroAux.setValue(c.ctlBaseImponiblePesos.Value() * ValorModulo);
     const QString x = c.nroAux.toSQL();
-    const Recordset rs(cnRtn, u"select SMOD_ID, SMOD_DESDEVALOR, SMOD_HASTAVALOR, SMOD_MODULOS  from SEL_TB_MODULOS  where SSUB_ID="_s
-                                  + QString::number(e.subconcepto->IdSubconcepto()) + u" and SMOD_DESDEVALOR<="_s + x
-                                  + u" and (SMOD_HASTAVALOR=-1 or SMOD_HASTAVALOR>="_s + x + u")"_s);
+    const Recordset rs(
+        cnRtn, u"select SMOD_ID, SMOD_DESDEVALOR, SMOD_HASTAVALOR, SMOD_MODULOS  from SEL_TB_MODULOS  where SSUB_ID="_s
+                   + QString::number(e.subconcepto->IdSubconcepto()) + u" and SMOD_DESDEVALOR<="_s + x
+                   + u" and (SMOD_HASTAVALOR=-1 or SMOD_HASTAVALOR>="_s + x + u")"_s);
     if (rs.eof())
-        dialogo.avisar({u"Error en la tabla de módulos: No se encuentran los modulos correspondientes para este subconcepto"_s,
-                        e.titulo, Icono::critico});
+        dialogo.avisar(
+            {u"Error en la tabla de módulos: No se encuentran los modulos correspondientes para este subconcepto"_s,
+             e.titulo, Icono::critico});
     else
         c.nroMoA.setValue(rs.real("SMOD_MODULOS"));
 }
@@ -73,14 +76,16 @@ void buscar_alicuota(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
     const QString x = c.ctlBaseImponiblePesos.toSQL();
     const QString desde = c.ctlBaseImponiblePesos.Value() == 0 ? u" and (SALI_DESDEVALOR<="_s
                                                                : u" and (SALI_DESDEVALOR<"_s;
-    const Recordset rs(cnRtn, u"select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS " u" where SSUB_ID="_s
+    const Recordset rs(cnRtn, u"select SALI_ID, SALI_DESDEVALOR, SALI_HASTAVALOR, SALI_ALICUOTA  from SEL_TB_ALICUOTAS "
+                              u" where SSUB_ID="_s
                                   + QString::number(e.subconcepto->IdSubconcepto()) + desde + x
                                   + u" and (SALI_HASTAVALOR=-1 or SALI_HASTAVALOR>="_s + x + u"))"_s);
     if (!rs.eof()) {
         c.nroMoA.setValue(rs.real("SALI_ALICUOTA"));
         return;
     }
-    dialogo.avisar({u"Error: No se encuentra la alícuota correspondiente para este subconcepto"_s, e.titulo, Icono::critico});
+    dialogo.avisar(
+        {u"Error: No se encuentra la alícuota correspondiente para este subconcepto"_s, e.titulo, Icono::critico});
     c.nroMoA.setValue(0);
     e.enfocarMoA = true;
 }
@@ -187,8 +192,8 @@ int DeterminarLey(const QString& dia, const QString& posicion, Dialogo& dialogo)
     const QDate fecha(posicion.left(4).toInt(), posicion.mid(5, 2).toInt(), dia.toInt());
     int ley = 0;
     {
-        const Recordset rs(cnRtn, u"select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES where "_s + u' ' + fecha_sql(fecha)
-                                      + u" >= GLEY_VIGENCIA_DESDE  and ("_s + fecha_sql(fecha)
+        const Recordset rs(cnRtn, u"select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES where "_s + u' '
+                                      + fecha_sql(fecha) + u" >= GLEY_VIGENCIA_DESDE  and ("_s + fecha_sql(fecha)
                                       + u"<=GLEY_VIGENCIA_HASTA  or  GLEY_VIGENCIA_HASTA is null)"_s);
         if (rs.eof())
             dialogo.avisar({u"No se encuentra la ley para la fecha indicada"_s, {}, Icono::ninguno});

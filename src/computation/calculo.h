@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stamp tax of one operation. It works on number fields and nothing else: an amount is
 // rounded when it is written to a field, and every later use reads the field back.
 #pragma once
@@ -48,15 +49,15 @@ struct EstadoOperacion
 
     const clsSubconcepto* subconcepto = nullptr;
     QList<Parte> partes;
-    QString idMoneda;               ///< of the currency selected
-    bool obligAccesoria = false;    ///< the box is ticked
-    int obligAccesoriaDato = -1;    ///< item data of the mode, -1 without a selection
+    QString idMoneda;             ///< of the currency selected
+    bool obligAccesoria = false;  ///< the box is ticked
+    int obligAccesoriaDato = -1;  ///< item data of the mode, -1 without a selection
     bool obligAccesoriaFijo = false;
     bool obligAccesoriaPorc = false;
 
-    QString titulo;                 ///< caption of the screen, for messages
-    QString lblMoA;                 ///< written: "Módulos" or "Alícuota"
-    bool enfocarMoA = false;        ///< written: no rate was found, the field gets the focus
+    QString titulo;           ///< caption of the screen, for messages
+    QString lblMoA;           ///< written: "Módulos" or "Alícuota"
+    bool enfocarMoA = false;  ///< written: no rate was found, the field gets the focus
 };
 
 /// The law that applies on a date, 0 without one, which is told. The value of the module of that

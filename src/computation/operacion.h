@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operation of a deed in the store: its item, its row, its contract values, its roles, and
 // the totals that hang on it.
 #pragma once
@@ -85,6 +86,7 @@ struct ParteRol
 };
 [[nodiscard]] QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave);
 /// Replaces the roles of the operation; false after a failure, which is told.
-[[nodiscard]] bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, const QString& titulo, Dialogo& dialogo);
+[[nodiscard]] bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, const QString& titulo,
+                                 Dialogo& dialogo);
 /// Whether every mandatory role is held; `texto` takes the list of the mandatory ones.
 [[nodiscard]] bool roles_obligatorios(const clsSubconcepto* s, const QList<ParteRol>& partes, QString& texto);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Which party plays which role in an operation.
 
 #include "computation/operacion.h"
@@ -21,7 +22,7 @@ QString numero_documento(const Recordset& rs)
         return rs.texto("SPIN_NRODOC");
     return rs.nulo("CPAI_PAIS") ? u"Extranjero"_s
                                 : rs.texto("CPAI_PAIS") + u" - "_s + rs.texto("CPAI_PERSONA") + u" ("_s
-            + rs.texto("CPAI_CODIGO") + u")"_s;
+                                      + rs.texto("CPAI_CODIGO") + u")"_s;
 }
 
 }  // namespace
@@ -41,8 +42,11 @@ QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave)
     }
     if (clave.operacion.isEmpty())
         return partes;
-    for (Recordset rs(cnRtn, u"select RI.SPIN_ID, RI.SROL_ID, RS.SROL_DESCRIPCION, RI.SEDR_OBS" u" from SEL_TB_RTN_INS_ROLES as RI, SEL_TB_ROLES as RS  where RI.SROL_ID=RS.SROL_ID and RI.SEDJ_NRO='"_s + clave.dj + u"' and RI.SEDD_ID="_s
-                                 + clave.renglon + u" and RI.SEDO_ID="_s + clave.operacion);
+    for (Recordset rs(
+             cnRtn,
+             u"select RI.SPIN_ID, RI.SROL_ID, RS.SROL_DESCRIPCION, RI.SEDR_OBS"
+             u" from SEL_TB_RTN_INS_ROLES as RI, SEL_TB_ROLES as RS  where RI.SROL_ID=RS.SROL_ID and RI.SEDJ_NRO='"_s
+                 + clave.dj + u"' and RI.SEDD_ID="_s + clave.renglon + u" and RI.SEDO_ID="_s + clave.operacion);
          !rs.eof(); rs.siguiente())
         for (ParteRol& p : partes)
             if (p.id == rs.texto("SPIN_ID")) {
@@ -60,7 +64,9 @@ bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, c
         for (const ParteRol& p : partes) {
             if (p.idRol.isEmpty() || p.idRol == u"0")
                 continue;
-            if (!alta_rol({clave.dj, clave.renglon.toInt(), clave.operacion.toInt(), p.id.toInt(), p.idRol.toLongLong(), p.observaciones}, dialogo)) {
+            if (!alta_rol({clave.dj, clave.renglon.toInt(), clave.operacion.toInt(), p.id.toInt(), p.idRol.toLongLong(),
+                           p.observaciones},
+                          dialogo)) {
                 dialogo.avisar({u"Error al guardar los roles"_s, titulo, Icono::ninguno});
                 return false;
             }

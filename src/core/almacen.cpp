@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/almacen.h"
 
 #include "core/funciones_sql.h"
@@ -21,7 +23,7 @@ ErrorAlmacen::ErrorAlmacen(int numero_, const QString& descripcion_)
 bool ErrorAlmacen::claveDuplicada() const
 {
     return numero == SQLITE_CONSTRAINT_PRIMARYKEY || numero == SQLITE_CONSTRAINT_UNIQUE
-        || numero == SQLITE_CONSTRAINT_ROWID;
+           || numero == SQLITE_CONSTRAINT_ROWID;
 }
 
 bool ErrorAlmacen::ocupado() const
@@ -282,9 +284,7 @@ QDate Recordset::fecha(const char* n) const
     return QDate::fromString(texto(n).left(10), Qt::ISODate);
 }
 
-Comando::Comando(Conexion& cn, const QString& sql) : cn_(cn), sql_(sql), sentencia_(cn.prestar(sql))
-{
-}
+Comando::Comando(Conexion& cn, const QString& sql) : cn_(cn), sql_(sql), sentencia_(cn.prestar(sql)) {}
 
 Comando::~Comando()
 {
@@ -295,14 +295,12 @@ void Comando::parametro(const char* nombre, const QVariant& valor, int ancho)
 {
     const int n = siguiente_++;
     switch (valor.typeId()) {
-    case QMetaType::UnknownType:
-        sqlite3_bind_null(sentencia_, n);
-        return;
+    case QMetaType::UnknownType: sqlite3_bind_null(sentencia_, n); return;
     case QMetaType::QString: {
         const QString texto = valor.toString();
         if (ancho > 0 && texto.size() > ancho)
-            throw ErrorAlmacen(SQLITE_TOOBIG, u"El valor de %1 excede los %2 caracteres"_s
-                                                  .arg(QLatin1String(nombre)).arg(ancho));
+            throw ErrorAlmacen(SQLITE_TOOBIG,
+                               u"El valor de %1 excede los %2 caracteres"_s.arg(QLatin1String(nombre)).arg(ancho));
         const QByteArray utf8 = texto.toUtf8();
         sqlite3_bind_text(sentencia_, n, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
         return;
@@ -312,11 +310,8 @@ void Comando::parametro(const char* nombre, const QVariant& valor, int ancho)
         sqlite3_bind_text(sentencia_, n, iso.constData(), int(iso.size()), SQLITE_TRANSIENT);
         return;
     }
-    case QMetaType::Double:
-        sqlite3_bind_double(sentencia_, n, valor.toDouble());
-        return;
-    default:
-        sqlite3_bind_int64(sentencia_, n, valor.toLongLong());
+    case QMetaType::Double: sqlite3_bind_double(sentencia_, n, valor.toDouble()); return;
+    default: sqlite3_bind_int64(sentencia_, n, valor.toLongLong());
     }
 }
 

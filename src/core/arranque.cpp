@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/arranque.h"
 
 #include "core/modGlobales.h"
@@ -29,8 +31,8 @@ bool leer_ruta(const QString& archivo, QString& ruta)
 
 QString componer_cadena(const QString& ruta)
 {
-    return u"Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password="_s + clave_almacen()
-        + u";Data Source="_s + ruta + u";Persist Security Info=false"_s;
+    return u"Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password="_s + clave_almacen() + u";Data Source="_s
+           + ruta + u";Persist Security Info=false"_s;
 }
 
 void mostrar_error(Dialogo& dialogo, const QString& prefijo, const ErrorAlmacen& e)
@@ -56,7 +58,8 @@ bool abrir_base(Dialogo& dialogo)
         return true;
     } catch (const ErrorAlmacen&) {
         // The text names another file than the one that is read; it is kept so on purpose.
-        dialogo.avisar({u"Error. No se puede obtener la ruta de acceso a la base de datos " u"(ventanilla.cfg). Comuniquese con el administrador del sistema"_s,
+        dialogo.avisar({u"Error. No se puede obtener la ruta de acceso a la base de datos "
+                        u"(ventanilla.cfg). Comuniquese con el administrador del sistema"_s,
                         u"Error de acceso al sistema"_s, Icono::informacion});
         return false;
     }
@@ -92,7 +95,8 @@ void cargar_parametros(Dialogo& dialogo)
 void cargar_ley_vigente(Dialogo& dialogo)
 {
     try {
-        const Recordset rs(cnRtn, u"select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES " u"where GLEY_VIGENCIA_HASTA is null"_s);
+        const Recordset rs(cnRtn, u"select GLEY_NRO, GLEY_VIGENCIA_DESDE from GLB_TB_LEYES "
+                                  u"where GLEY_VIGENCIA_HASTA is null"_s);
         // Without a law in force nothing is told: the silence is deliberate.
         if (rs.eof())
             return;

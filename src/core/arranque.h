@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Start-up: the store is opened, the parameters and the law in force are loaded.
 #pragma once
 

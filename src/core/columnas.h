@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A table's columns joined to the fields of a plain struct: inserting and reading walk it.
 #pragma once
 
@@ -104,8 +105,7 @@ QString sentencia_alta(const char* tabla, std::span<const Columna<T>> columnas)
         nombres += (nombres.isEmpty() ? QString() : u", "_s) + QLatin1String(c.nombre);
         marcas += marcas.isEmpty() ? u"?"_s : u",?"_s;
     }
-    return u"insert into "_s + QLatin1String(tabla) + u" ("_s + nombres + u") values ("_s
-        + marcas + u")"_s;
+    return u"insert into "_s + QLatin1String(tabla) + u" ("_s + nombres + u") values ("_s + marcas + u")"_s;
 }
 
 /// Inserts one row by positional parameters; gives the rows affected. Throws ErrorAlmacen.

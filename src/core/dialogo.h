@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the logic says to the user and asks, as data: the screens show it, a test answers it.
 #pragma once
 
@@ -30,7 +31,7 @@ struct Falla
     QString control;
     std::optional<QString> titulo;  ///< the form's caption when absent
     Icono icono = Icono::informacion;
-    int solapa = -1;                ///< tab to bring to the front first, -1 for none
+    int solapa = -1;  ///< tab to bring to the front first, -1 for none
 };
 
 /// One line of a list of checks: it fails when the condition holds.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How the rules hand rows of a list to whoever shows them.
 #pragma once
 

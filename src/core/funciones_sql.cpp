@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/funciones_sql.h"
 
 #include <sqlcipher/sqlite3.h>
@@ -70,7 +72,8 @@ void plegar(sqlite3_value* v, Unidades& destino)
         if (bytes[i] >= 0x80) {
             const QString entero = QString::fromUtf8(reinterpret_cast<const char*>(bytes), n);
             destino.resize(entero.size());
-            std::transform(entero.begin(), entero.end(), destino.begin(), [](QChar c) { return c.toCaseFolded().unicode(); });
+            std::transform(entero.begin(), entero.end(), destino.begin(),
+                           [](QChar c) { return c.toCaseFolded().unicode(); });
             return;
         }
         destino[i] = bytes[i] >= 'A' && bytes[i] <= 'Z' ? char16_t(bytes[i] + ('a' - 'A')) : char16_t(bytes[i]);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Functions and orders that the statements need and the engine lacks.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/listas.h"
 
 #include "core/modGlobales.h"
@@ -21,7 +23,8 @@ Entradas con_sin_filtro(const Entradas& leidas)
 
 Entradas provincias()
 {
-    return leer_entradas(u"select GPRO_ID, GPRO_DESCRIPCION, GPRO_JURISDICCION, GPRO_LETRA_PAT  from GLB_TB_PROVINCIAS " u" order by GPRO_DESCRIPCION collate ESPANOL"_s,
+    return leer_entradas(u"select GPRO_ID, GPRO_DESCRIPCION, GPRO_JURISDICCION, GPRO_LETRA_PAT  from GLB_TB_PROVINCIAS "
+                         u" order by GPRO_DESCRIPCION collate ESPANOL"_s,
                          "GPRO_DESCRIPCION", "GPRO_ID");
 }
 
@@ -34,7 +37,9 @@ Entradas localidades(int provincia)
 
 Entradas localidades_propias()
 {
-    return leer_entradas(u"select L.GLOC_ID, L.GLOC_DESCRIPCION  from GLB_TB_LOCALIDADES as L, GLB_TB_PROVINCIAS as P" u" where L.GPRO_ID=P.GPRO_ID and P.GPRO_DESCRIPCION='MARVEN'" u" order by L.GLOC_DESCRIPCION collate ESPANOL "_s,
+    return leer_entradas(u"select L.GLOC_ID, L.GLOC_DESCRIPCION  from GLB_TB_LOCALIDADES as L, GLB_TB_PROVINCIAS as P"
+                         u" where L.GPRO_ID=P.GPRO_ID and P.GPRO_DESCRIPCION='MARVEN'"
+                         u" order by L.GLOC_DESCRIPCION collate ESPANOL "_s,
                          "GLOC_DESCRIPCION", "GLOC_ID");
 }
 

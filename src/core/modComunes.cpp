@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/modComunes.h"
 
 #include "core/modGlobales.h"
@@ -9,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 void obtener_valor_modulo(int ley)
 {
-    const Recordset rs(cnRtn, u"select GVMO_VALOR_MODULO from GLB_TB_VALORES_MODULO  where GVMO_LEY_NRO="_s + QString::number(ley)
-                                  + u" and GVMO_CONCEPTO='SELLOS'"_s);
+    const Recordset rs(cnRtn, u"select GVMO_VALOR_MODULO from GLB_TB_VALORES_MODULO  where GVMO_LEY_NRO="_s
+                                  + QString::number(ley) + u" and GVMO_CONCEPTO='SELLOS'"_s);
     if (!rs.eof())
         ValorModulo = rs.real("GVMO_VALOR_MODULO");
 }

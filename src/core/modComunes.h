@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The value of the module and the check digit of the bar code.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // State of the whole process: the shared connections and what start-up loads.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/modNroALetras.h"
 
 #include "core/numero.h"
@@ -9,10 +11,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array CENTENAS{"", "ciento ", "doscientos ", "trescientos ", "cuatrocientos ", "quinientos ",
-                              "seiscientos ", "setecientos ", "ochocientos ", "novecientos "};
-constexpr std::array DIEZ{"diez ", "once ", "doce ", "trece ", "catorce ", "quince ", "dieci", "dieci", "dieci", "dieci"};
-constexpr std::array DECENAS{"", "", "", "treinta ", "cuarenta ", "cincuenta ", "sesenta ", "setenta ", "ochenta ", "noventa "};
+constexpr std::array CENTENAS{"",
+                              "ciento ",
+                              "doscientos ",
+                              "trescientos ",
+                              "cuatrocientos ",
+                              "quinientos ",
+                              "seiscientos ",
+                              "setecientos ",
+                              "ochocientos ",
+                              "novecientos "};
+constexpr std::array DIEZ{"diez ",   "once ", "doce ", "trece ", "catorce ",
+                          "quince ", "dieci", "dieci", "dieci",  "dieci"};
+constexpr std::array DECENAS{"",           "",         "",         "treinta ", "cuarenta ",
+                             "cincuenta ", "sesenta ", "setenta ", "ochenta ", "noventa "};
 constexpr std::array UNIDADES{"", "un ", "dos ", "tres ", "cuatro ", "cinco ", "seis ", "siete ", "ocho ", "nueve "};
 
 struct Grupo
@@ -64,18 +76,19 @@ QString nro_a_letras(double importe, int modo, bool entre_parentesis)
     const double entera = std::floor(monto);
     const QString cifras = formato_decimal(entera, 0).rightJustified(15, u'0');
     // A fraction that comes to 100 when formatted has three digits, and only two are read.
-    const QString centavos = formato_decimal(numero_sql(monto - entera).toDouble() * 100, 0).rightJustified(2, u'0').left(2);
+    const QString centavos =
+        formato_decimal(numero_sql(monto - entera).toDouble() * 100, 0).rightJustified(2, u'0').left(2);
 
     std::array<Grupo, 6> grupos{};
     for (int i = 0; i < 5; ++i)
-        grupos[size_t(i)] = {cifras[i * 3].digitValue(), cifras[i * 3 + 1].digitValue(), cifras[i * 3 + 2].digitValue()};
+        grupos[size_t(i)] = {cifras[i * 3].digitValue(), cifras[i * 3 + 1].digitValue(),
+                             cifras[i * 3 + 2].digitValue()};
     QByteArray palabras;
     for (int i = 0; i < 5; ++i)
         palabras += en_palabras(grupos[size_t(i)]) + nombre_grupo(i, grupos[size_t(i)], grupos[size_t(i) + 1]);
 
     const QString texto = QString::fromLatin1(palabras)
-        + (entre_parentesis ? u"( "_s + centavos + u"/100)"_s
-                            : u" con "_s + centavos + u"/100"_s);
+                          + (entre_parentesis ? u"( "_s + centavos + u"/100)"_s : u" con "_s + centavos + u"/100"_s);
     switch (modo) {
     case 1: return texto.toUpper();
     case 2: return texto.toLower();

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/motivos.h"
 
 #include "core/almacen.h"
@@ -6,7 +8,6 @@ using namespace Qt::StringLiterals;
 
 QString motivo_de_escritura(const ErrorAlmacen& e)
 {
-    return e.ocupado()
-        ? u"Otro usuario está utilizando en modo exclusivo los mismos datos que ud. Intente más tarde."_s
-        : e.descripcion;
+    return e.ocupado() ? u"Otro usuario está utilizando en modo exclusivo los mismos datos que ud. Intente más tarde."_s
+                       : e.descripcion;
 }

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/numero.h"
 
 #include <cmath>
@@ -47,8 +49,7 @@ Numero::Tecla Numero::filtrar(int keyAscii)
     switch (keyAscii) {
     case 13:
     case 8:
-    case 27:
-        return {keyAscii, false};
+    case 27: return {keyAscii, false};
     case '.':
         if (cantidadDecimales < 1 || texto_.contains(local_.sDecimal()))
             return {0, false};
@@ -63,8 +64,7 @@ Numero::Tecla Numero::filtrar(int keyAscii)
             return {0, false};
         poner(QString(texto_).remove(u'-'));
         return {0, true};
-    default:
-        return {keyAscii >= '0' && keyAscii <= '9' ? keyAscii : 0, false};
+    default: return {keyAscii >= '0' && keyAscii <= '9' ? keyAscii : 0, false};
     }
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The number field without its widget: the text that the user sees is the only truth about the
 // number.
 #pragma once
@@ -41,8 +42,8 @@ public:
     /// What the key filter decides about one character key.
     struct Tecla
     {
-        int keyAscii;       ///< the character that goes on, 0 for a dropped key
-        bool cursorAlFinal; ///< the text was changed, the caret goes to its end
+        int keyAscii;        ///< the character that goes on, 0 for a dropped key
+        bool cursorAlFinal;  ///< the text was changed, the caret goes to its end
     };
     /// Enter, Backspace and Escape pass; "." becomes the locale's separator, "-" and "+" set and
     /// clear the sign, anything but a digit is dropped.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "core/redondeo.h"
 
 #include "core/clsLocaleInfo.h"
@@ -14,7 +16,7 @@ namespace {
 struct Cifras
 {
     bool negativo;
-    QByteArray enteras;    // at least "0"
+    QByteArray enteras;  // at least "0"
     QByteArray decimales;
 };
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Decimal rounding and the texts of numbers. There is no other place that rounds.
 #pragma once
 

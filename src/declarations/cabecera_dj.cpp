@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "declarations/cabecera_dj.h"
 
 #include "core/modGlobales.h"
@@ -49,20 +51,20 @@ QString componer_resolucion(double numero, double anio)
 
 void actualizar_cabecera(const CabeceraDJ& dj)
 {
-    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set  SEDJ_ANIO="_s + QString::number(dj.anio)
-                   + u", SEDJ_MES="_s + QString::number(dj.mes) + u", SEDJ_SECUENCIA="_s + QString::number(dj.secuencia)
+    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set  SEDJ_ANIO="_s + QString::number(dj.anio) + u", SEDJ_MES="_s
+                   + QString::number(dj.mes) + u", SEDJ_SECUENCIA="_s + QString::number(dj.secuencia)
                    + u", SEDJ_ESTADO="_s + QString::number(dj.estado) + u", SEDJ_OBSERVACIONES="_s
                    + texto_o_null(toSQL(dj.observaciones)) + u", SEDJ_TOTAL_RETENIDO="_s + numero_sql(dj.totalRetenido)
                    + u", SEDJ_FVENCIMIENTO="_s + fecha_sql(dj.vencimiento) + u", SRTN_NRO="_s
                    + QString::number(dj.agente) + u", SEDJ_ACRED_MONTO="_s + numero_sql(dj.acredMonto)
-                   + u", SEDJ_ACRED_RESOLUCION='"_s + dj.acredResolucion + u"' where SEDJ_NRO='"_s
-                   + dj.nro + u"'"_s);
+                   + u", SEDJ_ACRED_RESOLUCION='"_s + dj.acredResolucion + u"' where SEDJ_NRO='"_s + dj.nro + u"'"_s);
 }
 
 std::optional<CabeceraDJ> cargar_dj(const QString& nro, QString& localidad)
 {
-    const Recordset rs(cnRtn, u"select C.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_CABDJ C left join GLB_TB_LOCALIDADES L" u" on (C.GLOC_ID=L.GLOC_ID ) where C.SEDJ_NRO='"_s + nro
-                                  + u"'"_s);
+    const Recordset rs(cnRtn, u"select C.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_CABDJ C left join GLB_TB_LOCALIDADES L"
+                              u" on (C.GLOC_ID=L.GLOC_ID ) where C.SEDJ_NRO='"_s
+                                  + nro + u"'"_s);
     if (rs.eof())
         return {};
     localidad = rs.texto("GLOC_DESCRIPCION");
@@ -71,8 +73,7 @@ std::optional<CabeceraDJ> cargar_dj(const QString& nro, QString& localidad)
 
 double total_retenido(const QString& nro)
 {
-    const Recordset rs(cnRtn, u"select SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_CABDJ  where SEDJ_NRO='"_s + nro
-                                  + u"'"_s);
+    const Recordset rs(cnRtn, u"select SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_CABDJ  where SEDJ_NRO='"_s + nro + u"'"_s);
     return rs.eof() ? 0 : rs.real(0);
 }
 
@@ -85,8 +86,8 @@ int cantidad_renglones(const QString& nro)
 void borrar_escrituras(const QString& nro)
 {
     Transaccion t(cnRtn);
-    for (const char* tabla : {"SEL_TB_RTN_INS_ROLES", "SEL_TB_RTN_INS_VC", "SEL_TB_RTN_INS_OPERACIONES", "SEL_TB_RTN_INS_PARTES",
-                              "SEL_TB_RTN_INS_INMUEBLES", "SEL_TB_RTN_DETDJ"})
+    for (const char* tabla : {"SEL_TB_RTN_INS_ROLES", "SEL_TB_RTN_INS_VC", "SEL_TB_RTN_INS_OPERACIONES",
+                              "SEL_TB_RTN_INS_PARTES", "SEL_TB_RTN_INS_INMUEBLES", "SEL_TB_RTN_DETDJ"})
         cnRtn.ejecutar(u"delete from "_s + QLatin1String(tabla) + u" where SEDJ_NRO='"_s + nro + u"'"_s);
     t.confirmar();
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The header of a DJ: its number, due date, checks, update and totals.
 #pragma once
 
@@ -7,11 +8,11 @@
 /// The header as the screen holds it, before it is a row.
 struct ControlesCabecera
 {
-    QString agenteNro;            ///< text of the agent's number
-    int agente = 0;               ///< item data of the agent, 0 without a selection
+    QString agenteNro;  ///< text of the agent's number
+    int agente = 0;     ///< item data of the agent, 0 without a selection
     QString anio;
-    int mes = 0;                  ///< 0 without a selection
-    int secuencia = -1;           ///< -1 without a selection
+    int mes = 0;         ///< 0 without a selection
+    int secuencia = -1;  ///< -1 without a selection
     QString observaciones;
 };
 

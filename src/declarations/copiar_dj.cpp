@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "declarations/copiar_dj.h"
 
 #include "core/modGlobales.h"
@@ -32,7 +34,8 @@ QString todo(const char* tabla, const QString& nro)
 }
 
 template <class T, class Alta>
-bool copiar_tabla(const char* tabla, std::span<const Columna<T>> columnas, const QString& de, const QString& a, Alta alta)
+bool copiar_tabla(const char* tabla, std::span<const Columna<T>> columnas, const QString& de, const QString& a,
+                  Alta alta)
 {
     Recordset rs(cnRtn, todo(tabla, de));
     if (rs.eof())
@@ -59,11 +62,18 @@ QString copiar_dj(const QString& nro, Dialogo& dialogo)
 
     const Tanda tanda;
     const bool bien = alta_cabecera_dj(*cabecera, dialogo)
-        && copiar_tabla<Escritura>("SEL_TB_RTN_DETDJ", columnas_escritura(), nro, nuevo, [&](auto& f) { return alta_detalle_dj(f, false, dialogo); })
-        && copiar_tabla<Inmueble>("SEL_TB_RTN_INS_INMUEBLES", columnas_inmueble(), nro, nuevo, [&](auto& f) { return alta_inmueble(f, false, dialogo); })
-        && copiar_tabla<Parte>("SEL_TB_RTN_INS_PARTES", columnas_parte(), nro, nuevo, [&](auto& f) { return alta_parte(f, false, dialogo); })
-        && copiar_tabla<Operacion>("SEL_TB_RTN_INS_OPERACIONES", columnas_operacion(), nro, nuevo, [&](auto& f) { return alta_operacion(f, false, dialogo); })
-        && copiar_tabla<ValorContractual>("SEL_TB_RTN_INS_VC", columnas_valor(), nro, nuevo, [&](auto& f) { return alta_valor_contractual(f, false, dialogo); })
-        && copiar_tabla<RolOperacion>("SEL_TB_RTN_INS_ROLES", columnas_rol(), nro, nuevo, [&](auto& f) { return alta_rol(f, dialogo); });
+                      && copiar_tabla<Escritura>("SEL_TB_RTN_DETDJ", columnas_escritura(), nro, nuevo,
+                                                 [&](auto& f) { return alta_detalle_dj(f, false, dialogo); })
+                      && copiar_tabla<Inmueble>("SEL_TB_RTN_INS_INMUEBLES", columnas_inmueble(), nro, nuevo,
+                                                [&](auto& f) { return alta_inmueble(f, false, dialogo); })
+                      && copiar_tabla<Parte>("SEL_TB_RTN_INS_PARTES", columnas_parte(), nro, nuevo,
+                                             [&](auto& f) { return alta_parte(f, false, dialogo); })
+                      && copiar_tabla<Operacion>("SEL_TB_RTN_INS_OPERACIONES", columnas_operacion(), nro, nuevo,
+                                                 [&](auto& f) { return alta_operacion(f, false, dialogo); })
+                      && copiar_tabla<ValorContractual>(
+                          "SEL_TB_RTN_INS_VC", columnas_valor(), nro, nuevo,
+                          [&](auto& f) { return alta_valor_contractual(f, false, dialogo); })
+                      && copiar_tabla<RolOperacion>("SEL_TB_RTN_INS_ROLES", columnas_rol(), nro, nuevo,
+                                                    [&](auto& f) { return alta_rol(f, dialogo); });
     return bien ? nuevo : QString();
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A rectificativa: a whole DJ copied under the next sequence.
 #pragma once
 

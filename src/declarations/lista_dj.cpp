@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "declarations/lista_dj.h"
 
 #include "core/modGlobales.h"
@@ -11,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 QString consulta_dj(const FiltroDJ& filtro)
 {
-    QString sql = u"select SEDJ_NRO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, " u"SEDJ_OBSERVACIONES  from SEL_TB_RTN_CABDJ as C "_s;
+    QString sql = u"select SEDJ_NRO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, "
+                  u"SEDJ_OBSERVACIONES  from SEL_TB_RTN_CABDJ as C "_s;
     QString nexo = u" where "_s;
     const auto condicion = [&](const char* campo, int valor) {
         if (valor == 0)
@@ -71,15 +74,18 @@ QString dj_a_rectificar(const QString& nro, Dialogo& dialogo)
     const NumeroDJ elegida(nro);
     // A number of another length builds no condition, and the query fails.
     const QString condicion = elegida.largoPrefijo() == 0
-        ? u" where "_s
-        : u" where mid(SEDJ_NRO,1,"_s + QString::number(elegida.largoPrefijo()) + u")='"_s + elegida.prefijo()
-            + u"'"_s;
+                                  ? u" where "_s
+                                  : u" where mid(SEDJ_NRO,1,"_s + QString::number(elegida.largoPrefijo()) + u")='"_s
+                                        + elegida.prefijo() + u"'"_s;
     const Recordset rs(cnRtn, u" select max(SEDJ_NRO) as MAX_SEDJ_NRO  from SEL_TB_RTN_CABDJ "_s + condicion);
     const QString maximo = rs.texto(0);
     if (maximo <= nro)
         return maximo;
     const QString pregunta = u"La DJ "_s
-        + (elegida.secuencia().toInt() == 0 ? u" Original"_s : u" Rectificativa "_s + elegida.secuencia())
-        + u" para la posicion "_s + elegida.mes() + u'/' + elegida.anio() + u" ya fue rectificada\nDesea emitir una nueva rectificativa de la DJ Rectificativa "_s + NumeroDJ(maximo).secuencia() + u" ?"_s;
+                             + (elegida.secuencia().toInt() == 0 ? u" Original"_s
+                                                                 : u" Rectificativa "_s + elegida.secuencia())
+                             + u" para la posicion "_s + elegida.mes() + u'/' + elegida.anio()
+                             + u" ya fue rectificada\nDesea emitir una nueva rectificativa de la DJ Rectificativa "_s
+                             + NumeroDJ(maximo).secuencia() + u" ?"_s;
     return dialogo.preguntar({pregunta, u"Nueva DJ"_s, Icono::informacion}) ? maximo : QString();
 }

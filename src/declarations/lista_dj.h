@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of DJs: its query, deletion, and the start of a rectificativa.
 #pragma once
 
@@ -5,7 +6,6 @@
 #include "core/filas.h"
 
 #include <QString>
-
 
 struct FiltroDJ
 {

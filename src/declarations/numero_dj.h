@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The number of a DJ: digits without separators, of 17 characters or, from an earlier scheme, 13.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "declarations/renglones.h"
 
 #include "core/modGlobales.h"
@@ -29,7 +31,14 @@ std::string_view texto_operacion(const Recordset& rs, bool& incompleto)
 
 QString consulta_renglones(const QString& nro)
 {
-    return u" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, " u" D.SSUB_DESCRIPCION, D.SEDD_OBSERVACIONES, D.SEDD_TOTAL_IMPUESTO, " u" D.SEDD_ESTADO, D.SEDD_ALCANZADO, D.SEDD_FNAME_TESTIMONIO, D.REQUIERE_TESTIMONIO " u" from SEL_VW_DJ_DETALLE D left join          (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO " u"          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O " u"          on S.SSUB_ID=O.SSUB_ID) as A  on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID " u" where D.SEDJ_NRO='"_s + nro + u"' order by D.SEDD_ESCRITURA_NRO"_s;
+    return u" select D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA, "
+           u" D.SSUB_DESCRIPCION, D.SEDD_OBSERVACIONES, D.SEDD_TOTAL_IMPUESTO, "
+           u" D.SEDD_ESTADO, D.SEDD_ALCANZADO, D.SEDD_FNAME_TESTIMONIO, D.REQUIERE_TESTIMONIO "
+           u" from SEL_VW_DJ_DETALLE D left join          (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO "
+           u"          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O "
+           u"          on S.SSUB_ID=O.SSUB_ID) as A  on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID "
+           u" where D.SEDJ_NRO='"_s
+           + nro + u"' order by D.SEDD_ESCRITURA_NRO"_s;
 }
 
 void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila)
@@ -38,7 +47,13 @@ void leer_renglones(const QString& nro, const std::function<void(const FilaRengl
         FilaRenglon f;
         const std::string_view operacion = texto_operacion(rs, f.incompleto);
         const QByteArray impuesto = rs.utf8(7) == "P" ? importe_llano(rs.real(6)).toUtf8() : QByteArrayLiteral("0.00");
-        f.celdas = {rs.utf8(0), rs.utf8(1), rs.utf8(2), rs.utf8(3), operacion, rs.utf8(5), {impuesto.constData(), size_t(impuesto.size())}};
+        f.celdas = {rs.utf8(0),
+                    rs.utf8(1),
+                    rs.utf8(2),
+                    rs.utf8(3),
+                    operacion,
+                    rs.utf8(5),
+                    {impuesto.constData(), size_t(impuesto.size())}};
         fila(f);
     }
 }
@@ -50,7 +65,8 @@ bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
         Transaccion t(cnRtn);
         cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES"_s + donde);
         cnRtn.ejecutar(u"delete from SEL_TB_RTN_DETDJ"_s + donde);
-        Comando resta(cnRtn, u"update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-? where SEDJ_NRO=?"_s);
+        Comando resta(cnRtn,
+                      u"update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-? where SEDJ_NRO=?"_s);
         resta.parametro("p_monto", monto);
         resta.parametro("p_dj_nro", nro, 17);
         resta.ejecutar();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The list of the deeds of a DJ, and the deletion of one.
 #pragma once
 

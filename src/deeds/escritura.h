@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One deed of a DJ: its checks, among them against the other deeds, and its row.
 #pragma once
 
@@ -20,24 +21,24 @@ struct DatosDJ
     QString nro;
     QString anio;
     int mes = 0;
-    QString agente;               ///< name of the withholding agent
+    QString agente;  ///< name of the withholding agent
 };
 
 /// The deed as the screen holds it.
 struct ControlesEscritura
 {
     Modo operacion = Modo::nuevo;
-    QString titulo;               ///< caption of the form
+    QString titulo;  ///< caption of the form
     QString dj;
-    QString renglon;              ///< empty while the row does not exist
-    int anio = 0;                 ///< of the DJ
+    QString renglon;  ///< empty while the row does not exist
+    int anio = 0;     ///< of the DJ
     int mes = 0;
     QString nro;
     QString folio;
     Numero dia;
-    int estado = 0;               ///< index of its list, -1 without a selection
-    int alcanzado = 0;            ///< index: 0 reached, 1 not
-    int motivo = 0;               ///< item data, 0 without a selection
+    int estado = 0;     ///< index of its list, -1 without a selection
+    int alcanzado = 0;  ///< index: 0 reached, 1 not
+    int motivo = 0;     ///< item data, 0 without a selection
     QString motivoTexto;
     QString motivoOtro;
     bool motivoOtroActivo = false;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What hangs from a deed: the rows of its three lists, their deletion, and the totals that
 // deletion lowers.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "deeds/inmueble.h"
 
 #include "core/modGlobales.h"
@@ -40,8 +42,8 @@ void modificar_inmueble(const Inmueble& i, const QString& valFiscalSQL)
 
 std::optional<Inmueble> cargar_inmueble(const QString& dj, const QString& renglon, int id)
 {
-    return leer_fila<Inmueble>(cnRtn, u"select * from SEL_TB_RTN_INS_INMUEBLES where SEDJ_NRO="_s
-                                          + entre_comillas(dj) + u" and SEDD_ID="_s + renglon + u" and SEII_ID="_s
-                                          + QString::number(id),
+    return leer_fila<Inmueble>(cnRtn,
+                               u"select * from SEL_TB_RTN_INS_INMUEBLES where SEDJ_NRO="_s + entre_comillas(dj)
+                                   + u" and SEDD_ID="_s + renglon + u" and SEII_ID="_s + QString::number(id),
                                columnas_inmueble());
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The checks that stand before a deed is stored, in their order.
 
 #include "core/modGlobales.h"
@@ -27,7 +28,11 @@ std::optional<Solape> buscar_solape(const ControlesEscritura& c, Vecina& v)
     const auto F = qint64(numero_inicial(c.folio));
     const auto D = int(c.dia.Value());
     try {
-        for (Recordset rs(cnRtn, u" select SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO,  SEDD_DIA, SEDD_ESTADO, SEDD_ALCANZADO " u" from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s + c.dj + u"' and SEDD_ESTADO<>'E' order by SEDD_ESCRITURA_NRO "_s);
+        for (Recordset rs(
+                 cnRtn,
+                 u" select SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO,  SEDD_DIA, SEDD_ESTADO, SEDD_ALCANZADO "
+                 u" from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s
+                     + c.dj + u"' and SEDD_ESTADO<>'E' order by SEDD_ESCRITURA_NRO "_s);
              !rs.eof(); rs.siguiente()) {
             if (c.operacion == Modo::modificar && rs.texto("SEDD_ID") == c.renglon)
                 continue;
@@ -65,12 +70,11 @@ bool verificar_solapamiento(ControlesEscritura& c, Dialogo& dialogo, QString& fo
         return false;
     }
     const bool mismo = *solape == Solape::numero;
-    const bool errose = dialogo.preguntar(
-        {u"Atención: Se solapa el Nº "_s + (mismo ? u"Escritura"_s : u"Folio"_s)
-             + u"\nExiste una escritura Nº "_s + nro + u" con folio "_s + folio + u" del dia "_s + dia
-             + u"\n\nDesea cargar un ERROSE para "_s
-             + (mismo ? u"la escritura "_s + nro : u"el folio "_s + folio) + u'?',
-         u"Duplicación de números"_s, Icono::pregunta});
+    const bool errose = dialogo.preguntar({u"Atención: Se solapa el Nº "_s + (mismo ? u"Escritura"_s : u"Folio"_s)
+                                               + u"\nExiste una escritura Nº "_s + nro + u" con folio "_s + folio
+                                               + u" del dia "_s + dia + u"\n\nDesea cargar un ERROSE para "_s
+                                               + (mismo ? u"la escritura "_s + nro : u"el folio "_s + folio) + u'?',
+                                           u"Duplicación de números"_s, Icono::pregunta});
     if (!errose)
         return false;
     c.estado = int(EstadoEscritura::errose);
@@ -82,9 +86,10 @@ bool verificar_solapamiento(ControlesEscritura& c, Dialogo& dialogo, QString& fo
 bool verificar_testimonio_unico(const ControlesEscritura& c, Dialogo& dialogo)
 {
     try {
-        const Recordset rs(cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_DIA  from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s + c.dj + u"' and SEDD_FNAME_TESTIMONIO='"_s
-                                      + toSQL(c.testimonio) + u"'"_s
-                                      + (c.operacion == Modo::modificar ? u" and SEDD_ID<>"_s + c.renglon : QString()));
+        const Recordset rs(cnRtn,
+                           u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_DIA  from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s
+                               + c.dj + u"' and SEDD_FNAME_TESTIMONIO='"_s + toSQL(c.testimonio) + u"'"_s
+                               + (c.operacion == Modo::modificar ? u" and SEDD_ID<>"_s + c.renglon : QString()));
         if (rs.eof())
             return true;
         dialogo.avisar({u"Atención: El archivo ya fue asociado a la escritura Nº "_s + rs.texto("SEDD_ESCRITURA_NRO")
@@ -118,9 +123,10 @@ std::optional<Falla> falta_motivo(const ControlesEscritura& c)
 {
     const bool otro = c.motivoTexto.toUpper() == u"OTRO";
     return primera_falla({
-        {c.noAlcanzado() && c.motivo == 0, "Seleccione la descripcion de la operación No Alcanzada", "cboDesc_NoAlcanzado"},
-        {c.noAlcanzado() && otro && c.motivoOtro.isEmpty() && c.motivoOtroActivo, "Ingrese la descripcion de la operación No Alcanzada",
-         "txtNoAlcanzado_Otro"},
+        {c.noAlcanzado() && c.motivo == 0, "Seleccione la descripcion de la operación No Alcanzada",
+         "cboDesc_NoAlcanzado"},
+        {c.noAlcanzado() && otro && c.motivoOtro.isEmpty() && c.motivoOtroActivo,
+         "Ingrese la descripcion de la operación No Alcanzada", "txtNoAlcanzado_Otro"},
     });
 }
 
@@ -149,11 +155,13 @@ ResultadoEscritura validar_escritura(ControlesEscritura& c, Dialogo& dialogo)
     const QString campo = u"txtTestimonio"_s;
     if (c.testimonio.isEmpty()) {
         if (!requiere_testimonio(c)
-            || dialogo.preguntar({u"Falta el archivo del testimonio. ¿Desea ingresarlo mas tarde?"_s, c.titulo, Icono::pregunta}))
+            || dialogo.preguntar(
+                {u"Falta el archivo del testimonio. ¿Desea ingresarlo mas tarde?"_s, c.titulo, Icono::pregunta}))
             return {true, foco};
         return {false, campo};
     }
     if (!QFileInfo(c.testimonio).isFile())
-        return tropiezo({u"El archivo del testimonio no existe. \nVerifique que el nombre de archivo sea correcto."_s, campo, {}});
+        return tropiezo(
+            {u"El archivo del testimonio no existe. \nVerifique que el nombre de archivo sea correcto."_s, campo, {}});
     return verificar_testimonio_unico(c, dialogo) ? ResultadoEscritura{true, foco} : ResultadoEscritura{false, campo};
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The return file of a DJ and its integrity code.
 #pragma once
 

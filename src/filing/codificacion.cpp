@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/codificacion.h"
 
 #include <iconv.h>
@@ -24,7 +26,8 @@ struct Pagina
             size_t lugar = sizeof salida;
             aUnicode[size_t(i)] = u'?';
             if (cd != iconv_t(-1) && iconv(cd, &de, &quedan, &a, &lugar) != size_t(-1) && lugar == 2) {
-                aUnicode[size_t(i)] = char16_t(static_cast<unsigned char>(salida[0]) | static_cast<unsigned char>(salida[1]) << 8);
+                aUnicode[size_t(i)] = char16_t(static_cast<unsigned char>(salida[0])
+                                               | static_cast<unsigned char>(salida[1]) << 8);
                 aByte.emplace(aUnicode[size_t(i)], char(i));
             }
         }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Texts of the return file: one byte a character in Windows-1252.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/empaquetado.h"
 
 #include "core/modGlobales.h"
@@ -50,7 +52,8 @@ class Empaquetado
 {
 public:
     Empaquetado(const QString& nro, Dialogo& dialogo)
-        : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)), testimonios_(carpeta_ + u"/testimonios"_s)
+        : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)),
+          testimonios_(carpeta_ + u"/testimonios"_s)
     {
     }
 
@@ -87,24 +90,29 @@ private:
     void empaquetar(const QString& fichero)
     {
         ficheros_ << QFileInfo(fichero).fileName();
-        texto_ += palabra_shell(base_ + u"/rar"_s) + u" a -y "_s + palabra_shell(archivo()) + u' ' + palabra_shell(fichero) + u'\n';
+        texto_ += palabra_shell(base_ + u"/rar"_s) + u" a -y "_s + palabra_shell(archivo()) + u' '
+                  + palabra_shell(fichero) + u'\n';
     }
 
     bool copiarTestimonios()
     {
-        for (Recordset rs(cnRtn, u"select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro_
-                                     + u"'"_s);
+        for (Recordset rs(
+                 cnRtn,
+                 u"select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s
+                     + nro_ + u"'"_s);
              !rs.eof(); rs.siguiente()) {
             const QString origen = fromSQL(rs.texto(2));
             if (origen.isEmpty())
                 continue;
             if (!QFileInfo(origen).isFile()) {
-                dialogo_.avisar({u"Error en la escritura Nº "_s + rs.texto(1) + u",  no existe el archivo del testimonio \n"_s + origen
+                dialogo_.avisar({u"Error en la escritura Nº "_s + rs.texto(1)
+                                     + u",  no existe el archivo del testimonio \n"_s + origen
                                      + u"\n\nComplete la declaracion jurada e intente mas tarde."_s,
                                  titulo(), Icono::informacion});
                 return false;
             }
-            const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.' + QFileInfo(origen).suffix().toLower();
+            const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.'
+                                  + QFileInfo(origen).suffix().toLower();
             if (!copiar(origen, copia))
                 fallar(u"No se pudo copiar "_s, origen);
             empaquetar(copia);
@@ -141,7 +149,8 @@ private:
             QStringList nombres;
             for (const EntradaRar& e : listar_rar(QFile::encodeName(archivo()).toStdString()))
                 nombres << QFileInfo(QString::fromStdString(e.nombre)).fileName();
-            return std::all_of(ficheros_.begin(), ficheros_.end(), [&](const QString& f) { return nombres.contains(f); });
+            return std::all_of(ficheros_.begin(), ficheros_.end(),
+                               [&](const QString& f) { return nombres.contains(f); });
         } catch (const std::exception&) {
             // Another packer's archive may be one that is not read here.
             return QFileInfo(archivo()).size() > 0;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The return and its testimonios in one archive, by the packer beside the program.
 #pragma once
 

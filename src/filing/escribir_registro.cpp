@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/escribir_registro.h"
 
 #include "core/redondeo.h"
@@ -60,7 +62,8 @@ ErrorRegistro::ErrorRegistro(const QString& registro_, int renglon_, const QStri
 
 EscritorRegistro::EscritorRegistro(const Registro& registro, sqlite3_stmt* sentencia)
     : registro_(registro), sentencia_(sentencia), columnaRenglon_(buscar_columna(sentencia, "SEDD_ID")),
-      columnaAlcanzado_(buscar_columna(sentencia, "SEDD_ALCANZADO")), columnaMotivo_(buscar_columna(sentencia, "SNAD_ID"))
+      columnaAlcanzado_(buscar_columna(sentencia, "SEDD_ALCANZADO")),
+      columnaMotivo_(buscar_columna(sentencia, "SNAD_ID"))
 {
     for (const CampoRegistro& c : registro.campos)
         columnas_.push_back(buscar_columna(sentencia, c.nombre));
@@ -89,7 +92,8 @@ bool EscritorRegistro::vale(const CampoRegistro& c, int columna) const
     if (sqlite3_column_type(sentencia_, columna) == SQLITE_NULL)
         return false;
     return !c.forma.soloNoAlcanzada
-        || (sqlite3_column_type(sentencia_, columnaMotivo_) != SQLITE_NULL && texto_de(sentencia_, columnaAlcanzado_) != "S");
+           || (sqlite3_column_type(sentencia_, columnaMotivo_) != SQLITE_NULL
+               && texto_de(sentencia_, columnaAlcanzado_) != "S");
 }
 
 void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida) const
@@ -105,7 +109,8 @@ void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida
         salida.ascii(c.forma.nulo);
         return;
     }
-    const std::string_view t = nulo || c.forma.clase == Clase::cifras ? std::string_view() : texto_de(sentencia_, columna);
+    const std::string_view t = nulo || c.forma.clase == Clase::cifras ? std::string_view()
+                                                                      : texto_de(sentencia_, columna);
     switch (c.forma.clase) {
     case Clase::cifras:
         if (!nulo)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One row of the store as one record of the return file.
 #pragma once
 
@@ -15,7 +16,7 @@ class ErrorRegistro : public std::runtime_error
 public:
     ErrorRegistro(const QString& registro_, int renglon_, const QString& detalle_);
     QString registro;
-    int renglon;        ///< SEDD_ID of the row, 0 for the header
+    int renglon;  ///< SEDD_ID of the row, 0 for the header
     QString detalle;
 };
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/lector_dj.h"
 
 #include "core/numero.h"
@@ -51,8 +53,10 @@ struct Dominio
     const char* letras;
 };
 // What a field of one letter may hold.
-constexpr Dominio DOMINIOS[] = {
-    {'1', "SEDJ_ESTADO", "01"}, {'2', "SEDD_ESTADO", "PNE"}, {'2', "SEDD_ALCANZADO", "SN"}, {'3', "SPIN_NACIONALIDAD", "AE"}};
+constexpr Dominio DOMINIOS[] = {{'1', "SEDJ_ESTADO", "01"},
+                                {'2', "SEDD_ESTADO", "PNE"},
+                                {'2', "SEDD_ALCANZADO", "SN"},
+                                {'3', "SPIN_NACIONALIDAD", "AE"}};
 
 class Lector
 {
@@ -106,7 +110,8 @@ private:
             return;
         }
         ++l_.registros[tipo];
-        if (tipo < anterior_ || (tipo == '1' && l_.registros['1'] > 1) || (tipo != '1' && l_.registros.find('1') == l_.registros.end()))
+        if (tipo < anterior_ || (tipo == '1' && l_.registros['1'] > 1)
+            || (tipo != '1' && l_.registros.find('1') == l_.registros.end()))
             falla({linea_, 1, {}, QString(QLatin1Char(tipo)), u"el registro está fuera de su orden"_s});
         anterior_ = std::max(anterior_, tipo);
         if (const int i = partidor_.partir(r_); i >= 0)
@@ -157,8 +162,10 @@ private:
         const CampoRegistro& c = r_.registro->campos[i];
         const int col = columna(i);
         const auto desde = std::min(size_t(col) - 1, r_.bytes.size());
-        falla({linea_, col, QString::fromLatin1(c.nombre), texto_ansi(r_.bytes.substr(desde, size_t(std::max(c.ancho, 1)))),
-               u"el campo no cabe en el registro (largo %1, previsto %2)"_s.arg(r_.bytes.size()).arg(r_.registro->ancho() + 1)});
+        falla({linea_, col, QString::fromLatin1(c.nombre),
+               texto_ansi(r_.bytes.substr(desde, size_t(std::max(c.ancho, 1)))),
+               u"el campo no cabe en el registro (largo %1, previsto %2)"_s.arg(r_.bytes.size())
+                   .arg(r_.registro->ancho() + 1)});
     }
 
     void fallaDeValor(const char* campo, const QString& mensaje)
@@ -174,10 +181,16 @@ private:
     void revisar()
     {
         const auto previsto = r_.registro->ancho() + 1;
-        if (r_.registro->tipo != '8' && (r_.dudoso || int(r_.bytes.size()) != previsto) && l_.avisos.size() < FALLAS_MAXIMAS)
-            l_.avisos.push_back({linea_, 1, {}, {},
-                                 r_.dudoso ? u"no se puede saber qué campo falta o sobra (largo %1, previsto %2)"_s.arg(r_.bytes.size()).arg(previsto)
-                                           : u"el registro tiene otro largo (%1, previsto %2)"_s.arg(r_.bytes.size()).arg(previsto)});
+        if (r_.registro->tipo != '8' && (r_.dudoso || int(r_.bytes.size()) != previsto)
+            && l_.avisos.size() < FALLAS_MAXIMAS)
+            l_.avisos.push_back(
+                {linea_,
+                 1,
+                 {},
+                 {},
+                 r_.dudoso ? u"no se puede saber qué campo falta o sobra (largo %1, previsto %2)"_s.arg(r_.bytes.size())
+                                 .arg(previsto)
+                           : u"el registro tiene otro largo (%1, previsto %2)"_s.arg(r_.bytes.size()).arg(previsto)});
         if (r_.registro->tipo != '8')
             for (const unsigned char c : r_.bytes)
                 if (c < 0x20) {
@@ -185,7 +198,8 @@ private:
                     break;
                 }
         for (const Dominio& d : DOMINIOS)
-            if (const std::string_view v = d.tipo == r_.registro->tipo ? r_.campo(d.campo) : std::string_view(); v.size() == 1 && !std::strchr(d.letras, v.front()))
+            if (const std::string_view v = d.tipo == r_.registro->tipo ? r_.campo(d.campo) : std::string_view();
+                v.size() == 1 && !std::strchr(d.letras, v.front()))
                 fallaDeValor(d.campo, u"el valor no es de los que admite el campo"_s);
         switch (r_.registro->tipo) {
         case '1': cabecera(); break;
@@ -212,7 +226,8 @@ private:
     void escritura()
     {
         const qint64 id = numero(r_.campo("SEDD_ID"));
-        if (!escrituras_.emplace(id, Escritura_{numero(r_.campo("SEDD_TOTAL_IMPUESTO")), 0, false, false, linea_}).second)
+        if (!escrituras_.emplace(id, Escritura_{numero(r_.campo("SEDD_TOTAL_IMPUESTO")), 0, false, false, linea_})
+                 .second)
             fallaDeValor("SEDD_ID", u"el renglón está repetido"_s);
         sumar(suma_, numero(r_.campo("SEDD_TOTAL_IMPUESTO")));
         dudosas_ = dudosas_ || r_.dudoso;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/partir_registro.h"
 
 #include <algorithm>
@@ -6,7 +8,7 @@
 namespace {
 
 constexpr int IMPOSIBLE = 1 << 20;
-constexpr size_t LARGO_DE_MAS = 400;   // longer than any quirk makes a record
+constexpr size_t LARGO_DE_MAS = 400;  // longer than any quirk makes a record
 constexpr size_t CIFRAS_DE_MAS = 6;
 constexpr size_t BLANCOS_DE_MAS = 60;
 
@@ -69,11 +71,12 @@ int costo(const CampoRegistro& c, std::string_view t)
         if (t.front() == '-')
             return t.size() > ancho && son_cifras(t.substr(1)) ? 1 + int(t.size() - ancho - 1) : IMPOSIBLE;
         return t.size() > ancho && t.front() != '0' && son_cifras(t) ? 2 + int(t.size() - ancho) : IMPOSIBLE;
-    case Clase::talCual:
-        return t.empty() ? 2 : t.size() > ancho && t.size() <= ancho + 2 ? 3 : IMPOSIBLE;
+    case Clase::talCual: return t.empty() ? 2 : t.size() > ancho && t.size() <= ancho + 2 ? 3 : IMPOSIBLE;
     case Clase::recortado:
         // The blanks of the stored text make the field longer by as many.
-        return t.size() > ancho && recortar(t).size() <= ancho && (t.front() == ' ' || t.back() == ' ') ? 4 + int(t.size() - ancho) : IMPOSIBLE;
+        return t.size() > ancho && recortar(t).size() <= ancho && (t.front() == ' ' || t.back() == ' ')
+                   ? 4 + int(t.size() - ancho)
+                   : IMPOSIBLE;
     case Clase::hastaElAncho: return t.size() > ancho ? 1 : IMPOSIBLE;
     default: return IMPOSIBLE;
     }
@@ -122,7 +125,8 @@ bool partir_con_una(RegistroLeido& r)
     const auto llano = [&](int i, std::ptrdiff_t corrido) {
         const auto desde = std::ptrdiff_t(lugares[size_t(i)]) + corrido;
         const auto ancho = size_t(campos[size_t(i)].ancho);
-        return desde >= 1 && size_t(desde) + ancho <= r.bytes.size() && cabe(campos[size_t(i)], r.bytes.substr(size_t(desde), ancho));
+        return desde >= 1 && size_t(desde) + ancho <= r.bytes.size()
+               && cabe(campos[size_t(i)], r.bytes.substr(size_t(desde), ancho));
     };
     int antes = 0;  // fields from the start that stand at their places
     while (antes < n && llano(antes, 0))
@@ -254,7 +258,8 @@ public:
             tomados_[i] = r.campos[i].size();
             costo_ += costo(r.registro->campos[i], r.campos[i]);
             // A text with blanks at its ends is that record's own.
-            if (tomados_[i] != size_t(r.registro->campos[i].ancho) && r.registro->campos[i].forma.clase != Clase::cifras)
+            if (tomados_[i] != size_t(r.registro->campos[i].ancho)
+                && r.registro->campos[i].forma.clase != Clase::cifras)
                 return;
         }
         registro_ = r.registro;
@@ -296,9 +301,7 @@ struct PartidorRegistros::Estado
     UltimaRareza ultima;
 };
 
-PartidorRegistros::PartidorRegistros() : estado_(std::make_unique<Estado>())
-{
-}
+PartidorRegistros::PartidorRegistros() : estado_(std::make_unique<Estado>()) {}
 
 PartidorRegistros::~PartidorRegistros() = default;
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/registros.h"
 
 namespace {
@@ -109,11 +111,8 @@ const CampoRegistro OPERACION[] = {
 };
 
 const CampoRegistro ROL[] = {
-    {"SEDD_ID", 3, cifras()},
-    {"SEDO_ID", 3, cifras()},
-    {"SPIN_ID", 3, cifras()},
-    {"SROL_ID", 7, cifras()},
-    {"SEDR_OBS", 30, textoRecortado()},
+    {"SEDD_ID", 3, cifras()}, {"SEDO_ID", 3, cifras()},           {"SPIN_ID", 3, cifras()},
+    {"SROL_ID", 7, cifras()}, {"SEDR_OBS", 30, textoRecortado()},
 };
 
 const CampoRegistro VALOR[] = {
@@ -140,13 +139,16 @@ const Registro REGISTROS[] = {
      "select D1.*, IIF(SNAD_DESCRIPCION='Otro', SNAD_DESC_OTRO, SNAD_DESCRIPCION) as NOA_DESC "
      " from (select D.*, m.MAX_SCRT_NRO from SEL_TB_RTN_DETDJ d left join SEL_VW_MAX_COMPROB m"
      " on d.SEDJ_NRO=m.SEDJ_NRO AND d.SEDD_ID=m.SEDD_ID where d.SEDJ_NRO='",
-     "' order by d.SEDD_ID) as D1 left join SEL_TB_NO_ALCANZADOS_DESC as NOA on D1.SNAD_ID=NOA.SNAD_ID order by D1.SEDD_ID", ESCRITURA},
+     "' order by d.SEDD_ID) as D1 left join SEL_TB_NO_ALCANZADOS_DESC as NOA on D1.SNAD_ID=NOA.SNAD_ID order by D1.SEDD_ID",
+     ESCRITURA},
     {'3', "parte", "select * from SEL_TB_RTN_INS_PARTES where SEDJ_NRO='", "' order by SEDD_ID", PARTE},
     // The code takes a line end behind this record and behind no other; the format asks for it.
     {'4', "inmueble", "select * from SEL_TB_RTN_INS_INMUEBLES where SEDJ_NRO='", "' order by SEDD_ID", INMUEBLE, true},
     {'5', "operación", "select * from SEL_TB_RTN_INS_OPERACIONES where SEDJ_NRO='", "' order by SEDD_ID", OPERACION},
-    {'6', "rol de una parte", "select * from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='", "' order by SEDD_ID, SEDO_ID", ROL},
-    {'7', "valor contractual", "select * from SEL_TB_RTN_INS_VC where SEDJ_NRO='", "' order by SEDD_ID, SEDO_ID", VALOR},
+    {'6', "rol de una parte", "select * from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='", "' order by SEDD_ID, SEDO_ID",
+     ROL},
+    {'7', "valor contractual", "select * from SEL_TB_RTN_INS_VC where SEDJ_NRO='", "' order by SEDD_ID, SEDO_ID",
+     VALOR},
     {'8', "testimonio", "select * from SEL_TB_RTN_DJ_TESTIMONIOS where SEDJ_NRO='", "'", TESTIMONIO},
 };
 

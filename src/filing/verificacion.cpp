@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "filing/verificacion.h"
 
 #include "core/modGlobales.h"
@@ -31,21 +33,26 @@ QString huecos(const QString& nro)
     }
     if (faltan.size() == MAXIMO_LISTADO)
         faltan << u"..."_s;
-    return faltan.isEmpty() ? QString() : INCOMPLETA + u"\nFaltan declarar las escrituras Nº: "_s + faltan.join(u", "_s);
+    return faltan.isEmpty() ? QString()
+                            : INCOMPLETA + u"\nFaltan declarar las escrituras Nº: "_s + faltan.join(u", "_s);
 }
 
 QString sin_operacion(const QString& nro)
 {
     const Recordset rs(cnRtn, u" select * from SEL_TB_RTN_DETDJ as D  where  SEDJ_NRO='"_s + nro
-                                  + u"'  and SEDD_ALCANZADO='S' and SEDD_ESTADO='P' " u" and not exists ( select * from SEL_TB_RTN_INS_OPERACIONES as O " u" where D.SEDJ_NRO=O.SEDJ_NRO and D.SEDD_ID=O.SEDD_ID) "_s);
-    return rs.eof() ? QString()
-                    : INCOMPLETA + u"\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación."_s;
+                                  + u"'  and SEDD_ALCANZADO='S' and SEDD_ESTADO='P' "
+                                    u" and not exists ( select * from SEL_TB_RTN_INS_OPERACIONES as O "
+                                    u" where D.SEDJ_NRO=O.SEDJ_NRO and D.SEDD_ID=O.SEDD_ID) "_s);
+    return rs.eof()
+               ? QString()
+               : INCOMPLETA + u"\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación."_s;
 }
 
 QString sin_testimonio(const QString& nro)
 {
-    Recordset rs(cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO, REQUIERE_TESTIMONIO" u" from SEL_VW_DJ_DETALLE   where SEDJ_NRO='"_s + nro
-                            + u"'  and  SEDD_ESTADO='P'   order by SEDD_ESCRITURA_NRO "_s);
+    Recordset rs(cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO, REQUIERE_TESTIMONIO"
+                        u" from SEL_VW_DJ_DETALLE   where SEDJ_NRO='"_s
+                            + nro + u"'  and  SEDD_ESTADO='P'   order by SEDD_ESCRITURA_NRO "_s);
     QStringList sin_archivo;
     QStringList no_existe;
     // The deed with the lowest number is never looked at; the skip is deliberate.
@@ -64,8 +71,9 @@ QString sin_testimonio(const QString& nro)
         return {};
     const QString coma = u", "_s;
     return INCOMPLETA + u" Faltan testimonios\n\n"_s
-        + (sin_archivo.isEmpty() ? QString() : u"Escrituras que no tienen archivo: "_s + sin_archivo.join(coma) + u"\n\n"_s)
-        + (no_existe.isEmpty() ? QString() : u"Escrituras cuyo archivo no existe: "_s + no_existe.join(coma));
+           + (sin_archivo.isEmpty() ? QString()
+                                    : u"Escrituras que no tienen archivo: "_s + sin_archivo.join(coma) + u"\n\n"_s)
+           + (no_existe.isEmpty() ? QString() : u"Escrituras cuyo archivo no existe: "_s + no_existe.join(coma));
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "parties/buscar_parte.h"
 
 #include "core/modGlobales.h"
@@ -38,8 +40,7 @@ QString filtro_nombre(FiltroPartes& f)
 QString filtro_documento(const FiltroPartes& f, const QString& titulo, Dialogo& dialogo)
 {
     if (f.tipoDocTexto != u"CUIT" && f.tipoDocTexto != u"CUIL")
-        return u" P.GTDC_ID="_s + QString::number(f.tipoDoc) + u" and P.SPIN_NRODOC='"_s + toSQL(f.nroDoc)
-            + u"' "_s;
+        return u" P.GTDC_ID="_s + QString::number(f.tipoDoc) + u" and P.SPIN_NRODOC='"_s + toSQL(f.nroDoc) + u"' "_s;
     bool es_numero = false;
     const QString cuit = f.nroDoc.trimmed();
     (void)cuit.toLongLong(&es_numero);
@@ -60,7 +61,10 @@ QString limpiar_nombre(QString nombre)
 
 QString consulta_busqueda_partes(FiltroPartes& f, const QString& titulo, Dialogo& dialogo)
 {
-    QString sql = u" select distinct SPIN_NRODOC, P.GTDC_ID, TC.GTDC_DESCRIPCION, SPIN_RSOCIAL" u" from SEL_TB_RTN_INS_PARTES as P inner join GLB_TB_AFIP_TIPOS_DOC as TC  on P.GTDC_ID=TC.GTDC_ID " u" where (P.SEDJ_NRO<>'"_s + f.dj + u"' and P.SEDD_ID<>"_s + f.renglon + u") "_s;
+    QString sql = u" select distinct SPIN_NRODOC, P.GTDC_ID, TC.GTDC_DESCRIPCION, SPIN_RSOCIAL"
+                  u" from SEL_TB_RTN_INS_PARTES as P inner join GLB_TB_AFIP_TIPOS_DOC as TC  on P.GTDC_ID=TC.GTDC_ID "
+                  u" where (P.SEDJ_NRO<>'"_s
+                  + f.dj + u"' and P.SEDD_ID<>"_s + f.renglon + u") "_s;
     if (f.tipoSociedad != 0)
         sql += u" and  (GTSO_ID="_s + QString::number(f.tipoSociedad) + u")"_s;
     if (f.criterio != Criterio::sin_filtro && !f.razonSocial.isEmpty())
@@ -79,7 +83,7 @@ void leer_partes_halladas(const QString& consulta, const AgregarFilaUtf8& fila)
 std::optional<Parte> parte_con_documento(const QString& tipoDoc, const QString& nroDoc)
 {
     return leer_fila<Parte>(cnRtn,
-                            u"select * from SEL_TB_RTN_INS_PARTES where GTDC_ID='"_s + tipoDoc + u"' and SPIN_NRODOC='"_s
-                                + toSQL(nroDoc) + u"'"_s,
+                            u"select * from SEL_TB_RTN_INS_PARTES where GTDC_ID='"_s + tipoDoc
+                                + u"' and SPIN_NRODOC='"_s + toSQL(nroDoc) + u"'"_s,
                             columnas_parte());
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The search among the parties of earlier deeds: the only directory of persons that there is.
 #pragma once
 
@@ -5,18 +6,17 @@
 #include "core/filas.h"
 #include "tree/arbol_dj.h"
 
-
 /// How a name is compared; the place in the list of criteria.
 enum class Criterio { sin_filtro = 0, exacta = 1, comienza = 2, contiene = 3, termina = 4 };
 
 struct FiltroPartes
 {
-    QString dj = {};             ///< parties of this DJ are left out,
-    QString renglon = {};        ///< and so are those of this deed's number in any DJ
-    int tipoSociedad = 0;   ///< 0 without filter
+    QString dj = {};       ///< parties of this DJ are left out,
+    QString renglon = {};  ///< and so are those of this deed's number in any DJ
+    int tipoSociedad = 0;  ///< 0 without filter
     Criterio criterio = Criterio::sin_filtro;
     QString razonSocial = {};
-    int tipoDoc = 0;        ///< 0 without filter
+    int tipoDoc = 0;  ///< 0 without filter
     QString tipoDocTexto = {};
     QString nroDoc = {};
 };

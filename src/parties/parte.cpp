@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "parties/parte.h"
 
 #include "core/modGlobales.h"
@@ -85,23 +87,26 @@ void modificar_parte(const ControlesParte& c)
         return u", "_s + QLatin1StringView(columna) + u"="_s + texto_o_null(toSQL(valor));
     };
     const QString id = QString::number(c.id);
-    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_PARTES set   SPIN_ID="_s + id + u", SEDJ_NRO='"_s + c.dj
-                   + u"', SEDD_ID="_s + c.renglon
+    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_PARTES set   SPIN_ID="_s + id + u", SEDJ_NRO='"_s + c.dj + u"', SEDD_ID="_s
+                   + c.renglon
                    + (c.tipoDoc ? u", GTDC_ID='"_s + QString::number(*c.tipoDoc) + u"'"_s : u", GTDC_ID=null"_s)
                    + asignar_documento(c) + u", SPIN_CUIT_EN_TRAMITE="_s + logico_sql(c.enTramite)
                    + texto("SPIN_RSOCIAL", c.razonSocial) + u", SPIN_PORCEXENTO="_s
-                   + (c.exento && !c.exencionPorc.vacio() ? c.exencionPorc.toSQL() : c.exento ? u"0"_s : u"null"_s)
+                   + (c.exento && !c.exencionPorc.vacio() ? c.exencionPorc.toSQL()
+                      : c.exento                          ? u"0"_s
+                                                          : u"null"_s)
                    + texto("SPIN_OBS", c.observaciones) + u", GTSO_ID="_s + id_o_null(c.tipoSociedad)
                    + texto("SPIN_DOMICILIO", c.domicilio) + texto("SPIN_CODPOSTAL", c.codPostal) + u", GLOC_ID="_s
                    + id_o_null(c.localidad) + u", GPRO_ID="_s + id_o_null(c.provincia) + u", SPIN_NACIONALIDAD="_s
                    + (c.extranjera ? u"'E'"_s : u"'A'"_s) + u", CPAI_CODIGO="_s
-                   + (c.extranjera ? texto_o_null(codigo_pais(c.codigoPaisTexto)) : u"null"_s) + RenglonDJ{c.dj, c.renglon}.donde()
-                   + u" and SPIN_ID="_s + id);
+                   + (c.extranjera ? texto_o_null(codigo_pais(c.codigoPaisTexto)) : u"null"_s)
+                   + RenglonDJ{c.dj, c.renglon}.donde() + u" and SPIN_ID="_s + id);
 }
 
 std::optional<Parte> cargar_parte(const QString& dj, const QString& renglon, int id)
 {
-    return leer_fila<Parte>(cnRtn, u"select * from SEL_TB_RTN_INS_PARTES "_s + RenglonDJ{dj, renglon}.donde()
-                                       + u" and SPIN_ID="_s + QString::number(id),
+    return leer_fila<Parte>(cnRtn,
+                            u"select * from SEL_TB_RTN_INS_PARTES "_s + RenglonDJ{dj, renglon}.donde()
+                                + u" and SPIN_ID="_s + QString::number(id),
                             columnas_parte());
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A party of a deed: what identifies it, its checks, and whether it stands twice.
 #pragma once
 
@@ -9,22 +10,22 @@
 struct ControlesParte
 {
     Modo operacion = Modo::nuevo;
-    QString titulo;                 ///< caption of the form
+    QString titulo;  ///< caption of the form
     QString dj;
     QString renglon;
     int id = 0;
 
     bool argentina = false;
     bool extranjera = false;
-    int codigoPais = -1;            ///< index, -1 without a selection
-    QString codigoPaisTexto;        ///< "PAÍS - Persona (código)"
-    int tipoSociedad = 0;           ///< item data, 0 without a selection
-    QString tipoSociedadTexto;      ///< the description, and the CUIT digit at position 201
-    std::optional<int> tipoDoc;     ///< item data
+    int codigoPais = -1;         ///< index, -1 without a selection
+    QString codigoPaisTexto;     ///< "PAÍS - Persona (código)"
+    int tipoSociedad = 0;        ///< item data, 0 without a selection
+    QString tipoSociedadTexto;   ///< the description, and the CUIT digit at position 201
+    std::optional<int> tipoDoc;  ///< item data
     QString tipoDocTexto;
     Numero nroDoc;
     QString pasaporte;
-    bool enTramite = false;         ///< active and ticked
+    bool enTramite = false;  ///< active and ticked
     QString razonSocial;
     bool exento = false;
     bool exentoActivo = false;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The checks of a party, in their order, and the search for another party of the deed that
 // stands for the same person.
 
@@ -31,7 +32,8 @@ std::optional<Falla> validar_cuit(const ControlesParte& c)
         return {};
     return Falla{u"El "_s + c.tipoDocTexto + u" comenzado con "_s + texto.left(2)
                      + u" no coincide con el tipo de sociedad seleccionado"_s,
-                 u"nroDoc"_s, {}};
+                 u"nroDoc"_s,
+                 {}};
 }
 
 bool fuera_de_rango(const ControlesParte& c)
@@ -52,7 +54,8 @@ std::optional<Falla> validar_identidad(const ControlesParte& c)
                 {!c.tipoDoc, "Ingrese el tipo de documento del participante", "cboTipoDoc"},
                 {nombre_sociedad(c.tipoSociedadTexto) != u"UNIPERSONAL" && !c.es(u"CUIT"),
                  "El tipo de documento no coincide con el tipo de sociedad seleccionado", "cboTipoDoc"},
-                {!c.enTramite && c.esCuitOCuil() && c.nroDoc.Value() == 0, "Ingrese el CUIT o CUIL del participante", "nroDoc"},
+                {!c.enTramite && c.esCuitOCuil() && c.nroDoc.Value() == 0, "Ingrese el CUIT o CUIL del participante",
+                 "nroDoc"},
             }))
             return f;
         if (!c.enTramite && c.esCuitOCuil())
@@ -87,9 +90,10 @@ std::optional<Falla> validar_parte(ControlesParte& c)
         {!c.localidadTexto.isEmpty() && c.localidad == 0, "El texto ingresado no es una localidad válida", "cboLoc"},
         {c.es(u"CUIT") && c.exento && porcentaje == 0,
          "Ingrese el porcentaje de exención sobre el impuesto de sellos que tiene el participante", "nroExencionPorc"},
-        {(c.exentoActivo && c.exento && porcentaje < 0) || porcentaje > 100, "El porcentaje de exención ingresado no es válido",
-         "nroExencionPorc", Icono::exclamacion},
-        {c.rolActivo && !c.rolElegido, "Seleccione el rol que tiene el participante en el instrumento", "cboRol", Icono::exclamacion},
+        {(c.exentoActivo && c.exento && porcentaje < 0) || porcentaje > 100,
+         "El porcentaje de exención ingresado no es válido", "nroExencionPorc", Icono::exclamacion},
+        {c.rolActivo && !c.rolElegido, "Seleccione el rol que tiene el participante en el instrumento", "cboRol",
+         Icono::exclamacion},
     });
 }
 
@@ -101,10 +105,11 @@ QString condicion_colision(const ControlesParte& c)
     const QString id = c.tipoDoc ? QString::number(*c.tipoDoc) : QString();
     const QString nro = c.numero();
     if (c.esCuitOCuil())
-        return u" and (GTDC_ID='"_s + id + u"'  and (SPIN_CUIT="_s + nro
-            + u" or SPIN_NRODOC='"_s + nro + u"'))  "_s;
+        return u" and (GTDC_ID='"_s + id + u"'  and (SPIN_CUIT="_s + nro + u" or SPIN_NRODOC='"_s + nro + u"'))  "_s;
     if (c.es(u"DNI") || c.es(u"LE") || c.es(u"LC"))
-        return u" and ( (GTDC_ID='"_s + id + u"' and SPIN_NRODOC='"_s + nro + u"')   or  ( mid(trim(str(SPIN_CUIT)),1,1)='2'    and substr(mid(trim(str(SPIN_CUIT)),1,10),-8) = '"_s + nro + u"') )"_s;
+        return u" and ( (GTDC_ID='"_s + id + u"' and SPIN_NRODOC='"_s + nro
+               + u"')   or  ( mid(trim(str(SPIN_CUIT)),1,1)='2'    and substr(mid(trim(str(SPIN_CUIT)),1,10),-8) = '"_s
+               + nro + u"') )"_s;
     return u" and (SPIN_NRODOC='"_s + toSQL(nro) + u"')"_s;
 }
 
@@ -112,8 +117,8 @@ Mensaje pregunta_colision(const ControlesParte& c, const Recordset& rs)
 {
     const QString nro = c.numero();
     const auto igual = [&](const char* que) {
-        return Mensaje{u"En la escritura ya existe otro contribuyente con el "_s + QString::fromUtf8(que) + SEGUIR, c.titulo,
-                       Icono::pregunta};
+        return Mensaje{u"En la escritura ya existe otro contribuyente con el "_s + QString::fromUtf8(que) + SEGUIR,
+                       c.titulo, Icono::pregunta};
     };
     if (c.esCuitOCuil() && !rs.nulo("SPIN_CUIT") && numero_sql(rs.real("SPIN_CUIT")) == nro)
         return igual("mismo número de CUIT/CUIL");
@@ -123,9 +128,9 @@ Mensaje pregunta_colision(const ControlesParte& c, const Recordset& rs)
         return igual("Nº de Documento ingresado");
     return {u"Hay colisión de CUITs/CUILs/NºDocumento entre las partes del instrumento.\n"_s
                 + (c.esCuitOCuil() ? u"Ya existe otro contribuyente con Nºde documento que se corresponde con el "_s
-                           + c.tipoDocTexto + u" ingresado"_s
-                                   : u"Ya existe otro contribuyente cuyo CUIT/CUIL se corresponde con el "_s + c.tipoDocTexto
-                           + u" ingresado"_s)
+                                         + c.tipoDocTexto + u" ingresado"_s
+                                   : u"Ya existe otro contribuyente cuyo CUIT/CUIL se corresponde con el "_s
+                                         + c.tipoDocTexto + u" ingresado"_s)
                 + u"\n\n¿Desea darlo de alta con el mismo número de todas formas?"_s,
             u"Advertencia"_s, Icono::pregunta};
 }
@@ -137,10 +142,12 @@ bool verificar_colision_partes(const ControlesParte& c, Dialogo& dialogo)
     if (c.enTramite)
         return true;
     try {
-        const Recordset rs(cnRtn, u"select *, substr(mid(trim(str(SPIN_CUIT)),1,11),-8) as exp_cuit from SEL_TB_RTN_INS_PARTES " u" where (SEDJ_NRO='"_s + c.dj + u"' and SEDD_ID="_s + c.renglon
-                                      + u") "_s
-                                      + (c.operacion == Modo::modificar ? u" and SPIN_ID<>"_s + QString::number(c.id) : QString())
-                                      + condicion_colision(c));
+        const Recordset rs(
+            cnRtn, u"select *, substr(mid(trim(str(SPIN_CUIT)),1,11),-8) as exp_cuit from SEL_TB_RTN_INS_PARTES "
+                   u" where (SEDJ_NRO='"_s
+                       + c.dj + u"' and SEDD_ID="_s + c.renglon + u") "_s
+                       + (c.operacion == Modo::modificar ? u" and SPIN_ID<>"_s + QString::number(c.id) : QString())
+                       + condicion_colision(c));
         return rs.eof() || dialogo.preguntar(pregunta_colision(c, rs));
     } catch (const ErrorAlmacen& e) {
         dialogo.avisar({e.descripcion, c.titulo, Icono::informacion});

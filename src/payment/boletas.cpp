@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "payment/boletas.h"
 
 #include "core/modComunes.h"
@@ -30,7 +32,8 @@ std::optional<Falla> validar_boleta(ControlesBoleta& c)
     const double m1 = uno.monto.Value();
     const double m2 = dos.monto.Value();
     auto falla = primera_falla({
-        {c.efectivo.Value() == 0 && m1 == 0 && m2 == 0, "Ingrese la forma de pago en la boleta de depósito.", "nroEfectivo"},
+        {c.efectivo.Value() == 0 && m1 == 0 && m2 == 0, "Ingrese la forma de pago en la boleta de depósito.",
+         "nroEfectivo"},
         {!uno.nro.isEmpty() && m1 == 0, "Ingrese el monto del primer cheque", "txtCheque1_nro"},
         {m1 > 0 && uno.nro.isEmpty(), "Ingrese el Nº del primer cheque", "txtCheque1_nro"},
         {m1 > 0 && uno.banco.isEmpty(), "Ingrese el banco del primer cheque", "txtCheque1_banco"},
@@ -39,8 +42,8 @@ std::optional<Falla> validar_boleta(ControlesBoleta& c)
         {m2 > 0 && dos.banco.isEmpty(), "Ingrese el banco del segundo cheque", "txtCheque2_banco"},
         // Only the dates count: whether interest was typed is not looked at.
         {hoy() > c.vencimiento, "El periodo se encuentra vencido. Ingrese el interes", "nroInteres"},
-        {c.totalDepositar.Value() != c.totalBoleta.Value(), "El monto total de la boleta no coincide con el total retenido mas intereses",
-         "nroTotalBoleta"},
+        {c.totalDepositar.Value() != c.totalBoleta.Value(),
+         "El monto total de la boleta no coincide con el total retenido mas intereses", "nroTotalBoleta"},
     });
     if (falla)
         falla->titulo = u"Generar boleta de deposito"_s;
@@ -49,7 +52,9 @@ std::optional<Falla> validar_boleta(ControlesBoleta& c)
 
 QString proximo_nro_boleta(const QString& dj)
 {
-    const Recordset rs(cnRtn, u"select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA  from SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s + dj + u"' and SBDI_TIPO_BOLETA=0"_s);
+    const Recordset rs(cnRtn,
+                       u"select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA  from SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s
+                           + dj + u"' and SBDI_TIPO_BOLETA=0"_s);
     if (rs.eof() || rs.nulo(0))
         return u"202"_s + dj + u"00"_s;
     // The places are those of a DJ of 17 characters; the number of a shorter one grows by them.
@@ -60,7 +65,8 @@ QString proximo_nro_boleta(const QString& dj)
 QString codigo_barras_boleta(const QString& nroBoleta, const ControlesBoleta& c)
 {
     const QString sin_digito = con_ceros(BancoConvenio, 6) + u"020"_s + nroBoleta.leftJustified(30, u'0')
-        + c.vencimiento.toString(u"yyyyMMdd"_s) + en_centavos(c.impuesto, 12) + QString(10, u'0') + en_centavos(c.interes, 10);
+                               + c.vencimiento.toString(u"yyyyMMdd"_s) + en_centavos(c.impuesto, 12) + QString(10, u'0')
+                               + en_centavos(c.interes, 10);
     return sin_digito + QString::number(digito_verificador(sin_digito));
 }
 
@@ -105,7 +111,8 @@ QString insertar_boleta(const ControlesBoleta& c)
                        + valores.join(u", "_s) + u")"_s)
         != 1)
         return {};
-    cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='"_s + codigo_barras_boleta(nro, c) + u"' where SBDI_NROBOLETA='"_s + nro + u"'"_s);
+    cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='"_s + codigo_barras_boleta(nro, c)
+                   + u"' where SBDI_NROBOLETA='"_s + nro + u"'"_s);
     return nro;
 }
 
@@ -116,7 +123,7 @@ int borrar_boleta(const QString& nro)
 
 void leer_boletas(const QString& dj, const AgregarFila& fila)
 {
-    for (Recordset rs(cnRtn, u"select * from  SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s + dj + u"'"_s);
-         !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select * from  SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s + dj + u"'"_s); !rs.eof();
+         rs.siguiente())
         fila({rs.texto("SBDI_NROBOLETA"), importe_llano(rs.real("SBDI_TOTAL"))});
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Deposit slips of a DJ: numbering, checks, rows, and the text of their bar code.
 #pragma once
 
@@ -7,7 +8,6 @@
 
 #include <QDate>
 #include <QStringList>
-
 
 /// One of the two cheques of a slip.
 struct ChequeBoleta

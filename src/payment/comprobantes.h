@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Withholding receipts: numbering and issue.
 #pragma once
 
@@ -9,7 +10,7 @@ struct DatosComprobante
 {
     QString dj;
     QString renglon;
-    QString montoSQL;       ///< the tax of the deed as it is shown, in SQL form
+    QString montoSQL;  ///< the tax of the deed as it is shown, in SQL form
     QDate fechaEscritura;
     QString agente;
 };

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/datos_impresos.h"
 
 #include "core/modGlobales.h"
@@ -43,14 +45,15 @@ std::map<QString, QString> textos_por_escritura(const QString& sql, Texto texto)
 void guardar_textos(const char* columna, const QString& nro, const std::map<QString, QString>& textos)
 {
     for (const auto& [id, texto] : textos)
-        cnRtn.ejecutar(u"update SEL_TMP_DJ_OPER set "_s + QLatin1String(columna) + u"='"_s + toSQL(texto) + u"' where SEDJ_NRO='"_s + nro + u"' and SEDD_ID="_s + id);
+        cnRtn.ejecutar(u"update SEL_TMP_DJ_OPER set "_s + QLatin1String(columna) + u"='"_s + toSQL(texto)
+                       + u"' where SEDJ_NRO='"_s + nro + u"' and SEDD_ID="_s + id);
 }
 
 QString texto_parte(const Recordset& rs)
 {
     QString t = rs.texto("SPIN_RSOCIAL");
     t += rs.texto("SPIN_NACIONALIDAD") == u"A" ? u" "_s + rs.texto("GTDC_DESCRIPCION") + u' ' + rs.texto("SPIN_NRODOC")
-                                                : u" "_s + rs.texto("CPAI_CODIGO") + u' ' + rs.texto("SPIN_NRODOC");
+                                               : u" "_s + rs.texto("CPAI_CODIGO") + u' ' + rs.texto("SPIN_NRODOC");
     if (const QString cuit = cuit_impreso(rs, "SPIN_CUIT"); !cuit.isEmpty() && cuit != rs.texto("SPIN_NRODOC"))
         t += u' ' + cuit;
     if (rs.logico("SPIN_CUIT_EN_TRAMITE"))
@@ -78,7 +81,13 @@ QString codigo_legible_dj(const QString& codigo)
 
 std::optional<BoletaImpresa> leer_boleta(const QString& nro)
 {
-    const Recordset rs(cnRtn, u"SELECT SEL_TB_RTN_BOLDEP.*, iif(coalesce(SBDI_ANULADA,0),'Anulada','') AS Estado, C.SEDJ_TITULAR_NOMBRE, " u"C.SEDJ_TITULAR_CUIT, C.SEDJ_MES, C.SEDJ_ANIO, C.SEDJ_SECUENCIA " u" from SEL_TB_RTN_BOLDEP inner join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=SEL_TB_RTN_BOLDEP.SEDJ_NRO " u" where SBDI_NROBOLETA='"_s + nro + u"' order by SEL_TB_RTN_BOLDEP.SBDI_ID, SEL_TB_RTN_BOLDEP.SBDI_FECHA_EMISION"_s);
+    const Recordset rs(
+        cnRtn,
+        u"SELECT SEL_TB_RTN_BOLDEP.*, iif(coalesce(SBDI_ANULADA,0),'Anulada','') AS Estado, C.SEDJ_TITULAR_NOMBRE, "
+        u"C.SEDJ_TITULAR_CUIT, C.SEDJ_MES, C.SEDJ_ANIO, C.SEDJ_SECUENCIA "
+        u" from SEL_TB_RTN_BOLDEP inner join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=SEL_TB_RTN_BOLDEP.SEDJ_NRO "
+        u" where SBDI_NROBOLETA='"_s
+            + nro + u"' order by SEL_TB_RTN_BOLDEP.SBDI_ID, SEL_TB_RTN_BOLDEP.SBDI_FECHA_EMISION"_s);
     if (rs.eof())
         return {};
     BoletaImpresa b;
@@ -87,7 +96,7 @@ std::optional<BoletaImpresa> leer_boleta(const QString& nro)
     b.cuit = cuit_impreso(rs, "SEDJ_TITULAR_CUIT");
     b.agenteNro = rs.texto("SBDI_RTN_NRO");
     b.posicion = con_ceros(rs.entero("SEDJ_MES"), 2) + u'/' + con_ceros(rs.entero("SEDJ_ANIO"), 4) + u" ("_s
-        + rectificativa(rs.entero("SEDJ_SECUENCIA")) + u")"_s;
+                 + rectificativa(rs.entero("SEDJ_SECUENCIA")) + u")"_s;
     b.banco = rs.texto("GBAN_DESCRIPCION");
     b.cuenta = rs.texto("SBDI_CUENTA");
     b.filial = rs.texto("SSUB_FILIAL_BANCO");
@@ -109,13 +118,23 @@ void cargar_tmp_dj_oper(const QString& nro)
 {
     Transaccion t(cnRtn);
     cnRtn.ejecutar(u"delete from sel_tmp_dj_oper"_s);
-    cnRtn.ejecutar(u" insert into SEL_TMP_DJ_OPER (SEDJ_NRO, SEDD_ID, PARTES, INMUEBLES) " u" select SEDJ_NRO, SEDD_ID, NULL as PARTES, NULL as INMUEBLES  from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro + u"'"_s);
-    const QString inmuebles = u"select SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, GTUB_DESCRIPCION, SEII_VAL_FISCAL " u" from SEL_TB_RTN_INS_INMUEBLES I  inner join GLB_TB_TIPOS_UBICACION  TU ON I.GTUB_ID = TU.GTUB_ID" u" where SEDJ_NRO='"_s + nro + u"' order by SEDJ_NRO, SEDD_ID"_s;
+    cnRtn.ejecutar(
+        u" insert into SEL_TMP_DJ_OPER (SEDJ_NRO, SEDD_ID, PARTES, INMUEBLES) "
+        u" select SEDJ_NRO, SEDD_ID, NULL as PARTES, NULL as INMUEBLES  from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s
+        + nro + u"'"_s);
+    const QString inmuebles =
+        u"select SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, GTUB_DESCRIPCION, SEII_VAL_FISCAL "
+        u" from SEL_TB_RTN_INS_INMUEBLES I  inner join GLB_TB_TIPOS_UBICACION  TU ON I.GTUB_ID = TU.GTUB_ID"
+        u" where SEDJ_NRO='"_s
+        + nro + u"' order by SEDJ_NRO, SEDD_ID"_s;
     guardar_textos("INMUEBLES", nro, textos_por_escritura(inmuebles, [](const Recordset& rs) {
-        return u"Partida: "_s + rs.texto("SEII_PARTIDA") + u" - "_s + rs.texto("GTUB_DESCRIPCION")
-            + u" - Val.Fiscal: $"_s + importe_agrupado(rs.real("SEII_VAL_FISCAL")) + u"; "_s;
-    }));
-    const QString partes = u"select P.*, T.GTDC_DESCRIPCION from SEL_TB_RTN_INS_PARTES P left join GLB_TB_AFIP_TIPOS_DOC T on T.GTDC_ID=P.GTDC_ID " u"left join GLB_TB_AFIP_CODIGOS_PAIS C on C.CPAI_CODIGO=P.CPAI_CODIGO where P.SEDJ_NRO='"_s + nro + u"' order by P.SEDJ_NRO, P.SEDD_ID, P.SPIN_ID"_s;
+                       return u"Partida: "_s + rs.texto("SEII_PARTIDA") + u" - "_s + rs.texto("GTUB_DESCRIPCION")
+                              + u" - Val.Fiscal: $"_s + importe_agrupado(rs.real("SEII_VAL_FISCAL")) + u"; "_s;
+                   }));
+    const QString partes =
+        u"select P.*, T.GTDC_DESCRIPCION from SEL_TB_RTN_INS_PARTES P left join GLB_TB_AFIP_TIPOS_DOC T on T.GTDC_ID=P.GTDC_ID "
+        u"left join GLB_TB_AFIP_CODIGOS_PAIS C on C.CPAI_CODIGO=P.CPAI_CODIGO where P.SEDJ_NRO='"_s
+        + nro + u"' order by P.SEDJ_NRO, P.SEDD_ID, P.SPIN_ID"_s;
     guardar_textos("PARTES", nro, textos_por_escritura(partes, texto_parte));
     t.confirmar();
 }
@@ -124,13 +143,22 @@ namespace {
 
 std::optional<CabeceraImpresa> leer_cabecera_impresa(const QString& nro)
 {
-    const Recordset rs(cnRtn, u" select c.SEDJ_NRO, c.SEDJ_MES, c.SEDJ_ANIO, c.SEDJ_SECUENCIA, " u" c.SEDJ_OBSERVACIONES, c.SEDJ_TOTAL_RETENIDO, c.SRTN_NRO, " u" c.SEDJ_TITULAR_NOMBRE, c.SEDJ_TITULAR_CUIT, L.GLOC_DESCRIPCION, " u" c.SEDJ_CODPOSTAL, c.SEDJ_DOMICILIO, c.SEDJ_TELEFONO, c.SEDJ_EMAIL, " u" c.SEDJ_ADSCRIPTO1_NOMBRE, c.SEDJ_ADSCRIPTO1_CUIT, c.SEDJ_ADSCRIPTO2_NOMBRE, " u" c.SEDJ_ADSCRIPTO2_CUIT, c.SEDJ_ACRED_MONTO, c.SEDJ_ACRED_RESOLUCION " u" FROM SEL_TB_RTN_CABDJ AS C, GLB_TB_LOCALIDADES AS L  where C.GLOC_ID = L.GLOC_ID and C.SEDJ_NRO='"_s + nro + u"'"_s);
+    const Recordset rs(
+        cnRtn, u" select c.SEDJ_NRO, c.SEDJ_MES, c.SEDJ_ANIO, c.SEDJ_SECUENCIA, "
+               u" c.SEDJ_OBSERVACIONES, c.SEDJ_TOTAL_RETENIDO, c.SRTN_NRO, "
+               u" c.SEDJ_TITULAR_NOMBRE, c.SEDJ_TITULAR_CUIT, L.GLOC_DESCRIPCION, "
+               u" c.SEDJ_CODPOSTAL, c.SEDJ_DOMICILIO, c.SEDJ_TELEFONO, c.SEDJ_EMAIL, "
+               u" c.SEDJ_ADSCRIPTO1_NOMBRE, c.SEDJ_ADSCRIPTO1_CUIT, c.SEDJ_ADSCRIPTO2_NOMBRE, "
+               u" c.SEDJ_ADSCRIPTO2_CUIT, c.SEDJ_ACRED_MONTO, c.SEDJ_ACRED_RESOLUCION "
+               u" FROM SEL_TB_RTN_CABDJ AS C, GLB_TB_LOCALIDADES AS L  where C.GLOC_ID = L.GLOC_ID and C.SEDJ_NRO='"_s
+                   + nro + u"'"_s);
     if (rs.eof())
         return {};
     CabeceraImpresa c;
     c.nro = rs.texto("SEDJ_NRO");
     c.posicion = con_ceros(rs.entero("SEDJ_MES"), 2) + u'/' + rs.texto("SEDJ_ANIO");
-    c.rectificativa = rs.entero("SEDJ_SECUENCIA") == 0 ? u"Original"_s : u"Rectificativa "_s + rs.texto("SEDJ_SECUENCIA");
+    c.rectificativa = rs.entero("SEDJ_SECUENCIA") == 0 ? u"Original"_s
+                                                       : u"Rectificativa "_s + rs.texto("SEDJ_SECUENCIA");
     c.agenteNro = rs.texto("SRTN_NRO");
     c.titular = rs.texto("SEDJ_TITULAR_NOMBRE");
     c.cuit = cuit_impreso(rs, "SEDJ_TITULAR_CUIT");
@@ -153,17 +181,30 @@ std::optional<CabeceraImpresa> leer_cabecera_impresa(const QString& nro)
 // The deeds with their operations, whatever their reach, in the order of their numbers.
 QString consulta_escrituras(const QString& nro)
 {
-    const QString deed = u"D.SEDD_ID, D.SEDD_DIA, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_TOTAL_IMPUESTO, D.SEDD_ESTADO, D.SEDD_ALCANZADO, " u"D.SNAD_DESC_OTRO, D.SEDD_OBSERVACIONES, T.PARTES, T.INMUEBLES"_s;
-    const QString nulos = u", null as SEDO_ID, null as SSUB_DESCRIPCION, null as SSUB_LEYVIGENCIA, null as SINS_BASEIMPONIBLE, null as SINS_MODULOS, " u"null as SINS_ALICUOTA, null as SINS_PORC_EXENTO, null as SINS_MONTO_EXENTO, null as SINS_MONTO_FINAL, null as SINS_PAGO_CTA_MONTO, " u"null as SINS_OBS, null as SINS_ADICIONALES, null as SINS_VALUACION_FISCAL, null as SINS_HIPOTECA, null as SINS_IMPUESTO_CALCULADO"_s;
-    const QString de = u" from SEL_TB_RTN_DETDJ D left join sel_tmp_dj_oper T on T.SEDJ_NRO=D.SEDJ_NRO and T.SEDD_ID=D.SEDD_ID "_s;
+    const QString deed =
+        u"D.SEDD_ID, D.SEDD_DIA, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_TOTAL_IMPUESTO, D.SEDD_ESTADO, D.SEDD_ALCANZADO, "
+        u"D.SNAD_DESC_OTRO, D.SEDD_OBSERVACIONES, T.PARTES, T.INMUEBLES"_s;
+    const QString nulos =
+        u", null as SEDO_ID, null as SSUB_DESCRIPCION, null as SSUB_LEYVIGENCIA, null as SINS_BASEIMPONIBLE, null as SINS_MODULOS, "
+        u"null as SINS_ALICUOTA, null as SINS_PORC_EXENTO, null as SINS_MONTO_EXENTO, null as SINS_MONTO_FINAL, null as SINS_PAGO_CTA_MONTO, "
+        u"null as SINS_OBS, null as SINS_ADICIONALES, null as SINS_VALUACION_FISCAL, null as SINS_HIPOTECA, null as SINS_IMPUESTO_CALCULADO"_s;
+    const QString de =
+        u" from SEL_TB_RTN_DETDJ D left join sel_tmp_dj_oper T on T.SEDJ_NRO=D.SEDJ_NRO and T.SEDD_ID=D.SEDD_ID "_s;
     const QString donde = u" where D.SEDJ_NRO='"_s + nro + u"'"_s;
-    const QString sin_operacion = u" and not exists (select sedd_id from sel_tb_rtn_ins_operaciones O " u"         where o.sedd_id= d.sedd_id AND O.SEDJ_NRO=D.SEDJ_NRO)"_s;
+    const QString sin_operacion = u" and not exists (select sedd_id from sel_tb_rtn_ins_operaciones O "
+                                  u"         where o.sedd_id= d.sedd_id AND O.SEDJ_NRO=D.SEDJ_NRO)"_s;
     return u"select * from (select "_s + deed
-        + u", null as SNAD_DESCRIPCION, O.SEDO_ID, S.SSUB_DESCRIPCION, S.SSUB_LEYVIGENCIA, O.SINS_BASEIMPONIBLE, O.SINS_MODULOS, O.SINS_ALICUOTA, " u"O.SINS_PORC_EXENTO, O.SINS_MONTO_EXENTO, O.SINS_MONTO_FINAL, O.SINS_PAGO_CTA_MONTO, O.SINS_OBS, O.SINS_ADICIONALES, O.SINS_VALUACION_FISCAL, " u"O.SINS_HIPOTECA, O.SINS_IMPUESTO_CALCULADO"_s
-        + de + u" inner join SEL_TB_RTN_INS_OPERACIONES O on O.SEDJ_NRO=D.SEDJ_NRO and O.SEDD_ID=D.SEDD_ID " u" left join SEL_TB_SUBCONCEPTOS S on O.SSUB_ID=S.SSUB_ID "_s
-        + donde + u" and D.SEDD_ALCANZADO='S' Union All select "_s + deed + u", null"_s + nulos + de + donde
-        + u" and D.SEDD_ALCANZADO='S'"_s + sin_operacion + u" union All select "_s + deed + u", NOA.SNAD_DESCRIPCION"_s + nulos
-        + de + u" left join SEL_TB_NO_ALCANZADOS_DESC NOA on D.SNAD_ID=NOA.SNAD_ID"_s + donde + u" and D.SEDD_ALCANZADO='N')  ORDER BY SEDD_ESCRITURA_NRO, SEDD_ID, SEDO_ID"_s;
+           + u", null as SNAD_DESCRIPCION, O.SEDO_ID, S.SSUB_DESCRIPCION, S.SSUB_LEYVIGENCIA, O.SINS_BASEIMPONIBLE, O.SINS_MODULOS, O.SINS_ALICUOTA, "
+             u"O.SINS_PORC_EXENTO, O.SINS_MONTO_EXENTO, O.SINS_MONTO_FINAL, O.SINS_PAGO_CTA_MONTO, O.SINS_OBS, O.SINS_ADICIONALES, O.SINS_VALUACION_FISCAL, "
+             u"O.SINS_HIPOTECA, O.SINS_IMPUESTO_CALCULADO"_s
+           + de
+           + u" inner join SEL_TB_RTN_INS_OPERACIONES O on O.SEDJ_NRO=D.SEDJ_NRO and O.SEDD_ID=D.SEDD_ID "
+             u" left join SEL_TB_SUBCONCEPTOS S on O.SSUB_ID=S.SSUB_ID "_s
+           + donde + u" and D.SEDD_ALCANZADO='S' Union All select "_s + deed + u", null"_s + nulos + de + donde
+           + u" and D.SEDD_ALCANZADO='S'"_s + sin_operacion + u" union All select "_s + deed
+           + u", NOA.SNAD_DESCRIPCION"_s + nulos + de
+           + u" left join SEL_TB_NO_ALCANZADOS_DESC NOA on D.SNAD_ID=NOA.SNAD_ID"_s + donde
+           + u" and D.SEDD_ALCANZADO='N')  ORDER BY SEDD_ESCRITURA_NRO, SEDD_ID, SEDO_ID"_s;
 }
 
 EscrituraImpresa leer_escritura(const Recordset& rs)
@@ -208,7 +249,8 @@ DJImpresa leer_dj_impresa(const QString& nro)
 {
     DJImpresa dj;
     {
-        const Recordset rs(cnRtn, u"select count(*) as CANT_MOV from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro + u"'"_s);
+        const Recordset rs(cnRtn,
+                           u"select count(*) as CANT_MOV from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro + u"'"_s);
         dj.sinMovimientos = rs.entero("cant_mov") == 0;
     }
     const auto cabecera = leer_cabecera_impresa(nro);
@@ -232,7 +274,16 @@ DJImpresa leer_dj_impresa(const QString& nro)
 
 std::optional<ReciboImpreso> leer_recibo(const QString& nro)
 {
-    const Recordset rs(cnRtn, u"select SEL_TB_RTN_DETDJ.SEDJ_NRO, SEL_TB_RTN_DETDJ.SEDD_ESCRITURA_NRO, SEL_TB_RTN_DETDJ.SEDD_FOLIO, SEL_TB_RTN_COMP_RET.*, " u"C.SEDJ_ADSCRIPTO1_NOMBRE, C.SEDJ_ADSCRIPTO2_NOMBRE, T.PARTES, T.INMUEBLES " u" from SEL_TB_RTN_DETDJ inner join SEL_TB_RTN_COMP_RET on SEL_TB_RTN_COMP_RET.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO " u" and SEL_TB_RTN_COMP_RET.SEDD_ID=SEL_TB_RTN_DETDJ.SEDD_ID inner join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO " u" left join SEL_TMP_DJ_OPER T on T.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO and T.SEDD_ID=SEL_TB_RTN_DETDJ.SEDD_ID " u" where (((SEL_TB_RTN_DETDJ.SEDD_ESTADO) = 'P') And ((SEL_TB_RTN_COMP_RET.SCRT_ANULADO) = 'N'))" u" and SEL_TB_RTN_COMP_RET.SCRT_NRO='"_s + nro + u"'"_s);
+    const Recordset rs(
+        cnRtn,
+        u"select SEL_TB_RTN_DETDJ.SEDJ_NRO, SEL_TB_RTN_DETDJ.SEDD_ESCRITURA_NRO, SEL_TB_RTN_DETDJ.SEDD_FOLIO, SEL_TB_RTN_COMP_RET.*, "
+        u"C.SEDJ_ADSCRIPTO1_NOMBRE, C.SEDJ_ADSCRIPTO2_NOMBRE, T.PARTES, T.INMUEBLES "
+        u" from SEL_TB_RTN_DETDJ inner join SEL_TB_RTN_COMP_RET on SEL_TB_RTN_COMP_RET.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO "
+        u" and SEL_TB_RTN_COMP_RET.SEDD_ID=SEL_TB_RTN_DETDJ.SEDD_ID inner join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO "
+        u" left join SEL_TMP_DJ_OPER T on T.SEDJ_NRO=SEL_TB_RTN_DETDJ.SEDJ_NRO and T.SEDD_ID=SEL_TB_RTN_DETDJ.SEDD_ID "
+        u" where (((SEL_TB_RTN_DETDJ.SEDD_ESTADO) = 'P') And ((SEL_TB_RTN_COMP_RET.SCRT_ANULADO) = 'N'))"
+        u" and SEL_TB_RTN_COMP_RET.SCRT_NRO='"_s
+            + nro + u"'"_s);
     if (rs.eof())
         return {};
     ReciboImpreso r;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the printed forms show, read from the store.
 #pragma once
 
@@ -31,7 +32,8 @@ struct CabeceraImpresa
 struct OperacionImpresa
 {
     QString descripcion, ley, observaciones;
-    std::optional<double> base, modulos, alicuota, porcExento, montoExento, pagoACuenta, adicionales, calculado, valuacion, hipoteca, final;
+    std::optional<double> base, modulos, alicuota, porcExento, montoExento, pagoACuenta, adicionales, calculado,
+        valuacion, hipoteca, final;
 };
 
 struct EscrituraImpresa
@@ -56,7 +58,8 @@ void cargar_tmp_dj_oper(const QString& nro);
 
 struct ReciboImpreso
 {
-    QString nro, dj, escritura, folio, fechaRetencion, fechaEscritura, titular, adscripto1, adscripto2, partes, inmuebles;
+    QString nro, dj, escritura, folio, fechaRetencion, fechaEscritura, titular, adscripto1, adscripto2, partes,
+        inmuebles;
     double monto = 0;
 };
 /// Nothing for an annulled receipt or one of a deed that did not pass; the texts of its DJ are filled

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tree/arbol_dj.h"
 
 namespace {
@@ -132,20 +134,38 @@ const Columna<ValorContractual> VALOR[] = {
 };
 
 const Columna<RolOperacion> ROL[] = {
-    {"SEDJ_NRO", &RolOperacion::dj, 17},
-    {"SEDD_ID", &RolOperacion::renglon},
-    {"SEDO_ID", &RolOperacion::operacion},
-    {"SPIN_ID", &RolOperacion::parte},
-    {"SROL_ID", &RolOperacion::rol},
-    {"SEDR_OBS", &RolOperacion::observaciones, 50},
+    {"SEDJ_NRO", &RolOperacion::dj, 17},   {"SEDD_ID", &RolOperacion::renglon},
+    {"SEDO_ID", &RolOperacion::operacion}, {"SPIN_ID", &RolOperacion::parte},
+    {"SROL_ID", &RolOperacion::rol},       {"SEDR_OBS", &RolOperacion::observaciones, 50},
 };
 
 }  // namespace
 
-std::span<const Columna<CabeceraDJ>> columnas_cabecera() { return CABECERA; }
-std::span<const Columna<Escritura>> columnas_escritura() { return ESCRITURA; }
-std::span<const Columna<Inmueble>> columnas_inmueble() { return INMUEBLE; }
-std::span<const Columna<Parte>> columnas_parte() { return PARTE; }
-std::span<const Columna<Operacion>> columnas_operacion() { return OPERACION; }
-std::span<const Columna<ValorContractual>> columnas_valor() { return VALOR; }
-std::span<const Columna<RolOperacion>> columnas_rol() { return ROL; }
+std::span<const Columna<CabeceraDJ>> columnas_cabecera()
+{
+    return CABECERA;
+}
+std::span<const Columna<Escritura>> columnas_escritura()
+{
+    return ESCRITURA;
+}
+std::span<const Columna<Inmueble>> columnas_inmueble()
+{
+    return INMUEBLE;
+}
+std::span<const Columna<Parte>> columnas_parte()
+{
+    return PARTE;
+}
+std::span<const Columna<Operacion>> columnas_operacion()
+{
+    return OPERACION;
+}
+std::span<const Columna<ValorContractual>> columnas_valor()
+{
+    return VALOR;
+}
+std::span<const Columna<RolOperacion>> columnas_rol()
+{
+    return ROL;
+}

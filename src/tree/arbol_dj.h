@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The declaration tree: a DJ, its deeds, their parties, real estate and operations, with one
 // field a column.
 #pragma once
@@ -13,7 +14,7 @@ struct CabeceraDJ
     int anio = 0;
     int mes = 0;
     int secuencia = 0;
-    int estado = 0;               ///< 0 "NORMAL", 1 "SIN MOVIMIENTOS"
+    int estado = 0;  ///< 0 "NORMAL", 1 "SIN MOVIMIENTOS"
     QString observaciones;
     double totalRetenido = 0;
     QDate vencimiento;
@@ -30,7 +31,7 @@ struct CabeceraDJ
     std::optional<qint64> adscripto2Cuit;
     QString email;
     double acredMonto = 0;
-    QString acredResolucion;      ///< "0000/00"
+    QString acredResolucion;  ///< "0000/00"
 };
 
 struct Escritura
@@ -43,9 +44,9 @@ struct Escritura
     double totalImpuesto = 0;
     QString observaciones;
     std::optional<double> certifAfip = 0;
-    QString estado;               ///< "P", "N" or "E"
-    QString alcanzado;            ///< "S" or "N"
-    std::optional<int> motivo;    ///< why it is not reached
+    QString estado;             ///< "P", "N" or "E"
+    QString alcanzado;          ///< "S" or "N"
+    std::optional<int> motivo;  ///< why it is not reached
     QString motivoOtro;
     QString testimonio;
 };
@@ -80,7 +81,7 @@ struct Parte
     QString codPostal;
     std::optional<int> localidad;
     std::optional<int> provincia;
-    QString nacionalidad;         ///< "A" or "E"
+    QString nacionalidad;  ///< "A" or "E"
     QString codigoPais;
 };
 
@@ -94,7 +95,7 @@ struct Operacion
         montoInicial, montoFinal;
     QString nro;
     std::optional<double> adicionales;
-    QString obligFop;             ///< "F" fixed, "P" per cent
+    QString obligFop;  ///< "F" fixed, "P" per cent
     std::optional<double> obligValor;
     std::optional<int> obligModo;
     QString obligPoliza;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tree/modABM_dj.h"
 
 #include "core/modGlobales.h"
@@ -28,8 +30,8 @@ QString donde(const QString& dj, int renglon)
 // Inserts; false after an error, which is told: the words of `duplicado` for a key that stands
 // already (when there are any), else the engine's.
 template <class T>
-bool insertar(const char* tabla, std::span<const Columna<T>> columnas, const T& fila, const char* titulo, Dialogo& dialogo,
-              const QString& duplicado = {})
+bool insertar(const char* tabla, std::span<const Columna<T>> columnas, const T& fila, const char* titulo,
+              Dialogo& dialogo, const QString& duplicado = {})
 {
     static const QString sentencia = sentencia_alta(tabla, columnas);
     try {
@@ -47,8 +49,8 @@ bool insertar(const char* tabla, std::span<const Columna<T>> columnas, const T& 
 bool alta_cabecera_dj(const CabeceraDJ& dj, Dialogo& dialogo)
 {
     const QString existe = u"Ya existe la "_s
-        + (dj.secuencia == 0 ? u" Original"_s : u" Rectificativa "_s + QString::number(dj.secuencia))
-        + u" para la posicion "_s + con_ceros(dj.mes, 2) + u'/' + QString::number(dj.anio);
+                           + (dj.secuencia == 0 ? u" Original"_s : u" Rectificativa "_s + QString::number(dj.secuencia))
+                           + u" para la posicion "_s + con_ceros(dj.mes, 2) + u'/' + QString::number(dj.anio);
     return insertar("SEL_TB_RTN_CABDJ", columnas_cabecera(), dj, "Nueva DJ", dialogo, existe);
 }
 
@@ -60,8 +62,9 @@ bool alta_detalle_dj(Escritura& e, bool generar_id, Dialogo& dialogo)
         dialogo.avisar({u"No se puede dar de alta el detalle de la DJ"_s, u"Detalle DJ"_s, Icono::informacion});
         return false;
     }
-    return insertar("SEL_TB_RTN_DETDJ", columnas_escritura(), e, "Nuevo detalle DJ", dialogo,
-                    u"Ya existe otra escritura con el mismo numero y/o el folio ya esta incluido en algun renglon de la DJ"_s);
+    return insertar(
+        "SEL_TB_RTN_DETDJ", columnas_escritura(), e, "Nuevo detalle DJ", dialogo,
+        u"Ya existe otra escritura con el mismo numero y/o el folio ya esta incluido en algun renglon de la DJ"_s);
 }
 
 bool alta_inmueble(Inmueble& i, bool generar_id, Dialogo& dialogo)
@@ -75,8 +78,8 @@ bool alta_inmueble(Inmueble& i, bool generar_id, Dialogo& dialogo)
 bool alta_parte(Parte& p, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        p.id = proximo_id(u"select max(SPIN_ID) as MAX_SPIN_ID  from SEL_TB_RTN_INS_PARTES "_s
-                          + donde(p.dj, p.renglon) + u" group by SEDJ_NRO, SEDD_ID "_s);
+        p.id = proximo_id(u"select max(SPIN_ID) as MAX_SPIN_ID  from SEL_TB_RTN_INS_PARTES "_s + donde(p.dj, p.renglon)
+                          + u" group by SEDJ_NRO, SEDD_ID "_s);
     if (p.id < 0) {
         dialogo.avisar({u"No se pude guardar el participante"_s, u"Nuevo participante"_s, Icono::informacion});
         return false;
@@ -87,15 +90,16 @@ bool alta_parte(Parte& p, bool generar_id, Dialogo& dialogo)
 bool alta_operacion(Operacion& o, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        o.id = proximo_id(u"select max(SEDO_ID) as MAX_SEDO_ID from SEL_TB_RTN_INS_OPERACIONES "_s + donde(o.dj, o.renglon));
+        o.id = proximo_id(u"select max(SEDO_ID) as MAX_SEDO_ID from SEL_TB_RTN_INS_OPERACIONES "_s
+                          + donde(o.dj, o.renglon));
     return insertar("SEL_TB_RTN_INS_OPERACIONES", columnas_operacion(), o, "Nueva operación", dialogo);
 }
 
 bool alta_valor_contractual(ValorContractual& v, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        v.id = proximo_id(u"select max(SVCI_ID) as MAX_SVCI_ID from SEL_TB_RTN_INS_VC "_s
-                          + donde(v.dj, v.renglon) + u" and SEDO_ID="_s + QString::number(v.operacion));
+        v.id = proximo_id(u"select max(SVCI_ID) as MAX_SVCI_ID from SEL_TB_RTN_INS_VC "_s + donde(v.dj, v.renglon)
+                          + u" and SEDO_ID="_s + QString::number(v.operacion));
     return insertar("SEL_TB_RTN_INS_VC", columnas_valor(), v, "Nuevo valor contractual parcial", dialogo);
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One insert routine for each table of the declaration tree. Each gives true on success; a
 // failure is told and gives false. With `generar_id` the routine finds the next identifier
 // itself and leaves it in the row; otherwise it uses the one of the row.

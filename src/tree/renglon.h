@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A deed's place in the tree, and the query of its parties, which several rooms read.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "widgets/ctlCombo.h"
 
 #include "core/almacen.h"
@@ -218,7 +220,10 @@ void ctlCombo::elegir()
 
 ctlCombo::Fila ctlCombo::fila_de(const QTreeWidgetItem* fila) const
 {
-    Fila f{lvw_->indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(fila)) + 1, fila->data(0, CLAVE).toString(), fila->text(0), {}};
+    Fila f{lvw_->indexOfTopLevelItem(const_cast<QTreeWidgetItem*>(fila)) + 1,
+           fila->data(0, CLAVE).toString(),
+           fila->text(0),
+           {}};
     for (int i = 1; i < fila->columnCount(); ++i)
         f.subitems << fila->text(i);
     return f;
@@ -263,7 +268,8 @@ QSize ctlCombo::minimumSizeHint() const
 void ctlCombo::abrir()
 {
     const int filas = std::clamp(lvw_->topLevelItemCount(), 3, FILAS_VISIBLES);
-    const int alto = lvw_->header()->sizeHint().height() + filas * std::max(lvw_->sizeHintForRow(0), fontMetrics().height() + 4) + 2 * lvw_->frameWidth();
+    const int alto = lvw_->header()->sizeHint().height()
+                     + filas * std::max(lvw_->sizeHintForRow(0), fontMetrics().height() + 4) + 2 * lvw_->frameWidth();
     lvw_->resize(lvw_->width(), alto);
     lvw_->show();
     ajustarAltura();

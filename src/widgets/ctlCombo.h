@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A drop-down box whose list has several columns and headers, filled from the rows of a query.
 #pragma once
 
@@ -55,7 +56,8 @@ public:
     /// Removes all columns and empties the text box; the rows stay.
     void clearHeaderColumns();
     /// Adds a column at a place from 1; the width in twips, 800 for a negative one.
-    void AddColumn(const QString& titulo, int indice, const QString& clave, int ancho, Qt::Alignment alineacion = Qt::AlignLeft);
+    void AddColumn(const QString& titulo, int indice, const QString& clave, int ancho,
+                   Qt::Alignment alineacion = Qt::AlignLeft);
     /// An empty caption and a width of 0 or less leave what the column has.
     void ModifyColumn(const QString& titulo, int indice, int ancho);
     /// Appends the rows of a query of the form key, text, further columns. Throws std::invalid_argument

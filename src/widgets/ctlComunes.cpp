@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "widgets/ctlComunes.h"
 
 #include <QAbstractButton>
@@ -142,6 +144,22 @@ void combo_con_texto(QComboBox* combo)
     combo->setCompleter(nullptr);
     a_mayusculas(combo->lineEdit());
     combo->installEventFilter(new FiltroCompletar(combo));
+}
+
+std::optional<int> elegido(const QComboBox* combo)
+{
+    return combo->currentIndex() < 0 ? std::optional<int>() : combo->currentData().toInt();
+}
+
+std::optional<int> filtro_elegido(const QComboBox* combo)
+{
+    return combo->currentIndex() <= 0 ? std::optional<int>() : combo->currentData().toInt();
+}
+
+std::optional<int> elegido_por_texto(const QComboBox* combo)
+{
+    const int i = combo->currentText().isEmpty() ? -1 : combo->findText(combo->currentText(), Qt::MatchFixedString);
+    return i < 0 ? std::optional<int>() : combo->itemData(i).toInt();
 }
 
 int item_del_texto(const QComboBox* combo)

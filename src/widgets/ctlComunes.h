@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What forms do alike with text boxes and combos.
 #pragma once
 
 #include "core/listas.h"
 
 #include <QString>
+
+#include <optional>
 
 class QAbstractButton;
 class QComboBox;
@@ -31,6 +34,12 @@ void seleccionar_texto(QComboBox* combo, const QString& texto);
 void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio = 1, int largo = 0);
 /// Item data of the selection as a number, 0 without one.
 [[nodiscard]] int item_data(const QComboBox* combo);
+/// Item data of the selection, nothing without one.
+[[nodiscard]] std::optional<int> elegido(const QComboBox* combo);
+/// The same in a list that begins with "(sin filtro)", which stands for nothing.
+[[nodiscard]] std::optional<int> filtro_elegido(const QComboBox* combo);
+/// Item data of the entry that the text of a combo with typing stands for, nothing for any other text.
+[[nodiscard]] std::optional<int> elegido_por_texto(const QComboBox* combo);
 /// A combo with typing: in capitals, and on leaving it the text goes to the first entry that
 /// starts with it.
 void combo_con_texto(QComboBox* combo);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The mouse pointer of the whole program: the hourglass while something is prepared.
 #pragma once
 

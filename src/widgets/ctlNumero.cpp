@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "widgets/ctlNumero.h"
 
 #include <QFocusEvent>
@@ -80,7 +82,8 @@ bool ctlNumero::eventFilter(QObject* objeto, QEvent* evento)
     case QEvent::KeyPress: {
         const auto* k = static_cast<QKeyEvent*>(evento);
         const bool orden = k->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-        if (orden || k->key() == Qt::Key_Delete || k->key() == Qt::Key_Tab || k->key() == Qt::Key_Backtab || k->text().isEmpty() || txt_->isReadOnly())
+        if (orden || k->key() == Qt::Key_Delete || k->key() == Qt::Key_Tab || k->key() == Qt::Key_Backtab
+            || k->text().isEmpty() || txt_->isReadOnly())
             return false;
         return tecla(k->text());
     }
@@ -101,8 +104,7 @@ bool ctlNumero::eventFilter(QObject* objeto, QEvent* evento)
         emit salida();
         return false;
     }
-    default:
-        return QWidget::eventFilter(objeto, evento);
+    default: return QWidget::eventFilter(objeto, evento);
     }
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The field in which forms take numbers: `Numero` with a line edit around it.
 #pragma once
 

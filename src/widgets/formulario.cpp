@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "widgets/formulario.h"
 
 #include "widgets/barra.h"
@@ -151,8 +153,8 @@ void Formulario::showEvent(QShowEvent* evento)
 void Formulario::changeEvent(QEvent* evento)
 {
     QWidget::changeEvent(evento);
-    if (evento->type() == QEvent::ActivationChange && !subventana_ && isActiveWindow() && !descargada_
-        && isVisible() && ultima_activa != this)
+    if (evento->type() == QEvent::ActivationChange && !subventana_ && isActiveWindow() && !descargada_ && isVisible()
+        && ultima_activa != this)
         activarse();
 }
 

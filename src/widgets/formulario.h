@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Base of all forms: the single instance that loads on demand, its caller, its life as a child
 // window of the main window.
 #pragma once

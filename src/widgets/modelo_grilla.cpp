@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "widgets/modelo_grilla.h"
 
 namespace {
@@ -114,10 +116,8 @@ QVariant ModeloGrilla::data(const QModelIndex& indice, int rol) const
 {
     switch (rol) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
-        return texto(indice.row(), indice.column());
-    case Qt::TextAlignmentRole:
-        return alineacion_[es_numerico(texto(indice.row(), indice.column()))];
+    case Qt::ToolTipRole: return texto(indice.row(), indice.column());
+    case Qt::TextAlignmentRole: return alineacion_[es_numerico(texto(indice.row(), indice.column()))];
     case Qt::ForegroundRole:
         if (const auto it = colores_.find(indice.row()); it != colores_.end() && it->texto.isValid())
             return it->texto;
@@ -126,8 +126,7 @@ QVariant ModeloGrilla::data(const QModelIndex& indice, int rol) const
         if (const auto it = colores_.find(indice.row()); it != colores_.end() && it->fondo.isValid())
             return it->fondo;
         return {};
-    default:
-        return {};
+    default: return {};
     }
 }
 

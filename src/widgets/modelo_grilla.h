@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rows of a grid: texts, with a colour per row where one is set.
 #pragma once
 
@@ -55,5 +56,6 @@ private:
     QHash<quint32, QString> cambiadas_;
     QHash<int, Colores> colores_;
     int filas_ = 0;
-    const QVariant alineacion_[2] = {QVariant::fromValue(Qt::AlignVCenter | Qt::AlignLeft), QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight)};
+    const QVariant alineacion_[2] = {QVariant::fromValue(Qt::AlignVCenter | Qt::AlignLeft),
+                                     QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight)};
 };

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 
 #include "constructor.h"
@@ -54,15 +56,23 @@ QString ConAlmacen::filas(const QString& sql)
 QString ConAlmacen::nueva_dj(int secuencia)
 {
     const QString nro = "201234567862610%1"_u.arg(secuencia, 2, 10, QLatin1Char('0'));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, SEDJ_TOTAL_RETENIDO, "
-                   "SEDJ_FVENCIMIENTO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_TITULAR_CUIT, GLOC_ID, SEDJ_ACRED_MONTO, SEDJ_ACRED_RESOLUCION) "
-                   "values ('%1', 2026, 10, %2, 0, 0, '2026-11-16', 101, 'PÉREZ', 20123456786, 1, 0, '0000/00')"_u.arg(nro).arg(secuencia));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO, SEDJ_TOTAL_RETENIDO, "
+        "SEDJ_FVENCIMIENTO, SRTN_NRO, SEDJ_TITULAR_NOMBRE, SEDJ_TITULAR_CUIT, GLOC_ID, SEDJ_ACRED_MONTO, SEDJ_ACRED_RESOLUCION) "
+        "values ('%1', 2026, 10, %2, 0, 0, '2026-11-16', 101, 'PÉREZ', 20123456786, 1, 0, '0000/00')"_u.arg(nro)
+            .arg(secuencia));
     return nro;
 }
 
-void ConAlmacen::nueva_escritura(const QString& dj, int id, int nro, int folio, int dia, const char* estado, const char* alcanzado)
+void ConAlmacen::nueva_escritura(const QString& dj, int id, int nro, int folio, int dia, const char* estado,
+                                 const char* alcanzado)
 {
-    cnRtn.ejecutar("insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_TOTAL_IMPUESTO, SEDD_ESTADO, "
-                   "SEDD_ALCANZADO) values ('%1', %2, %3, %4, %5, 0, '%6', '%7')"_u.arg(dj).arg(id).arg(dia).arg(nro).arg(folio)
-                       .arg(QLatin1StringView(estado), QLatin1StringView(alcanzado)));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_DETDJ (SEDJ_NRO, SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_TOTAL_IMPUESTO, SEDD_ESTADO, "
+        "SEDD_ALCANZADO) values ('%1', %2, %3, %4, %5, 0, '%6', '%7')"_u.arg(dj)
+            .arg(id)
+            .arg(dia)
+            .arg(nro)
+            .arg(folio)
+            .arg(QLatin1StringView(estado), QLatin1StringView(alcanzado)));
 }

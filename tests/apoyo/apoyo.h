@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What tests share: a store of their own, a user who answers, rows in one line.
 #pragma once
 
@@ -67,7 +68,8 @@ protected:
     /// A DJ of the posición 2026/10 with its agent; gives its number.
     static QString nueva_dj(int secuencia = 0);
     /// A deed of that DJ.
-    static void nueva_escritura(const QString& dj, int id, int nro, int folio, int dia, const char* estado = "P", const char* alcanzado = "S");
+    static void nueva_escritura(const QString& dj, int id, int nro, int folio, int dia, const char* estado = "P",
+                                const char* alcanzado = "S");
 
     QTemporaryDir carpeta;
     Oyente oyente;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/ventanas.h"
 
 #include "declarations/screens/frmDJ_buscar.h"
@@ -10,8 +12,9 @@ using namespace manejo;
 void ConVentanas::SetUp()
 {
     ConAlmacen::SetUp();
-    cnRtn.ejecutar("insert into SEL_TB_RTN_PADRON (SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, GLOC_ID) "
-                   "values (101, 101, 'PÉREZ', 20123456786, 1)"_u);
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_PADRON (SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, GLOC_ID) "
+        "values (101, 101, 'PÉREZ', 20123456786, 1)"_u);
     principal = std::make_unique<MDIPrincipal>();
     principal->resize(1200, 760);
     principal->show();

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "core/arranque.h"
 
@@ -10,7 +12,8 @@ using Almacen = ConAlmacen;
 TEST_F(Almacen, TransaccionesAnidadas)
 {
     const auto poner = [](int n) { cnRtn.ejecutar("insert into GLB_TB_CONCEPTOS values (%1, 'X')"_u.arg(n)); };
-    const QString cuenta = "select group_concat(GCON_ID) from (select GCON_ID from GLB_TB_CONCEPTOS where GCON_ID>10 order by 1)"_u;
+    const QString cuenta =
+        "select group_concat(GCON_ID) from (select GCON_ID from GLB_TB_CONCEPTOS where GCON_ID>10 order by 1)"_u;
     cnRtn.comenzar();
     poner(11);
     cnRtn.comenzar();
@@ -36,9 +39,12 @@ TEST_F(Almacen, TransaccionesAnidadas)
 
 TEST_F(Almacen, FuncionesYOrdenesDeLasSentencias)
 {
-    EXPECT_EQ(filas("select int(3.9), int(-3.1), mid('abcdef',2,3), mid('abc',3), str(20123456786.0), str(-1.5), iif(1=1,'s','n')"_u),
-              "3|-4|bcd|c| 20123456786|-1.5|s"_u);
-    EXPECT_EQ(filas("select 'PEÑA' like '%eñ%', 'Á' like 'á', 'a_c' like 'a_c', 'abc' like 'a%d', null like 'a'"_u), "1|1|1|0|null"_u);
+    EXPECT_EQ(
+        filas(
+            "select int(3.9), int(-3.1), mid('abcdef',2,3), mid('abc',3), str(20123456786.0), str(-1.5), iif(1=1,'s','n')"_u),
+        "3|-4|bcd|c| 20123456786|-1.5|s"_u);
+    EXPECT_EQ(filas("select 'PEÑA' like '%eñ%', 'Á' like 'á', 'a_c' like 'a_c', 'abc' like 'a%d', null like 'a'"_u),
+              "1|1|1|0|null"_u);
     EXPECT_EQ(dato("select GMON_DESCRIPCION from GLB_TB_MONEDAS where GMON_ID='pes'"_u), "PESOS"_u);
 }
 
@@ -63,8 +69,11 @@ TEST_F(Almacen, LasCascadasVacianUnaDJYDejanLosRoles)
     nueva_escritura(dj, 1, 1, 1, 1);
     cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID) values (1, '%1', 1)"_u.arg(dj));
     cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID) values ('%1', 1, 1)"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 1, 1, 5707029)"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_VC (SEDJ_NRO, SEDD_ID, SEDO_ID, SVCI_ID) values ('%1', 1, 1, 1)"_u.arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 1, 1, 5707029)"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_VC (SEDJ_NRO, SEDD_ID, SEDO_ID, SVCI_ID) values ('%1', 1, 1, 1)"_u.arg(dj));
     cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707029001, null)"_u.arg(dj));
     EXPECT_THROW(cnRtn.ejecutar("delete from SEL_TB_SUBCONCEPTOS where SSUB_ID=5707029"_u), ErrorAlmacen);
     cnRtn.ejecutar("delete from SEL_TB_RTN_CABDJ"_u);
@@ -92,8 +101,9 @@ protected:
     {
         oyente.textos.clear();
         EXPECT_FALSE(abrir_base(oyente));
-        EXPECT_EQ(oyente.textos, QStringList("Error. No se puede obtener la ruta de acceso a la base de datos (ventanilla.cfg). "
-                                             "Comuniquese con el administrador del sistema"_u));
+        EXPECT_EQ(oyente.textos,
+                  QStringList("Error. No se puede obtener la ruta de acceso a la base de datos (ventanilla.cfg). "
+                              "Comuniquese con el administrador del sistema"_u));
         EXPECT_EQ(oyente.titulos.last(), "Error de acceso al sistema"_u);
         EXPECT_EQ(oyente.iconos.last(), Icono::informacion);
         EXPECT_FALSE(cnRtn.abierta());
@@ -102,20 +112,23 @@ protected:
 
 TEST_F(Arranque, AbreLaPrimeraLinea)
 {
-    for (const QByteArray& texto : {ruta().toUtf8(), QByteArray(ruta().toUtf8() + "\r\notra linea\n"), QByteArray("vedra_rtn.db\n")}) {
+    for (const QByteArray& texto :
+         {ruta().toUtf8(), QByteArray(ruta().toUtf8() + "\r\notra linea\n"), QByteArray("vedra_rtn.db\n")}) {
         configurar(texto);
         EXPECT_TRUE(abrir_base(oyente));
         EXPECT_TRUE(cnRtn.abierta());
         cnRtn.cerrar();
     }
-    EXPECT_EQ(CadenaConexion, "Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password=Xk7pQ2mR;Data Source=vedra_rtn.db;Persist Security Info=false"_u);
+    EXPECT_EQ(
+        CadenaConexion,
+        "Provider=Microsoft.Jet.OLEDB.4.0;Jet OLEDB:Database Password=Xk7pQ2mR;Data Source=vedra_rtn.db;Persist Security Info=false"_u);
 }
 
 TEST_F(Arranque, LoQueNoSeAbreTerminaConSuCaja)
 {
-    esperarCajaFatal();                                   // no file at all
-    for (const QByteArray& texto : {QByteArray(), QByteArray("\nvedra_rtn.db\n"), QByteArray("/no/hay/nada.db\n"), QByteArray(" vedra_rtn.db\n"),
-                                    carpeta.path().toUtf8()}) {
+    esperarCajaFatal();  // no file at all
+    for (const QByteArray& texto : {QByteArray(), QByteArray("\nvedra_rtn.db\n"), QByteArray("/no/hay/nada.db\n"),
+                                    QByteArray(" vedra_rtn.db\n"), carpeta.path().toUtf8()}) {
         configurar(texto);
         esperarCajaFatal();
     }
@@ -139,7 +152,7 @@ TEST_F(Arranque, LoQueNoSeAbreTerminaConSuCaja)
     Conexion otro;
     otro.abrir(ruta(), clave_almacen());
     otro.ejecutar("begin exclusive"_u);
-    esperarCajaFatal();                                   // locked by another program
+    esperarCajaFatal();  // locked by another program
     otro.cerrar();
     EXPECT_TRUE(abrir_base(oyente));
 }
@@ -165,7 +178,8 @@ TEST_F(Arranque, BytesVolteadosEnCualquierPaginaSonUnErrorYNoUnaCaida)
                 cargar_parametros(oyente);
                 for (Recordset rs(cnRtn, "select * from SEL_TB_SUBCONCEPTOS"_u); !rs.eof(); rs.siguiente()) {}
                 for (Recordset rs(cnRtn, "select * from SEL_TB_ROLES"_u); !rs.eof(); rs.siguiente()) {}
-                for (Recordset rs(cnRtn, "select * from GLB_TB_LOCALIDADES order by GLOC_DESCRIPCION"_u); !rs.eof(); rs.siguiente()) {}
+                for (Recordset rs(cnRtn, "select * from GLB_TB_LOCALIDADES order by GLOC_DESCRIPCION"_u); !rs.eof();
+                     rs.siguiente()) {}
             } catch (const ErrorAlmacen& e) {
                 ++errores;
                 EXPECT_FALSE(e.descripcion.isEmpty());
@@ -184,8 +198,9 @@ TEST_F(Arranque, ParametrosYLeyVigente)
 {
     configurar("vedra_rtn.db\n");
     ASSERT_TRUE(abrir_base(oyente));
-    cnRtn.ejecutar("delete from SEL_TB_PARAMETROS; insert into SEL_TB_PARAMETROS values ('PRSE_MODO_IMPORTE_MINIMO','1'), ('OTRO','x'), "
-                   "('PRSE_MODO_IMPORTE_MINIMO','0'), ('PRSE_ALICUOTA_IVA','10.5')"_u);
+    cnRtn.ejecutar(
+        "delete from SEL_TB_PARAMETROS; insert into SEL_TB_PARAMETROS values ('PRSE_MODO_IMPORTE_MINIMO','1'), ('OTRO','x'), "
+        "('PRSE_MODO_IMPORTE_MINIMO','0'), ('PRSE_ALICUOTA_IVA','10.5')"_u);
     ModoImporteMinimo = 7;
     oyente.textos.clear();
     cargar_parametros(oyente);

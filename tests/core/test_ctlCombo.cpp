@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The drop-down box of several columns, by keyboard and mouse.
 
 #include "apoyo/apoyo.h"
@@ -34,7 +35,10 @@ protected:
         ventana.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
     }
-    void clicEnFila(int i) { QTest::mouseClick(lvw->viewport(), Qt::LeftButton, {}, lvw->visualItemRect(lvw->topLevelItem(i)).center()); }
+    void clicEnFila(int i)
+    {
+        QTest::mouseClick(lvw->viewport(), Qt::LeftButton, {}, lvw->visualItemRect(lvw->topLevelItem(i)).center());
+    }
 
     QWidget ventana;
     ctlCombo* combo = nullptr;
@@ -165,7 +169,9 @@ TEST_F(CtlCombo, OrdenaPorLaColumnaDelClic)
     };
     QTest::mouseClick(cmd, Qt::LeftButton);
     QHeaderView* titulos = lvw->header();
-    const auto clic = [&](int c) { QTest::mouseClick(titulos->viewport(), Qt::LeftButton, {}, {titulos->sectionViewportPosition(c) + 5, 5}); };
+    const auto clic = [&](int c) {
+        QTest::mouseClick(titulos->viewport(), Qt::LeftButton, {}, {titulos->sectionViewportPosition(c) + 5, 5});
+    };
     clic(0);
     EXPECT_EQ(orden(), "3241"_u);  // descending first: the order flips from ascending
     clic(0);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "widgets/ctlNumero.h"
 #include "core/numero.h"
@@ -22,18 +24,17 @@ TEST_P(NumeroRedondeo, DecimalDeQuinceCifras)
 {
     EXPECT_EQ(formato_decimal(GetParam().valor, GetParam().decimales), QString::fromLatin1(GetParam().texto));
 }
-INSTANTIATE_TEST_SUITE_P(Casos, NumeroRedondeo, testing::Values(
-    Redondeo{1.005, 2, "1.01"},                 // binary would give 1.00
-    Redondeo{1.005 * 100, 0, "101"},            // 100.49999999999999
-    Redondeo{2.675, 2, "2.68"},
-    Redondeo{-1.005, 2, "-1.01"},               // away from zero
-    Redondeo{-0.004, 2, "0.00"},                // no sign on what rounds to zero
-    Redondeo{0.5, 0, "1"}, Redondeo{1.5, 0, "2"}, Redondeo{2.5, 0, "3"},
-    Redondeo{999999.995, 2, "1000000.00"},
-    Redondeo{123456789012.345, 2, "123456789012.35"},
-    Redondeo{1e15, 2, "1000000000000000.00"},   // past the 15 digits the rest is zeros
-    Redondeo{0.1 + 0.2, 15, "0.300000000000000"},
-    Redondeo{1e-20, 2, "0.00"}, Redondeo{0, 4, "0.0000"}));
+INSTANTIATE_TEST_SUITE_P(
+    Casos, NumeroRedondeo,
+    testing::Values(Redondeo{1.005, 2, "1.01"},                                // binary would give 1.00
+                    Redondeo{1.005 * 100, 0, "101"},                           // 100.49999999999999
+                    Redondeo{2.675, 2, "2.68"}, Redondeo{-1.005, 2, "-1.01"},  // away from zero
+                    Redondeo{-0.004, 2, "0.00"},                               // no sign on what rounds to zero
+                    Redondeo{0.5, 0, "1"}, Redondeo{1.5, 0, "2"}, Redondeo{2.5, 0, "3"},
+                    Redondeo{999999.995, 2, "1000000.00"}, Redondeo{123456789012.345, 2, "123456789012.35"},
+                    Redondeo{1e15, 2, "1000000000000000.00"},  // past the 15 digits the rest is zeros
+                    Redondeo{0.1 + 0.2, 15, "0.300000000000000"}, Redondeo{1e-20, 2, "0.00"},
+                    Redondeo{0, 4, "0.0000"}));
 
 // Keys in, text out, then what the field shows when it is left, its value and its SQL form.
 struct Teclas
@@ -81,21 +82,23 @@ TEST_P(NumeroTeclas, EnElCampo)
 }
 constexpr auto AR = QLocale::Argentina;
 constexpr auto US = QLocale::UnitedStates;
-INSTANTIATE_TEST_SUITE_P(Casos, NumeroTeclas, testing::Values(
-    Teclas{AR, 2, false, "", "1234.5", "1234,5", "1.234,50", 1234.5, "1234.50"},
-    Teclas{US, 2, false, "", "1234.5", "1234.5", "1,234.50", 1234.5, "1234.50"},
-    Teclas{AR, 2, false, "", "1.2.3", "1,23", "1,23", 1.23, "1.23"},           // a second "." is dropped
-    Teclas{AR, 2, false, "", "1,5", "15", "15,00", 15, "15.00"},               // "," is no key
-    Teclas{AR, 0, false, "", "12.7", "127", "127", 127, "127"},                // no decimals: "." does nothing
-    Teclas{AR, 2, false, "", "-+a5", "5", "5,00", 5, "5.00"},
-    Teclas{AR, 2, true, "12", "-", "-12", "-12,00", -12, "-12.00"},
-    Teclas{AR, 2, true, "12", "--", "-12", "-12,00", -12, "-12.00"},           // the sign is only set once
-    Teclas{AR, 2, true, "-12", "+", "12", "12,00", 12, "12.00"},
-    Teclas{AR, 2, false, "", ".", ",", "0,00", 0, "0.00"},                     // a lone separator is zero
-    Teclas{AR, 2, false, "", "", "", "", 0, ""},                               // empty stays empty
-    Teclas{AR, 2, false, "", "1.005", "1,005", "1,01", 1.01, "1.01"},          // more decimals than shown
-    Teclas{AR, 4, false, "", "1234567.00005", "1234567,00005", "1.234.567,0001", 1234567.0001, "1234567.0001"},
-    Teclas{US, 2, true, "", "-1234567", "-1234567", "-1,234,567.00", -1234567, "-1234567.00"}));
+INSTANTIATE_TEST_SUITE_P(
+    Casos, NumeroTeclas,
+    testing::Values(Teclas{AR, 2, false, "", "1234.5", "1234,5", "1.234,50", 1234.5, "1234.50"},
+                    Teclas{US, 2, false, "", "1234.5", "1234.5", "1,234.50", 1234.5, "1234.50"},
+                    Teclas{AR, 2, false, "", "1.2.3", "1,23", "1,23", 1.23, "1.23"},  // a second "." is dropped
+                    Teclas{AR, 2, false, "", "1,5", "15", "15,00", 15, "15.00"},      // "," is no key
+                    Teclas{AR, 0, false, "", "12.7", "127", "127", 127, "127"},       // no decimals: "." does nothing
+                    Teclas{AR, 2, false, "", "-+a5", "5", "5,00", 5, "5.00"},
+                    Teclas{AR, 2, true, "12", "-", "-12", "-12,00", -12, "-12.00"},
+                    Teclas{AR, 2, true, "12", "--", "-12", "-12,00", -12, "-12.00"},  // the sign is only set once
+                    Teclas{AR, 2, true, "-12", "+", "12", "12,00", 12, "12.00"},
+                    Teclas{AR, 2, false, "", ".", ",", "0,00", 0, "0.00"},             // a lone separator is zero
+                    Teclas{AR, 2, false, "", "", "", "", 0, ""},                       // empty stays empty
+                    Teclas{AR, 2, false, "", "1.005", "1,005", "1,01", 1.01, "1.01"},  // more decimals than shown
+                    Teclas{AR, 4, false, "", "1234567.00005", "1234567,00005", "1.234.567,0001", 1234567.0001,
+                           "1234567.0001"},
+                    Teclas{US, 2, true, "", "-1234567", "-1234567", "-1,234,567.00", -1234567, "-1234567.00"}));
 
 TEST(NumeroCampo, EntrarQuitaMilesYSeleccionaTodo)
 {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "core/clsLocaleInfo.h"
 #include "core/funciones_sql.h"
@@ -11,9 +13,15 @@ namespace {
 
 TEST(Utiles, ComillasDeSQL)
 {
-    struct Caso { const char* texto; const char* sql; const char* vuelta; };
-    for (const Caso& c : {Caso{"", "", ""}, Caso{"O'Brien", "O''Brien", "O'Brien"}, Caso{"O''Brien", "O''Brien", "O'Brien"},
-                          Caso{"'''x'", "''x''", "'x'"}, Caso{"a'b'''c", "a''b''c", "a'b'c"}}) {
+    struct Caso
+    {
+        const char* texto;
+        const char* sql;
+        const char* vuelta;
+    };
+    for (const Caso& c :
+         {Caso{"", "", ""}, Caso{"O'Brien", "O''Brien", "O'Brien"}, Caso{"O''Brien", "O''Brien", "O'Brien"},
+          Caso{"'''x'", "''x''", "'x'"}, Caso{"a'b'''c", "a''b''c", "a'b'c"}}) {
         EXPECT_EQ(toSQL(QString::fromUtf8(c.texto)), QString::fromUtf8(c.sql));
         EXPECT_EQ(fromSQL(toSQL(QString::fromUtf8(c.texto))), QString::fromUtf8(c.vuelta));
         EXPECT_EQ(toSQL(toSQL(QString::fromUtf8(c.texto))), QString::fromUtf8(c.sql));
@@ -22,10 +30,15 @@ TEST(Utiles, ComillasDeSQL)
 
 TEST(Utiles, CUIT)
 {
-    struct Caso { const char* texto; bool vale; };
-    for (const Caso& c : {Caso{"20123456786", true}, Caso{"20-12345678-6", true}, Caso{"  20.12345678/6 ", true}, Caso{"20123456785", false},
-                          Caso{"21123456786", false}, Caso{"2012345678", false}, Caso{"201234567866", false}, Caso{"", false},
-                          Caso{"30712345671", true}, Caso{"20000000028", true}, Caso{"33693450239", true}}) {
+    struct Caso
+    {
+        const char* texto;
+        bool vale;
+    };
+    for (const Caso& c : {Caso{"20123456786", true}, Caso{"20-12345678-6", true}, Caso{"  20.12345678/6 ", true},
+                          Caso{"20123456785", false}, Caso{"21123456786", false}, Caso{"2012345678", false},
+                          Caso{"201234567866", false}, Caso{"", false}, Caso{"30712345671", true},
+                          Caso{"20000000028", true}, Caso{"33693450239", true}}) {
         QString t = QString::fromUtf8(c.texto);
         EXPECT_EQ(cuit_valido(t), c.vale) << c.texto;
         EXPECT_EQ(t, QString::fromUtf8(c.texto).trimmed());
@@ -64,7 +77,8 @@ TEST(Utiles, DigitoVerificadorYEspacios)
 TEST(Utiles, OrdenEspanol)
 {
     QStringList lista{"ÑANDÚ"_u, "ZETA"_u, "nube"_u, "ÁLVAREZ"_u, "alvarado"_u, "OESTE"_u, "Álvarez A"_u};
-    std::sort(lista.begin(), lista.end(), [](const QString& a, const QString& b) { return comparar_espanol(a, b) < 0; });
+    std::sort(lista.begin(), lista.end(),
+              [](const QString& a, const QString& b) { return comparar_espanol(a, b) < 0; });
     EXPECT_EQ(lista.join(u','), "alvarado,ÁLVAREZ,Álvarez A,nube,ÑANDÚ,OESTE,ZETA"_u);
 }
 
@@ -89,14 +103,20 @@ TEST_P(LetrasImporte, EnPalabras)
     EXPECT_EQ(nro_a_letras(GetParam().importe, 0, false), QString::fromUtf8(GetParam().texto));
     EXPECT_EQ(nro_a_letras(-GetParam().importe, 2, false), QString::fromUtf8(GetParam().texto).toLower());
 }
-INSTANTIATE_TEST_SUITE_P(Casos, LetrasImporte, testing::Values(
-    Letras{0, " con 00/100"}, Letras{1234.50, "un Mil doscientos treinta y cuatro  con 50/100"}, Letras{100, "cien  con 00/100"},
-    Letras{101, "ciento un  con 00/100"}, Letras{16, "dieciseis  con 00/100"}, Letras{21, "veintiun  con 00/100"},
-    Letras{30, "treinta  con 00/100"}, Letras{15, "quince  con 00/100"}, Letras{1000000, "un Millon  con 00/100"},
-    Letras{2000000.07, "dos Millones  con 07/100"}, Letras{1e9, "un Mil Millones  con 00/100"},
-    Letras{1e12, "un Billon  con 00/100"}, Letras{2e12, "dos Billones  con 00/100"},
-    Letras{999999999.99, "novecientos noventa y nueve Millones novecientos noventa y nueve Mil novecientos noventa y nueve  con 99/100"},
-    Letras{1001000000, "un Mil un Millon  con 00/100"}, Letras{1234.29, "un Mil doscientos treinta y cuatro  con 29/100"}));
+INSTANTIATE_TEST_SUITE_P(
+    Casos, LetrasImporte,
+    testing::Values(
+        Letras{0, " con 00/100"}, Letras{1234.50, "un Mil doscientos treinta y cuatro  con 50/100"},
+        Letras{100, "cien  con 00/100"}, Letras{101, "ciento un  con 00/100"}, Letras{16, "dieciseis  con 00/100"},
+        Letras{21, "veintiun  con 00/100"}, Letras{30, "treinta  con 00/100"}, Letras{15, "quince  con 00/100"},
+        Letras{1000000, "un Millon  con 00/100"}, Letras{2000000.07, "dos Millones  con 07/100"},
+        Letras{1e9, "un Mil Millones  con 00/100"}, Letras{1e12, "un Billon  con 00/100"},
+        Letras{2e12, "dos Billones  con 00/100"},
+        Letras{
+            999999999.99,
+            "novecientos noventa y nueve Millones novecientos noventa y nueve Mil novecientos noventa y nueve  con 99/100"},
+        Letras{1001000000, "un Mil un Millon  con 00/100"},
+        Letras{1234.29, "un Mil doscientos treinta y cuatro  con 29/100"}));
 
 TEST(LetrasModo, Modos)
 {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "agents/agente.h"
 #include "declarations/cabecera_dj.h"
@@ -20,7 +22,8 @@ TEST(DeclaracionesReglas, NumeroPosicionYVencimiento)
 {
     EXPECT_EQ(componer_numero("20123456786"_u, "2026"_u, 3, 2), "20123456786260302"_u);
     const NumeroDJ largo("20123456786260309"_u);
-    EXPECT_EQ(largo.prefijo() + u'/' + largo.mes() + u'/' + largo.anio() + u'/' + largo.secuencia(), "201234567862603/03/26/09"_u);
+    EXPECT_EQ(largo.prefijo() + u'/' + largo.mes() + u'/' + largo.anio() + u'/' + largo.secuencia(),
+              "201234567862603/03/26/09"_u);
     EXPECT_EQ(largo.siguiente(), "20123456786260310"_u);
     const NumeroDJ corto("0010120070301"_u);
     EXPECT_EQ(corto.mes() + u'/' + corto.anio(), "03/2007"_u);
@@ -29,8 +32,13 @@ TEST(DeclaracionesReglas, NumeroPosicionYVencimiento)
     EXPECT_TRUE(posicion_admitida(2006, 6));
     EXPECT_FALSE(posicion_admitida(2006, 5));
     EXPECT_FALSE(posicion_admitida(0, 12));
-    struct K { int anio, mes; const char* vence; };
-    for (const K& k : {K{2007, 12, "2008-01-15"}, K{2026, 7, "2026-08-17"}, K{2026, 10, "2026-11-16"}, K{2026, 9, "2026-10-15"}})
+    struct K
+    {
+        int anio, mes;
+        const char* vence;
+    };
+    for (const K& k :
+         {K{2007, 12, "2008-01-15"}, K{2026, 7, "2026-08-17"}, K{2026, 10, "2026-11-16"}, K{2026, 9, "2026-10-15"}})
         EXPECT_EQ(vencimiento_dj(k.anio, k.mes).toString(Qt::ISODate), QLatin1StringView(k.vence));
     EXPECT_EQ(componer_resolucion(12, 7), "0012/07"_u);
 }
@@ -38,7 +46,10 @@ TEST(DeclaracionesReglas, NumeroPosicionYVencimiento)
 TEST(DeclaracionesReglas, CabeceraEnSuOrden)
 {
     ControlesCabecera c;
-    const auto falla = [&] { const auto f = validar_cabecera(c); return f ? f->control : QString(); };
+    const auto falla = [&] {
+        const auto f = validar_cabecera(c);
+        return f ? f->control : QString();
+    };
     EXPECT_EQ(falla(), "txtRTN_nro"_u);
     c.agenteNro = "0"_u;
     EXPECT_EQ(falla(), "txtRTN_nro"_u);
@@ -59,10 +70,13 @@ TEST_F(Declaraciones, ListaConFiltrosYBorrado)
 {
     const QString dj = nueva_dj();
     nueva_dj(1);
-    cnRtn.ejecutar("insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SRTN_NRO, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO) values ('X', 9, 2025, 1, 0, 1)"_u);
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_CABDJ (SEDJ_NRO, SRTN_NRO, SEDJ_ANIO, SEDJ_MES, SEDJ_SECUENCIA, SEDJ_ESTADO) values ('X', 9, 2025, 1, 0, 1)"_u);
     const auto numeros = [](const FiltroDJ& f) {
         QStringList n;
-        leer_lista_dj(f, [&](std::span<const std::string_view> fila) { n << QString::fromStdString(std::string(fila[0]) + fila[6][0]); });
+        leer_lista_dj(f, [&](std::span<const std::string_view> fila) {
+            n << QString::fromStdString(std::string(fila[0]) + fila[6][0]);
+        });
         return n.join(u',');
     };
     EXPECT_EQ(numeros({}), "XS,20123456786261001N,20123456786261000N"_u);
@@ -96,7 +110,9 @@ TEST_F(Declaraciones, RectificarSigueDesdeElUltimoEslabon)
     nueva_dj(1);
     oyente.respuesta = false;
     EXPECT_EQ(dj_a_rectificar(dj, oyente), QString());
-    EXPECT_EQ(oyente.ultimo(), "La DJ  Original para la posicion 10/26 ya fue rectificada\nDesea emitir una nueva rectificativa de la DJ Rectificativa 01 ?"_u);
+    EXPECT_EQ(
+        oyente.ultimo(),
+        "La DJ  Original para la posicion 10/26 ya fue rectificada\nDesea emitir una nueva rectificativa de la DJ Rectificativa 01 ?"_u);
     nueva_dj(2);
     oyente.respuesta = true;
     EXPECT_EQ(dj_a_rectificar("20123456786261001"_u, oyente), "20123456786261002"_u);
@@ -107,10 +123,18 @@ TEST_F(Declaraciones, RectificarSigueDesdeElUltimoEslabon)
 // A DJ with a row of every kind.
 QString dj_completa(const QString& dj)
 {
-    cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_MD5='ABC', SEDJ_TOTAL_RETENIDO=10.5, SEDJ_OBSERVACIONES='obs' where SEDJ_NRO='%1'"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL) values (4, '%1', 3, '80', 20123456786, 0, 'P')"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEDO_ID, SEII_PARTIDA) values ('%1', 3, 2, 1, '77')"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 3, 1, 5707029, 10.5)"_u.arg(dj));
+    cnRtn.ejecutar(
+        "update SEL_TB_RTN_CABDJ set SEDJ_MD5='ABC', SEDJ_TOTAL_RETENIDO=10.5, SEDJ_OBSERVACIONES='obs' where SEDJ_NRO='%1'"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL) values (4, '%1', 3, '80', 20123456786, 0, 'P')"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEDO_ID, SEII_PARTIDA) values ('%1', 3, 2, 1, '77')"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 3, 1, 5707029, 10.5)"_u
+            .arg(dj));
     cnRtn.ejecutar("insert into SEL_TB_RTN_INS_VC values ('%1', 3, 1, 5, 1.5, null, 'PES', 1, 1.5)"_u.arg(dj));
     cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 3, 1, 4, 5707029001, 'r')"_u.arg(dj));
     return dj;
@@ -123,12 +147,18 @@ TEST_F(Declaraciones, CopiaUnaDJConSusNumeros)
     dj_completa(dj);
     const QString nueva = copiar_dj(dj, oyente);
     EXPECT_EQ(nueva, "20123456786261001"_u);
-    EXPECT_EQ(dato("select SEDJ_SECUENCIA || '|' || SEDJ_TOTAL_RETENIDO || '|' || SEDJ_OBSERVACIONES || '|' || coalesce(SEDJ_MD5,'-') from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_u.arg(nueva)),
-              "1|10.5|obs|-"_u);
+    EXPECT_EQ(
+        dato(
+            "select SEDJ_SECUENCIA || '|' || SEDJ_TOTAL_RETENIDO || '|' || SEDJ_OBSERVACIONES || '|' || coalesce(SEDJ_MD5,'-') from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_u
+                .arg(nueva)),
+        "1|10.5|obs|-"_u);
     for (const char* t : {"DETDJ", "INS_PARTES", "INS_OPERACIONES", "INS_VC", "INS_ROLES"}) {
         const QString de = filas("select * from SEL_TB_RTN_%1 where SEDJ_NRO='%2'"_u.arg(QLatin1StringView(t), dj));
         EXPECT_FALSE(de.isEmpty());
-        EXPECT_EQ(filas("select * from SEL_TB_RTN_%1 where SEDJ_NRO='%2'"_u.arg(QLatin1StringView(t), nueva)).replace(nueva, dj), de) << t;
+        EXPECT_EQ(filas("select * from SEL_TB_RTN_%1 where SEDJ_NRO='%2'"_u.arg(QLatin1StringView(t), nueva))
+                      .replace(nueva, dj),
+                  de)
+            << t;
     }
     // The link of the property to its operation is no parameter of the insert, and is lost.
     EXPECT_EQ(dato("select SEDO_ID from SEL_TB_RTN_INS_INMUEBLES where SEDJ_NRO='%1'"_u.arg(nueva)), "null"_u);
@@ -140,7 +170,8 @@ TEST_F(Declaraciones, UnaCopiaQueFallaDejaLoCopiado)
     const QString dj = nueva_dj();
     nueva_escritura(dj, 3, 7, 8, 9);
     dj_completa(dj);
-    cnRtn.ejecutar("create trigger no before insert on SEL_TB_RTN_INS_OPERACIONES begin select raise(abort, 'no entra'); end"_u);
+    cnRtn.ejecutar(
+        "create trigger no before insert on SEL_TB_RTN_INS_OPERACIONES begin select raise(abort, 'no entra'); end"_u);
     EXPECT_EQ(copiar_dj(dj, oyente), QString());
     EXPECT_EQ(oyente.ultimo(), "no entra"_u);
     EXPECT_EQ(oyente.titulos.last(), "Nueva operación"_u);
@@ -164,7 +195,8 @@ TEST_F(Declaraciones, AltasConSuProximoNumero)
     ASSERT_TRUE(alta_detalle_dj(e, true, oyente));
     EXPECT_EQ(e.id, 2);
     EXPECT_FALSE(alta_detalle_dj(e, false, oyente));
-    EXPECT_EQ(oyente.ultimo(), "Ya existe otra escritura con el mismo numero y/o el folio ya esta incluido en algun renglon de la DJ"_u);
+    EXPECT_EQ(oyente.ultimo(),
+              "Ya existe otra escritura con el mismo numero y/o el folio ya esta incluido en algun renglon de la DJ"_u);
     CabeceraDJ c;
     c.nro = dj;
     c.secuencia = 2;
@@ -181,13 +213,22 @@ TEST_F(Declaraciones, AltasConSuProximoNumero)
     p.dj = dj;
     p.renglon = 1;
     ASSERT_TRUE(alta_parte(p, true, oyente));
-    EXPECT_EQ(filas("select SPIN_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_PORCEXENTO, GTSO_ID from SEL_TB_RTN_INS_PARTES"_u), "1|null|null|null|null"_u);
+    EXPECT_EQ(filas("select SPIN_ID, SPIN_NRODOC, SPIN_CUIT, SPIN_PORCEXENTO, GTSO_ID from SEL_TB_RTN_INS_PARTES"_u),
+              "1|null|null|null|null"_u);
 }
 
 TEST_F(Declaraciones, RenglonesYLoQueLesFalta)
 {
     const QString dj = nueva_dj();
-    struct K { int id; const char* estado; const char* alcance; const char* extra; const char* texto; bool falta; };
+    struct K
+    {
+        int id;
+        const char* estado;
+        const char* alcance;
+        const char* extra;
+        const char* texto;
+        bool falta;
+    };
     const QList<K> casos{
         {1, "P", "S", "", "(falta completar: operacion)", true},
         {2, "N", "S", "", "Anulado/NO PASO", false},
@@ -199,13 +240,22 @@ TEST_F(Declaraciones, RenglonesYLoQueLesFalta)
     for (const K& k : casos) {
         nueva_escritura(dj, k.id, k.id, k.id, 1, k.estado, k.alcance);
         if (*k.extra)
-            cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set %1 where SEDD_ID=%2"_u.arg(QString::fromUtf8(k.extra)).arg(k.id));
+            cnRtn.ejecutar(
+                "update SEL_TB_RTN_DETDJ set %1 where SEDD_ID=%2"_u.arg(QString::fromUtf8(k.extra)).arg(k.id));
     }
     nueva_escritura(dj, 7, 7, 7, 1);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=1234.5 where SEDD_ID=7"_u);
     for (const int op : {1, 2})
-        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 7, %2, %3)"_u.arg(dj).arg(op).arg(op == 1 ? 5707001 : 5707029));
-    struct Leida { QStringList celdas; bool incompleto; };
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 7, %2, %3)"_u
+                .arg(dj)
+                .arg(op)
+                .arg(op == 1 ? 5707001 : 5707029));
+    struct Leida
+    {
+        QStringList celdas;
+        bool incompleto;
+    };
     QList<Leida> lista;
     leer_renglones(dj, [&](const FilaRenglon& f) {
         QStringList celdas;
@@ -236,15 +286,23 @@ TEST_F(Declaraciones, BorrarUnaOperacionRestaElTotalMostrado)
 {
     const QString dj = nueva_dj();
     nueva_escritura(dj, 1, 1, 1, 1);
-    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=100; update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=100"_u);
+    cnRtn.ejecutar(
+        "update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=100; update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=100"_u);
     for (const int op : {1, 2})
-        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 1, %2, 5707029, %3)"_u.arg(dj).arg(op).arg(op == 1 ? 60 : 40));
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 1, %2, 5707029, %3)"_u
+                .arg(dj)
+                .arg(op)
+                .arg(op == 1 ? 60 : 40));
     const RenglonDJ r{dj, "1"_u};
     QStringList filas_op;
     EXPECT_DOUBLE_EQ(leer_operaciones(r, [&](const QStringList& f) { filas_op << f.join(u'|'); }), 100);
     EXPECT_EQ(filas_op, (QStringList{"1|29|PODER GENERAL||60,00"_u, "2|29|PODER GENERAL||40,00"_u}));
     borrar_operacion(r, "1"_u, "100.00"_u, oyente);
-    EXPECT_EQ(filas("select SEDD_TOTAL_IMPUESTO, SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_DETDJ D join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=D.SEDJ_NRO"_u), "0.0|0.0"_u);
+    EXPECT_EQ(
+        filas(
+            "select SEDD_TOTAL_IMPUESTO, SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_DETDJ D join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=D.SEDJ_NRO"_u),
+        "0.0|0.0"_u);
     EXPECT_EQ(cnRtn.transacciones(), 0);
     borrar_operacion(r, "9"_u, "40.00"_u, oyente);
     EXPECT_EQ(oyente.ultimo(), "No se pudo borrar la operación"_u);
@@ -259,7 +317,10 @@ TEST_F(Declaraciones, InmuebleSeGuardaComoEsta)
     Inmueble i;
     i.dj = dj;
     i.renglon = 1;
-    const auto falla = [&] { const auto f = validar_inmueble(i); return f ? f->control : QString(); };
+    const auto falla = [&] {
+        const auto f = validar_inmueble(i);
+        return f ? f->control : QString();
+    };
     EXPECT_EQ(falla(), "txtINM_partida"_u);
     i.partida = " 12 "_u;
     EXPECT_EQ(falla(), "cboU_caracter"_u);
@@ -282,25 +343,50 @@ TEST_F(Declaraciones, InmuebleSeGuardaComoEsta)
 
 TEST(Agente, ReglasEnSuOrden)
 {
-    struct K { void (*poner)(Agente&); const char* control; const char* mensaje; };
+    struct K
+    {
+        void (*poner)(Agente&);
+        const char* control;
+        const char* mensaje;
+    };
     Agente a;
-    for (const K& k : {
-             K{[](Agente&) {}, "nroRegNotarial", "Ingrese el Nº de Registro Notarial del titular"},
-             K{[](Agente& x) { x.nroRegNotarial = 1; }, "txtTitular", "Ingrese el nombre del titular"},
-             K{[](Agente& x) { x.titular = "N"_u; }, "txtCUIT", "Ingrese el CUIT del titular"},
-             K{[](Agente& x) { x.cuit = "20123456780"_u; }, "txtCUIT", "El CUIT del titular no es válido"},
-             K{[](Agente& x) { x.cuit = "20-12345678-6"_u; }, "txtDomicilio", "Ingrese el domicilio del titular"},
-             K{[](Agente& x) { x.domicilio = "D"_u; }, "cboLocalidad", "Ingrese la localidad del titular"},
-             K{[](Agente& x) { x.localidad = 1; }, "txtCodPostal", "Ingrese el codigo postal del titular"},
-             K{[](Agente& x) { x.codPostal = "1"_u; x.adscripto2 = "A"_u; }, "txtAdscripto1_cuit", "Ingrese el cuit del primer adscripto"},
-             K{[](Agente& x) { x.adscripto1.clear(); x.adscripto1Cuit = "1"_u; }, "txtAdscripto1_nombre", "Ingrese el nombre del primer adscripto"},
-             K{[](Agente& x) { x.adscripto1 = "A"_u; }, "txtAdscripto1_cuit", "El CUIT del primer adscripto no es válido"},
-             K{[](Agente& x) { x.adscripto1Cuit = "20123456786"_u; x.adscripto2 = "B"_u; }, "txtAdscripto2_cuit", "Ingrese el cuit del segundo adscripto"},
-             K{[](Agente& x) { x.adscripto2.clear(); x.adscripto2Cuit = "1"_u; }, "txtAdscripto2_nombre", "Ingrese el nombre del segundo adscripto"},
-             K{[](Agente& x) { x.adscripto2 = "B"_u; }, "txtAdscripto2_cuit", "El CUIT del segundo adscripto no es válido"},
-             K{[](Agente& x) { x.adscripto2Cuit = "20123456786"_u; }, "txtAdscripto1_cuit", "El CUIT del primer adscripto no puede ser el mismo que el CUIT del titular"},
-             K{[](Agente& x) { x.adscripto1Cuit = "27222333445"_u; }, "txtAdscripto2_cuit", "El CUIT del segundo adscripto no puede ser el mismo que el CUIT del titular"},
-             K{[](Agente& x) { x.adscripto2Cuit = "27-22233344-5"_u; }, "txtAdscripto1_cuit", "Los CUITs de los adscriptos no pueden ser iguales"}}) {
+    for (const K& k :
+         {K{[](Agente&) {}, "nroRegNotarial", "Ingrese el Nº de Registro Notarial del titular"},
+          K{[](Agente& x) { x.nroRegNotarial = 1; }, "txtTitular", "Ingrese el nombre del titular"},
+          K{[](Agente& x) { x.titular = "N"_u; }, "txtCUIT", "Ingrese el CUIT del titular"},
+          K{[](Agente& x) { x.cuit = "20123456780"_u; }, "txtCUIT", "El CUIT del titular no es válido"},
+          K{[](Agente& x) { x.cuit = "20-12345678-6"_u; }, "txtDomicilio", "Ingrese el domicilio del titular"},
+          K{[](Agente& x) { x.domicilio = "D"_u; }, "cboLocalidad", "Ingrese la localidad del titular"},
+          K{[](Agente& x) { x.localidad = 1; }, "txtCodPostal", "Ingrese el codigo postal del titular"},
+          K{[](Agente& x) {
+                x.codPostal = "1"_u;
+                x.adscripto2 = "A"_u;
+            },
+            "txtAdscripto1_cuit", "Ingrese el cuit del primer adscripto"},
+          K{[](Agente& x) {
+                x.adscripto1.clear();
+                x.adscripto1Cuit = "1"_u;
+            },
+            "txtAdscripto1_nombre", "Ingrese el nombre del primer adscripto"},
+          K{[](Agente& x) { x.adscripto1 = "A"_u; }, "txtAdscripto1_cuit", "El CUIT del primer adscripto no es válido"},
+          K{[](Agente& x) {
+                x.adscripto1Cuit = "20123456786"_u;
+                x.adscripto2 = "B"_u;
+            },
+            "txtAdscripto2_cuit", "Ingrese el cuit del segundo adscripto"},
+          K{[](Agente& x) {
+                x.adscripto2.clear();
+                x.adscripto2Cuit = "1"_u;
+            },
+            "txtAdscripto2_nombre", "Ingrese el nombre del segundo adscripto"},
+          K{[](Agente& x) { x.adscripto2 = "B"_u; }, "txtAdscripto2_cuit",
+            "El CUIT del segundo adscripto no es válido"},
+          K{[](Agente& x) { x.adscripto2Cuit = "20123456786"_u; }, "txtAdscripto1_cuit",
+            "El CUIT del primer adscripto no puede ser el mismo que el CUIT del titular"},
+          K{[](Agente& x) { x.adscripto1Cuit = "27222333445"_u; }, "txtAdscripto2_cuit",
+            "El CUIT del segundo adscripto no puede ser el mismo que el CUIT del titular"},
+          K{[](Agente& x) { x.adscripto2Cuit = "27-22233344-5"_u; }, "txtAdscripto1_cuit",
+            "Los CUITs de los adscriptos no pueden ser iguales"}}) {
         k.poner(a);
         const auto f = validar_agente(a);
         ASSERT_TRUE(f) << k.mensaje;
@@ -317,8 +403,10 @@ TEST_F(AgenteAlmacen, SeGuardaSeLeeYSeBorra)
 {
     Agente a{7, "O'BRIEN"_u, "20-12345678-6"_u, "CALLE"_u, 5, "9500"_u, {}, {}, "PEÑA"_u, "27222333445"_u, {}, {}};
     ASSERT_TRUE(agregar_agente(a, "t"_u, oyente));
-    EXPECT_EQ(filas("select SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, SRTN_EMAIL, SRTN_ADSCRIPTO2_CUIT from SEL_TB_RTN_PADRON"_u),
-              "7|7|O''BRIEN|20123456786|null|null"_u);
+    EXPECT_EQ(
+        filas(
+            "select SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, SRTN_EMAIL, SRTN_ADSCRIPTO2_CUIT from SEL_TB_RTN_PADRON"_u),
+        "7|7|O''BRIEN|20123456786|null|null"_u);
     EXPECT_EQ(cargar_agente(7)->titular, "O'BRIEN"_u);
     EXPECT_FALSE(agregar_agente(a, "t"_u, oyente));
     a.nroRegNotarial = 8;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The packer against an independent reader of its archives, and the emission's archive.
 
 #include "apoyo/apoyo.h"
@@ -33,7 +34,10 @@ protected:
             *salida = QString::fromUtf8(p.readAllStandardOutput());
         return p.exitCode();
     }
-    static int rar(const QStringList& argumentos, QString* salida = nullptr) { return correr(QStringLiteral(RTN_RAR), argumentos, salida); }
+    static int rar(const QStringList& argumentos, QString* salida = nullptr)
+    {
+        return correr(QStringLiteral(RTN_RAR), argumentos, salida);
+    }
     static QByteArray leer(const QString& ruta)
     {
         QFile f(ruta);
@@ -53,7 +57,8 @@ protected:
 TEST_F(Empaquetado, OtroProgramaExtraeLoMismo)
 {
     const QString a = carpeta.path() + "/con 'comillas' y $ñ.rar"_u;
-    const QList<std::pair<QString, QByteArray>> ficheros{{"vacío.pdf"_u, {}}, {"uno.txt"_u, "x"}, {"á ñ $HOME 'q'.pdf"_u, QByteArray(3000000, 'z')}};
+    const QList<std::pair<QString, QByteArray>> ficheros{
+        {"vacío.pdf"_u, {}}, {"uno.txt"_u, "x"}, {"á ñ $HOME 'q'.pdf"_u, QByteArray(3000000, 'z')}};
     for (const auto& [nombre, datos] : ficheros)
         EXPECT_EQ(rar({"a"_u, "-y"_u, a, archivo(nombre, datos)}), 0);
     EXPECT_EQ(rar({"a"_u, "-y"_u, a, archivo("uno.txt"_u, "otro")}), 0);  // takes the earlier one's place
@@ -169,7 +174,8 @@ TEST_F(EmpaquetadoDJ, ConTestimoniosYSinEllos)
     archivo("mi 'base' $x ñ\"q/data/%1/testimonios/viejo.pdf"_u.arg(dj), "viejo");
     EXPECT_TRUE(emitir());
     const QString sale = extraer(final_);
-    EXPECT_EQ(QDir(sale).entryList(QDir::Files), (QStringList{dj + "-0001.pdf"_u, dj + "-0002.doc"_u, "SRTN"_u + dj + ".txt"_u}));
+    EXPECT_EQ(QDir(sale).entryList(QDir::Files),
+              (QStringList{dj + "-0001.pdf"_u, dj + "-0002.doc"_u, "SRTN"_u + dj + ".txt"_u}));
     EXPECT_EQ(leer(sale + u'/' + dj + "-0001.pdf"_u), "uno");
     EXPECT_EQ(QDir(carpeta_dj(dj) + "/testimonios"_u).entryList(QDir::Files).size(), 2);  // nothing of before remains
     EXPECT_TRUE(oyente.textos.isEmpty());
@@ -181,7 +187,8 @@ TEST_F(EmpaquetadoDJ, LeerDJDesdeArchivoCarpetaYRar)
     const QString codigo = dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u);
     for (const QString& entrada : {final_, carpeta_dj(dj), carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u}) {
         QString salida;
-        EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {entrada, "--codigo"_u, codigo}, &salida), 0) << salida.toStdString();
+        EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {entrada, "--codigo"_u, codigo}, &salida), 0)
+            << salida.toStdString();
         EXPECT_TRUE(salida.contains("Código de integridad: "_u + codigo) && salida.contains("Todo está bien."_u));
     }
     QString salida;
@@ -190,7 +197,8 @@ TEST_F(EmpaquetadoDJ, LeerDJDesdeArchivoCarpetaYRar)
     EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--campos"_u}, &salida), 0);
     EXPECT_TRUE(salida.contains("SEDJ_TITULAR_NOMBRE"_u));
     EXPECT_EQ(correr(QStringLiteral(RTN_LEER_DJ), {final_, "--json"_u}, &salida), 0);
-    for (const char* dice : {"\"SEDJ_TITULAR_NOMBRE\": \"PÉREZ", "\"cuit\": \"20123456786\"", "\"estado\": \"0\"", "\"secuencia\": \"0", "\"totalRetenido\": 0", "\"agente\": \""})
+    for (const char* dice : {"\"SEDJ_TITULAR_NOMBRE\": \"PÉREZ", "\"cuit\": \"20123456786\"", "\"estado\": \"0\"",
+                             "\"secuencia\": \"0", "\"totalRetenido\": 0", "\"agente\": \""})
         EXPECT_TRUE(salida.contains(QString::fromUtf8(dice))) << dice;
     for (const QString& mala : {carpeta.path(), "/no/existe"_u, QStringLiteral(RTN_LEER_DJ), base + "/rar"_u})
         EXPECT_NE(correr(QStringLiteral(RTN_LEER_DJ), {mala}), 0);
@@ -204,7 +212,8 @@ TEST_F(EmpaquetadoDJ, Trescientos)
     const QString sale = extraer(final_);
     EXPECT_EQ(QDir(sale).entryList(QDir::Files).size(), 301);
     for (const int i : {1, 26, 150, 300})
-        EXPECT_EQ(leer(sale + "/%1-%2.pdf"_u.arg(dj).arg(i, 4, 10, QLatin1Char('0'))), QByteArray(i * 7, char('a' + i % 26)));
+        EXPECT_EQ(leer(sale + "/%1-%2.pdf"_u.arg(dj).arg(i, 4, 10, QLatin1Char('0'))),
+                  QByteArray(i * 7, char('a' + i % 26)));
 }
 
 TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
@@ -212,7 +221,9 @@ TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
     const QString cancelada = "Error: Se canceló la emisión de la declaracion jurada"_u;
     escritura(7, "/no/d'existe.pdf"_u);
     EXPECT_FALSE(emitir());
-    EXPECT_EQ(oyente.ultimo(), "Error en la escritura Nº 7,  no existe el archivo del testimonio \n/no/d'existe.pdf\n\nComplete la declaracion jurada e intente mas tarde."_u);
+    EXPECT_EQ(
+        oyente.ultimo(),
+        "Error en la escritura Nº 7,  no existe el archivo del testimonio \n/no/d'existe.pdf\n\nComplete la declaracion jurada e intente mas tarde."_u);
     EXPECT_EQ(oyente.titulos.last(), "Emitir DJ "_u + dj);
     EXPECT_FALSE(QFile::exists(base + "/dj.rar"_u));
     EXPECT_TRUE(QFile::exists(base + "/comprimir.bat"_u));

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "filing/verificacion.h"
 
@@ -26,10 +28,16 @@ TEST_F(Verificacion, TresRevisionesEnSuOrden)
     nueva_escritura(dj, 5, 8, 5, 1, "E");
     EXPECT_EQ(dice(), "La declaración jurada está incompleta.\nFaltan declarar las escrituras Nº: 7, 8"_u);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_ESCRITURA_NRO=7 where SEDD_ID=4"_u);
-    EXPECT_EQ(dice(), "La declaración jurada está incompleta.\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación."_u);
+    EXPECT_EQ(
+        dice(),
+        "La declaración jurada está incompleta.\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación."_u);
 
     const auto operacion = [&](int renglon, int sub) {
-        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', %2, 1, %3)"_u.arg(dj).arg(renglon).arg(sub));
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', %2, 1, %3)"_u
+                .arg(dj)
+                .arg(renglon)
+                .arg(sub));
     };
     operacion(4, 5707001);
     EXPECT_EQ(dice(), QString());  // the first deed that passed is never looked at
@@ -40,11 +48,14 @@ TEST_F(Verificacion, TresRevisionesEnSuOrden)
     operacion(7, 5707001);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='/no/existe.pdf' where SEDD_ID=7"_u);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SNAD_ID=3 where SEDD_ID=8"_u);
-    EXPECT_EQ(dice(), "La declaración jurada está incompleta. Faltan testimonios\n\nEscrituras que no tienen archivo: 8, 10\n\nEscrituras cuyo archivo no existe: 9"_u);
+    EXPECT_EQ(
+        dice(),
+        "La declaración jurada está incompleta. Faltan testimonios\n\nEscrituras que no tienen archivo: 8, 10\n\nEscrituras cuyo archivo no existe: 9"_u);
     const QString archivo = carpeta.path() + "/d'angelo.pdf"_u;
     QFile f(archivo);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='%1'"_u.arg(QString(archivo).replace("'"_u, "''''"_u)));
+    cnRtn.ejecutar(
+        "update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='%1'"_u.arg(QString(archivo).replace("'"_u, "''''"_u)));
     EXPECT_EQ(dice(), QString());
 }
 

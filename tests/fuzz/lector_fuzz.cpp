@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever the bytes are, the reader tells where something is wrong and never fails itself.
 
 #include "filing/lector_dj.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Forms of the register, of real estate, of deeds that are not reached, and the finer points of the
 // operation's screen.
 
@@ -49,15 +50,19 @@ TEST_F(PantallasFormularios, RegistroDeAgentes)
     escribir(f, "txtTitular"_u, "d'angelo ñandú"_u);
     escribir(f, "txtEmail"_u, "o'x@y"_u);
     EXPECT_EQ(texto(f, "txtTitular"_u) + texto(f, "txtEmail"_u), "D'ANGELO ÑANDÚox@y"_u);
-    Cajas::durante({{"Ingrese el domicilio del titular"_u, "Modificar agente de retención"_u, true, QMessageBox::Information, true}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
+    Cajas::durante({{"Ingrese el domicilio del titular"_u, "Modificar agente de retención"_u, true,
+                     QMessageBox::Information, true}},
+                   [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
     EXPECT_EQ(f->focusWidget(), control(f, "txtDomicilio"_u));
     escribir(f, "txtDomicilio"_u, "calle 1"_u);
     escribir(f, "txtCodPostal"_u, "9500"_u);
     escribir(f, "nroRegNotarial"_u, "777"_u);  // the number of a stored agent stays
     pulsar(f, "tlb"_u, "aceptar"_u);
-    EXPECT_EQ(filas("select SRTN_NRO, SRTN_TITULAR_NOMBRE, SRTN_DOMICILIO, SRTN_EMAIL from SEL_TB_RTN_PADRON"_u), "101|D'ANGELO ÑANDÚ|CALLE 1|ox@y"_u);
+    EXPECT_EQ(filas("select SRTN_NRO, SRTN_TITULAR_NOMBRE, SRTN_DOMICILIO, SRTN_EMAIL from SEL_TB_RTN_PADRON"_u),
+              "101|D'ANGELO ÑANDÚ|CALLE 1|ox@y"_u);
     EXPECT_EQ(en_grilla(lista, "flxRTN"_u, 0, 1), "D'ANGELO ÑANDÚ"_u);
-    const CajaEsperada pregunta{"¿Está seguro que desea eliminar el agente de retención seleccionado?"_u, "Borrar agente de retención"_u, false, QMessageBox::Question, true};
+    const CajaEsperada pregunta{"¿Está seguro que desea eliminar el agente de retención seleccionado?"_u,
+                                "Borrar agente de retención"_u, false, QMessageBox::Question, true};
     Cajas::durante({pregunta}, [&] { pulsar(lista, "tlbRTN"_u, "borrar"_u); });
     EXPECT_EQ(manejo::filas(lista, "flxRTN"_u), 1);
     CajaEsperada si = pregunta;
@@ -74,7 +79,8 @@ TEST_F(PantallasFormularios, InmuebleDeOtraJurisdiccion)
     pulsar(e, "tlbInm"_u, "agregar"_u);
     auto* f = formulario("frmDJ_editar_inmueble");
     escribir(f, "txtINM_partida"_u, "1a2"_u);
-    Cajas::durante({{"Indique la ubicación del inmueble"_u, "Alta de inmueble"_u}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
+    Cajas::durante({{"Indique la ubicación del inmueble"_u, "Alta de inmueble"_u}},
+                   [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
     elegir(f, "cboProv"_u, "CHACO"_u);
     elegir(f, "cboU_caracter"_u, "RURAL"_u);
     EXPECT_EQ(texto(f, "cboProv"_u), "MARVEN"_u);  // whatever it held
@@ -87,14 +93,18 @@ TEST_F(PantallasFormularios, InmuebleDeOtraJurisdiccion)
     Cajas::durante({{"Indique la valuación fiscal del inmueble"_u}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
     escribir(f, "nroValFiscal"_u, "1234.5"_u);
     pulsar(f, "tlb"_u, "aceptar"_u);
-    EXPECT_EQ(filas("select SEII_PARTIDA, SEII_VAL_FISCAL, SEII_UBIC_CIUDAD, SEII_UBIC_PROVINCIA, GTUB_ID, SEII_UBIC_LOTE from SEL_TB_RTN_INS_INMUEBLES"_u), "12|1234.5|MENDOZA|MENDOZA|4|null"_u);
+    EXPECT_EQ(
+        filas(
+            "select SEII_PARTIDA, SEII_VAL_FISCAL, SEII_UBIC_CIUDAD, SEII_UBIC_PROVINCIA, GTUB_ID, SEII_UBIC_LOTE from SEL_TB_RTN_INS_INMUEBLES"_u),
+        "12|1234.5|MENDOZA|MENDOZA|4|null"_u);
     pulsar(e, "tlbInm"_u, "editar"_u);
     f = formulario("frmDJ_editar_inmueble");
     EXPECT_EQ(texto(f, "cboLoc"_u) + texto(f, "nroValFiscal"_u), "MENDOZA1.234,50"_u);
     escribir(f, "txtU_Lote"_u, "L1"_u);
     pulsar(f, "tlb"_u, "cancelar"_u);
     EXPECT_EQ(dato("select SEII_UBIC_LOTE from SEL_TB_RTN_INS_INMUEBLES"_u), "null"_u);
-    Cajas::durante({{"¿Esta seguro de borrar el inmueble seleccionado?"_u, "Borrar inmueble"_u}}, [&] { pulsar(e, "tlbInm"_u, "quitar"_u); });
+    Cajas::durante({{"¿Esta seguro de borrar el inmueble seleccionado?"_u, "Borrar inmueble"_u}},
+                   [&] { pulsar(e, "tlbInm"_u, "quitar"_u); });
     EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_INS_INMUEBLES"_u), "0"_u);
 }
 
@@ -109,10 +119,12 @@ TEST_F(PantallasFormularios, EscrituraNoAlcanzadaPorOtroMotivo)
     EXPECT_FALSE(control(f, "txtNoAlcanzado_Otro"_u)->isEnabled());
     elegir(f, "cboDesc_NoAlcanzado"_u, "Otro"_u);
     EXPECT_EQ(f->focusWidget(), control(f, "txtNoAlcanzado_Otro"_u));
-    Cajas::durante({{"Ingrese la descripcion de la operación No Alcanzada"_u}}, [&] { pulsar(f, "tlbDetalle"_u, "aceptar"_u); });
+    Cajas::durante({{"Ingrese la descripcion de la operación No Alcanzada"_u}},
+                   [&] { pulsar(f, "tlbDetalle"_u, "aceptar"_u); });
     escribir(f, "txtNoAlcanzado_Otro"_u, "Un motivo"_u);
     pulsar(f, "tlbDetalle"_u, "aceptar"_u);
-    EXPECT_EQ(filas("select SEDD_ESCRITURA_NRO, SEDD_ALCANZADO, SNAD_ID, SNAD_DESC_OTRO from SEL_TB_RTN_DETDJ"_u), "5|N|9|Un motivo"_u);
+    EXPECT_EQ(filas("select SEDD_ESCRITURA_NRO, SEDD_ALCANZADO, SNAD_ID, SNAD_DESC_OTRO from SEL_TB_RTN_DETDJ"_u),
+              "5|N|9|Un motivo"_u);
     EXPECT_FALSE(control(f, "fraOperaciones"_u)->isEnabled());
     pulsar(f, "tlbDetalle"_u, "editar"_u);
     escribir(f, "txtObs"_u, "no se guarda"_u);
@@ -150,7 +162,10 @@ TEST_F(PantallasFormularios, ObligacionAccesoriaYPoliza)
     clic(f, "chkObligAccesoria"_u);
     elegir(f, "cboObligAccesoria_modo"_u, "Seguro de Caución"_u);
     pulsar(f, "tlb"_u, "guardar_det"_u);
-    EXPECT_EQ(filas("select SINS_OBLIG_ACCESORIA_FOP, SINS_OBLIG_ACCESORIA_VALOR, SINS_OBLIG_ACCESORIA_MODO, SINS_OBLIG_ACCESORIA_POLIZA from SEL_TB_RTN_INS_OPERACIONES"_u), "P|10.0|1|P-1"_u);
+    EXPECT_EQ(
+        filas(
+            "select SINS_OBLIG_ACCESORIA_FOP, SINS_OBLIG_ACCESORIA_VALOR, SINS_OBLIG_ACCESORIA_MODO, SINS_OBLIG_ACCESORIA_POLIZA from SEL_TB_RTN_INS_OPERACIONES"_u),
+        "P|10.0|1|P-1"_u);
     clic(f, "cmdDetallesSSUB"_u);
     auto* detalle = formulario("frmDetalleSSUB");
     EXPECT_EQ(texto(detalle, "txtCodS"_u) + texto(detalle, "txtDescripcion"_u), "11CONSTITUCION DE HIPOTECA"_u);
@@ -167,7 +182,11 @@ TEST_F(PantallasFormularios, PrestamoYValoresBorrados)
     const QString dj = nueva_dj();
     nueva_escritura(dj, 1, 1, 1, 1);
     for (const int id : {1, 2})
-        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL) values ('%1', 1, %2, '5', %3)"_u.arg(dj).arg(id).arg(id * 1000));
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL) values ('%1', 1, %2, '5', %3)"_u
+                .arg(dj)
+                .arg(id)
+                .arg(id * 1000));
     QWidget* f = abrirOperacion("6");
     valor(f, "5000");
     Cajas::durante({{"Ingrese la valuación fiscal"_u}}, [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
@@ -190,7 +209,9 @@ TEST_F(PantallasFormularios, PrestamoYValoresBorrados)
     escribir(f, "nroValorContractual"_u, "3000"_u);
     pulsar(f, "tlbBI"_u, "cancelar"_u);
     EXPECT_EQ(dato("select SVCI_VALOR_CONTRACTUAL from SEL_TB_RTN_INS_VC"_u), "5000.0"_u);
-    Cajas::durante({{"Esta seguro que desea borrar el valor contractual seleccionado?"_u, "Borrar valor contractual"_u}}, [&] { pulsar(f, "tlbBI"_u, "borrar"_u); });
+    Cajas::durante(
+        {{"Esta seguro que desea borrar el valor contractual seleccionado?"_u, "Borrar valor contractual"_u}},
+        [&] { pulsar(f, "tlbBI"_u, "borrar"_u); });
     EXPECT_EQ(texto(f, "nroTotalVC"_u), "0,00"_u);
     EXPECT_FALSE(habilitado(f, "tlbBI"_u, "borrar"_u));
 }

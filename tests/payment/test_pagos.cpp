@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "core/modComunes.h"
 #include "core/reloj.h"
@@ -36,19 +38,44 @@ protected:
 TEST_F(Pagos, RevisionesDeLaBoletaEnSuOrden)
 {
     fijar_hoy(QDate(2026, 4, 15));
-    struct K { void (*cambiar)(ControlesBoleta&); const char* control; const char* mensaje; };
+    struct K
+    {
+        void (*cambiar)(ControlesBoleta&);
+        const char* control;
+        const char* mensaje;
+    };
     using C = ControlesBoleta;
-    for (const K& k : {
-             K{[](C&) {}, "", ""},
-             K{[](C& c) { c.efectivo.setValue(0); }, "nroEfectivo", "Ingrese la forma de pago en la boleta de depósito."},
-             K{[](C& c) { c.cheques[0].nro = " 1 "_u; }, "txtCheque1_nro", "Ingrese el monto del primer cheque"},
-             K{[](C& c) { c.cheques[0].monto.setValue(1); c.cheques[0].nro = "  "_u; }, "txtCheque1_nro", "Ingrese el Nº del primer cheque"},
-             K{[](C& c) { c.cheques[0].monto.setValue(1); c.cheques[0].nro = "1"_u; }, "txtCheque1_banco", "Ingrese el banco del primer cheque"},
-             K{[](C& c) { c.cheques[1].nro = "1"_u; }, "txtCheque2_nro", "Ingrese el monto del segundo cheque"},
-             K{[](C& c) { c.cheques[1].monto.setValue(1); }, "txtCheque2_nro", "Ingrese el Nº del segundo cheque"},
-             K{[](C& c) { c.cheques[1].monto.setValue(1); c.cheques[1].nro = "1"_u; }, "txtCheque2_banco", "Ingrese el banco del segundo cheque"},
-             K{[](C& c) { c.vencimiento = QDate(2026, 4, 14); c.interes.setValue(5); }, "nroInteres", "El periodo se encuentra vencido. Ingrese el interes"},
-             K{[](C& c) { c.cheques[0].monto.setValue(-1); c.totalBoleta.setValue(1233.56); }, "nroTotalBoleta", "El monto total de la boleta no coincide con el total retenido mas intereses"}}) {
+    for (const K& k :
+         {K{[](C&) {}, "", ""},
+          K{[](C& c) { c.efectivo.setValue(0); }, "nroEfectivo", "Ingrese la forma de pago en la boleta de depósito."},
+          K{[](C& c) { c.cheques[0].nro = " 1 "_u; }, "txtCheque1_nro", "Ingrese el monto del primer cheque"},
+          K{[](C& c) {
+                c.cheques[0].monto.setValue(1);
+                c.cheques[0].nro = "  "_u;
+            },
+            "txtCheque1_nro", "Ingrese el Nº del primer cheque"},
+          K{[](C& c) {
+                c.cheques[0].monto.setValue(1);
+                c.cheques[0].nro = "1"_u;
+            },
+            "txtCheque1_banco", "Ingrese el banco del primer cheque"},
+          K{[](C& c) { c.cheques[1].nro = "1"_u; }, "txtCheque2_nro", "Ingrese el monto del segundo cheque"},
+          K{[](C& c) { c.cheques[1].monto.setValue(1); }, "txtCheque2_nro", "Ingrese el Nº del segundo cheque"},
+          K{[](C& c) {
+                c.cheques[1].monto.setValue(1);
+                c.cheques[1].nro = "1"_u;
+            },
+            "txtCheque2_banco", "Ingrese el banco del segundo cheque"},
+          K{[](C& c) {
+                c.vencimiento = QDate(2026, 4, 14);
+                c.interes.setValue(5);
+            },
+            "nroInteres", "El periodo se encuentra vencido. Ingrese el interes"},
+          K{[](C& c) {
+                c.cheques[0].monto.setValue(-1);
+                c.totalBoleta.setValue(1233.56);
+            },
+            "nroTotalBoleta", "El monto total de la boleta no coincide con el total retenido mas intereses"}}) {
         ControlesBoleta c = boleta("20123456786260301"_u);
         k.cambiar(c);
         const auto f = validar_boleta(c);
@@ -64,7 +91,13 @@ TEST_F(Pagos, CodigoDeOchentaDigitos)
 {
     ControlesBoleta c = boleta("20123456786260301"_u);
     const QString codigo = codigo_barras_boleta("2022012345678626030100"_u, c);
-    EXPECT_EQ(codigo.left(79), "031057" "020" "202201234567862603010000000000" "20260415" "000000123456" "0000000000" "0000000000"_u);
+    EXPECT_EQ(codigo.left(79), "031057"
+                               "020"
+                               "202201234567862603010000000000"
+                               "20260415"
+                               "000000123456"
+                               "0000000000"
+                               "0000000000"_u);
     EXPECT_EQ(codigo.size(), 80);
     EXPECT_EQ(codigo.right(1).toInt(), digito_verificador(codigo.left(79)));
     c.interes.setValue(1.005 * 3);  // 3.015 is shown as 3.02
@@ -84,11 +117,15 @@ TEST_F(Pagos, NumeracionYFilaDeLaBoleta)
     EXPECT_EQ(borrar_boleta("202"_u + dj + "01"_u), 1);
     EXPECT_EQ(proximo_nro_boleta(dj), "202"_u + dj + "00"_u);
     EXPECT_EQ(borrar_boleta("nada"_u), 0);
-    EXPECT_EQ(filas("select SBDI_FECHA_EMISION, SBDI_FECHA_VENC, SBDI_RTN_NRO, SBDI_RTN_NOMBRE, SBDI_POSICION, GBAN_ID, GBAN_DESCRIPCION, SBDI_CUENTA, SBDI_IMPORTE, SBDI_INTERES, SBDI_MULTA, "
-                    "SBDI_TOTAL, SBDI_ANULADA, SSUB_FILIAL_BANCO, SBDI_EFECTIVO, SBDI_CHEQUE1_NRO, SBDI_CHEQUE1_MONTO, SBDI_TIPO_BOLETA, length(SBDI_CODIGO_BARRAS) from SEL_TB_RTN_BOLDEP"_u),
-              "2026-04-01|2026-04-15|101|D'ANGELO|20260301|83|DEL MARVEN S.A.|90000440|1234.56|0.0|0.0|1234.56|null|null|1234.56|null|0.0|0|80"_u);
+    EXPECT_EQ(
+        filas(
+            "select SBDI_FECHA_EMISION, SBDI_FECHA_VENC, SBDI_RTN_NRO, SBDI_RTN_NOMBRE, SBDI_POSICION, GBAN_ID, GBAN_DESCRIPCION, SBDI_CUENTA, SBDI_IMPORTE, SBDI_INTERES, SBDI_MULTA, "
+            "SBDI_TOTAL, SBDI_ANULADA, SSUB_FILIAL_BANCO, SBDI_EFECTIVO, SBDI_CHEQUE1_NRO, SBDI_CHEQUE1_MONTO, SBDI_TIPO_BOLETA, length(SBDI_CODIGO_BARRAS) from SEL_TB_RTN_BOLDEP"_u),
+        "2026-04-01|2026-04-15|101|D'ANGELO|20260301|83|DEL MARVEN S.A.|90000440|1234.56|0.0|0.0|1234.56|null|null|1234.56|null|0.0|0|80"_u);
     // Past 99 the number grows by a digit; that of a DJ of 13 characters by its own places.
-    cnRtn.ejecutar("insert into SEL_TB_RTN_BOLDEP (SBDI_NROBOLETA, SEDJ_NRO, SBDI_TIPO_BOLETA) values ('%1', '%2', 0), ('202001012007030100', '0010120070301', 0)"_u.arg("202"_u + dj + "99"_u, dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_BOLDEP (SBDI_NROBOLETA, SEDJ_NRO, SBDI_TIPO_BOLETA) values ('%1', '%2', 0), ('202001012007030100', '0010120070301', 0)"_u
+            .arg("202"_u + dj + "99"_u, dj));
     EXPECT_EQ(insertar_boleta(c), "202"_u + dj + "100"_u);
     EXPECT_EQ(insertar_boleta(c), "202"_u + dj + "100"_u);
     EXPECT_EQ(proximo_nro_boleta("0010120070301"_u), "20200101200703010001"_u);
@@ -100,13 +137,17 @@ TEST_F(Pagos, NumeracionDeLosComprobantes)
     const auto con_maximo = [](const char* maximo) {
         cnRtn.ejecutar("delete from SEL_TB_RTN_COMP_RET"_u);
         if (*maximo)
-            cnRtn.ejecutar("insert into SEL_TB_RTN_COMP_RET (SCRT_NRO, SEDJ_NRO, SEDD_ID, SCRT_ANULADO) values ('%1', 'X', 1, 'N')"_u.arg(QLatin1StringView(maximo)));
+            cnRtn.ejecutar(
+                "insert into SEL_TB_RTN_COMP_RET (SCRT_NRO, SEDJ_NRO, SEDD_ID, SCRT_ANULADO) values ('%1', 'X', 1, 'N')"_u
+                    .arg(QLatin1StringView(maximo)));
         return proximo_comprobante("00123456786261000"_u);
     };
-    for (const auto& [maximo, nuevo] : {std::pair{"", "02-00123-2026-00001"}, {"02-00999-2025-00017", "02-00123-2026-00001"},
-                                        {"02-00999-2026-00017", "02-00999-2026-00018"},   // the prefix of the highest stays
-                                        {"02-00999-2030-00017", "02-00999-2030-00018"},   // a clock set back
-                                        {"02-00999-2026-99999", "02-00999-2026-100000"}})
+    for (const auto& [maximo, nuevo] :
+         {std::pair{"", "02-00123-2026-00001"},
+          {"02-00999-2025-00017", "02-00123-2026-00001"},
+          {"02-00999-2026-00017", "02-00999-2026-00018"},  // the prefix of the highest stays
+          {"02-00999-2030-00017", "02-00999-2030-00018"},  // a clock set back
+          {"02-00999-2026-99999", "02-00999-2026-100000"}})
         EXPECT_EQ(con_maximo(maximo), QLatin1StringView(nuevo));
 }
 
@@ -117,14 +158,17 @@ TEST_F(Pagos, UnComprobanteNuevoAnulaElAnterior)
     nueva_escritura(dj, 1, 1, 1, 1);
     nueva_escritura(dj, 2, 2, 2, 2);
     const auto emitir = [&](const char* renglon, const char* monto) {
-        emitir_comprobante(proximo_comprobante(dj), {dj, QLatin1StringView(renglon), QLatin1StringView(monto), QDate(2026, 10, 3), "PÉREZ"_u});
+        emitir_comprobante(proximo_comprobante(dj),
+                           {dj, QLatin1StringView(renglon), QLatin1StringView(monto), QDate(2026, 10, 3), "PÉREZ"_u});
     };
     emitir("1", "100.50");
     emitir("2", "7");
     emitir("1", "99");
-    EXPECT_EQ(filas("select SCRT_NRO, SEDD_ID, SCRT_ANULADO, SCRT_MONTO_RETENIDO, SCRT_FECHA_RETENCION, SCRT_FECHA_ESCRITURA, SCRT_RTN_NOMBRE from SEL_TB_RTN_COMP_RET order by 1"_u),
-              "02-20123-2026-00001|1|S|100.5|04/05/2026|03/10/2026|PÉREZ\n02-20123-2026-00002|2|N|7.0|04/05/2026|03/10/2026|PÉREZ\n"
-              "02-20123-2026-00003|1|N|99.0|04/05/2026|03/10/2026|PÉREZ"_u);
+    EXPECT_EQ(
+        filas(
+            "select SCRT_NRO, SEDD_ID, SCRT_ANULADO, SCRT_MONTO_RETENIDO, SCRT_FECHA_RETENCION, SCRT_FECHA_ESCRITURA, SCRT_RTN_NOMBRE from SEL_TB_RTN_COMP_RET order by 1"_u),
+        "02-20123-2026-00001|1|S|100.5|04/05/2026|03/10/2026|PÉREZ\n02-20123-2026-00002|2|N|7.0|04/05/2026|03/10/2026|PÉREZ\n"
+        "02-20123-2026-00003|1|N|99.0|04/05/2026|03/10/2026|PÉREZ"_u);
     EXPECT_EQ(dato("select MAX_SCRT_NRO from SEL_VW_MAX_COMPROB where SEDD_ID=1"_u), "02-20123-2026-00003"_u);
     EXPECT_THROW(emitir_comprobante("x"_u, {dj, "1"_u, "1"_u, QDate(2026, 1, 1), "D'ANGELO"_u}), ErrorAlmacen);
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printed forms, read back from their PDFs by independent programs: pdftotext, pdftoppm, zbarimg.
 
 #include "apoyo/apoyo.h"
@@ -64,7 +65,8 @@ protected:
         e.alcanzada = true;
         e.impuesto = n;
         e.partes = "GÓMEZ PEÑALOZA JUAN CUIT 20123456786; "_u.repeated(1 + n % 5);
-        e.operaciones << OperacionImpresa{"COMPRAVENTA"_u, "LEY 1"_u, {}, 1000.5, {}, 0.01, {}, {}, {}, {}, 10.0, {}, {}, 10.0};
+        e.operaciones << OperacionImpresa{
+            "COMPRAVENTA"_u, "LEY 1"_u, {}, 1000.5, {}, 0.01, {}, {}, {}, {}, 10.0, {}, {}, 10.0};
         return e;
     }
     static DJImpresa dj_de(int escrituras)
@@ -89,7 +91,8 @@ TEST_F(Impresos, LasCuatroBarrasDeCienBoletasSeLeen)
         c.impuesto.setValue(azar.bounded(1000000000) / 100.0);
         c.interes.setValue(azar.bounded(1000000) / 100.0);
         BoletaImpresa b;
-        b.nro = "202%1%2"_u.arg(20000000000LL + azar.bounded(1000000000)).arg(azar.bounded(100000000), 8, 10, QLatin1Char('0'));
+        b.nro = "202%1%2"_u.arg(20000000000LL + azar.bounded(1000000000))
+                    .arg(azar.bounded(100000000), 8, 10, QLatin1Char('0'));
         b.codigo = codigo_barras_boleta(b.nro, c);
         rptRTN_boldep1 informe(b);
         EXPECT_EQ(barras(informe, 4), QStringList(4, b.codigo)) << i;
@@ -118,12 +121,16 @@ TEST_F(Impresos, BoletaConEfectivoYDosCheques)
     rptRTN_boldep1 informe(*leer_boleta(nro));
     const QStringList paginas = textos(informe);
     ASSERT_EQ(paginas.size(), 1);
-    for (const char* dice : {"PÉREZ", "20123456786", "10/2026 (Original)", "DEL MARVEN S.A.", "90000440", "CENTRO", "16/11/2026", "02/11/2026", "1.234.567.890,55", "10,00",
-                             "1.234.567.900,55", "900,55", "11112222 BANCO UNO", "33334444 BANCO DOS", "ANULADA",
-                             "SON PESOS: un mil doscientos treinta y cuatro millones quinientos sesenta y siete mil novecientos con 55/100"})
+    for (
+        const char* dice :
+        {"PÉREZ", "20123456786", "10/2026 (Original)", "DEL MARVEN S.A.", "90000440", "CENTRO", "16/11/2026",
+         "02/11/2026", "1.234.567.890,55", "10,00", "1.234.567.900,55", "900,55", "11112222 BANCO UNO",
+         "33334444 BANCO DOS", "ANULADA",
+         "SON PESOS: un mil doscientos treinta y cuatro millones quinientos sesenta y siete mil novecientos con 55/100"})
         EXPECT_GE(paginas[0].count(QString::fromUtf8(dice)), 4) << dice;
     EXPECT_EQ(paginas[0].count("ANULADA"_u), 4);
-    for (const char* para : {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención", "Para la Casa Central del Banco"})
+    for (const char* para : {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención",
+                             "Para la Casa Central del Banco"})
         EXPECT_EQ(paginas[0].count(QString::fromUtf8(para)), 1) << para;
     EXPECT_FALSE(leer_boleta("nada"_u));
 }
@@ -169,23 +176,35 @@ TEST_F(Impresos, DJDeSesentaEscriturasDelAlmacen)
 {
     const QString dj = nueva_dj();
     for (int i = 1; i <= 60; ++i)
-        nueva_escritura(dj, i, 100 + i, 200 + i, 1 + i / 3, i % 10 == 7 ? "N" : i % 10 == 8 ? "E" : "P", i % 10 == 9 ? "N" : "S");
+        nueva_escritura(dj, i, 100 + i, 200 + i, 1 + i / 3,
+                        i % 10 == 7   ? "N"
+                        : i % 10 == 8 ? "E"
+                                      : "P",
+                        i % 10 == 9 ? "N" : "S");
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SNAD_ID=9, SNAD_DESC_OTRO='UN MOTIVO PROPIO' where SEDD_ID=9"_u);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SNAD_ID=1 where SEDD_ID=19"_u);
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_BASEIMPONIBLE, SINS_MONTO_FINAL) values "
-                   "('%1', 1, 1, 5707001, 1000, 10), ('%1', 1, 2, 5707029, null, 3000)"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD, CPAI_CODIGO, SPIN_CUIT_EN_TRAMITE) values "
-                   "(1, '%1', 1, '96', '22333444', 'O''HIGGINS', 'A', null, 0), (2, '%1', 1, '94', 'AB1', 'SILVA', 'E', '50000000316', 0), (3, '%1', 1, '80', null, 'NUEVA S.A.', 'A', null, 1)"_u.arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_BASEIMPONIBLE, SINS_MONTO_FINAL) values "
+        "('%1', 1, 1, 5707001, 1000, 10), ('%1', 1, 2, 5707029, null, 3000)"_u.arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD, CPAI_CODIGO, SPIN_CUIT_EN_TRAMITE) values "
+        "(1, '%1', 1, '96', '22333444', 'O''HIGGINS', 'A', null, 0), (2, '%1', 1, '94', 'AB1', 'SILVA', 'E', '50000000316', 0), (3, '%1', 1, '80', null, 'NUEVA S.A.', 'A', null, 1)"_u
+            .arg(dj));
     QString inmuebles;
     for (int i = 1; i <= 80; ++i)
-        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL, GTUB_ID) values ('%1', 2, %2, 'P%2x', 1234567.5, 1)"_u.arg(dj).arg(i));
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL, GTUB_ID) values ('%1', 2, %2, 'P%2x', 1234567.5, 1)"_u
+                .arg(dj)
+                .arg(i));
     const DJImpresa impresa = leer_dj_impresa(dj);
     ASSERT_EQ(impresa.escrituras.size(), 60);
     EXPECT_EQ(impresa.escrituras[0].operaciones.size(), 2);
-    EXPECT_EQ(impresa.escrituras[0].partes, "O'HIGGINS DNI 22333444; SILVA 50000000316 AB1; NUEVA S.A. CUIT (CUIT en trámite); "_u);
+    EXPECT_EQ(impresa.escrituras[0].partes,
+              "O'HIGGINS DNI 22333444; SILVA 50000000316 AB1; NUEVA S.A. CUIT (CUIT en trámite); "_u);
     rpt_dj informe(impresa, QLatin1StringView(CODIGO), "v"_u);
     const QString todo = textos(informe).join(QString()).simplified();
-    for (const char* dice : {"UN MOTIVO PROPIO", "Testamento", "ANULADA/ERROSE", "ANULADA/NO PASO", "No alcanzada", "COMPRAVENTA DE INMUEBLES", "PODER GENERAL", "Base imponible $ 1.000,00", "O'HIGGINS"})
+    for (const char* dice : {"UN MOTIVO PROPIO", "Testamento", "ANULADA/ERROSE", "ANULADA/NO PASO", "No alcanzada",
+                             "COMPRAVENTA DE INMUEBLES", "PODER GENERAL", "Base imponible $ 1.000,00", "O'HIGGINS"})
         EXPECT_TRUE(todo.contains(QString::fromUtf8(dice))) << dice;
     for (int i = 1; i <= 80; ++i)  // a long list is wrapped, never cut
         EXPECT_EQ(todo.count("P%1x"_u.arg(i)), 1) << i;
@@ -211,15 +230,17 @@ TEST_F(Impresos, ReciboYReciboAnulado)
     fijar_hoy(QDate(2026, 5, 4));
     const QString dj = nueva_dj();
     nueva_escritura(dj, 1, 77, 88, 3);
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD) values (1, '%1', 1, '96', '22333444', 'RÍOS', 'A')"_u.arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD) values (1, '%1', 1, '96', '22333444', 'RÍOS', 'A')"_u
+            .arg(dj));
     for (int i = 0; i < 2; ++i)
         emitir_comprobante(proximo_comprobante(dj), {dj, "1"_u, "1234.5"_u, QDate(2026, 10, 3), "PÉREZ"_u});
     fijar_hoy({});
     cargar_tmp_dj_oper(dj);
     rpt_recibo vigente(leer_recibo("02-20123-2026-00002"_u));
     const QString texto = textos(vigente).join(QString());
-    for (const char* dice : {"02-20123-2026-00002", "04/05/2026", "03/10/2026", "77", "88", "RÍOS DNI 22333444", "PÉREZ", "1.234,50",
-                             "SON PESOS: un mil doscientos treinta y cuatro con 50/100"})
+    for (const char* dice : {"02-20123-2026-00002", "04/05/2026", "03/10/2026", "77", "88", "RÍOS DNI 22333444",
+                             "PÉREZ", "1.234,50", "SON PESOS: un mil doscientos treinta y cuatro con 50/100"})
         EXPECT_TRUE(texto.contains(QString::fromUtf8(dice))) << dice;
     rpt_recibo anulado(leer_recibo("02-20123-2026-00001"_u));
     const QString vacio = textos(anulado).join(QString());
@@ -241,7 +262,10 @@ void nada_se_encima(Informe& informe)
             const double ancho = ancho_texto(t.texto, t.puntos, t.negrita);
             const double sobra = t.lugar.width() - ancho;
             EXPECT_GE(sobra, -0.01) << t.texto.toStdString();
-            const double x = t.lugar.left() + (t.alineacion == Alineacion::derecha ? sobra : t.alineacion == Alineacion::centro ? sobra / 2 : 0);
+            const double x = t.lugar.left()
+                             + (t.alineacion == Alineacion::derecha  ? sobra
+                                : t.alineacion == Alineacion::centro ? sobra / 2
+                                                                     : 0);
             EXPECT_LE(x + ancho, ANCHO_A4 - 4) << t.texto.toStdString();
             // The ink of a line of capitals: what hangs below it apart.
             const QRectF lugar(x, t.lugar.top() + 0.4, ancho, alto_linea(t.puntos) * 0.6);
@@ -287,13 +311,15 @@ TEST_F(Impresos, LosTextosMasAnchosNoSeCortanNiSeEnciman)
     c.resolucion = "9999/99"_u;
     c.totalRetenido = c.acreditado = 999999999999.99;
     dj.escrituras << escritura(1);
-    dj.escrituras[0].partes = dj.escrituras[0].inmuebles = dj.escrituras[0].motivo = dj.escrituras[0].observaciones = w100;
+    dj.escrituras[0].partes = dj.escrituras[0].inmuebles = dj.escrituras[0].motivo = dj.escrituras[0].observaciones =
+        w100;
     dj.escrituras[0].impuesto = 999999999999.99;
     rpt_dj larga(dj, QLatin1StringView(CODIGO), "v"_u);
     nada_se_encima(larga);
     const QString todo = textos(larga).join(QString());
     EXPECT_EQ(todo.count("Domicilio"_u) + todo.count("Observaciones:"_u), 2);  // the title on the first line alone
-    rpt_recibo recibo(ReciboImpreso{"02-20123-2026-00002"_u, c.nro, "999999999"_u, "999999999"_u, "31/12/2026"_u, "31/12/2026"_u, w50, w50, w50, w100, w100, 999999999999.99});
+    rpt_recibo recibo(ReciboImpreso{"02-20123-2026-00002"_u, c.nro, "999999999"_u, "999999999"_u, "31/12/2026"_u,
+                                    "31/12/2026"_u, w50, w50, w50, w100, w100, 999999999999.99});
     nada_se_encima(recibo);
 }
 

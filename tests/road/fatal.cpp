@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // fatal STORE: an error that nobody traps, in the middle of a transaction. The box is answered.
 
 #include "application/aplicacion.h"

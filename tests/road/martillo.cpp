@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // martillo STORE: writes DJs, deeds and totals without end; prints each step once it is confirmed.
 
 #include "core/modGlobales.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A person who presses anything: whatever is visible and enabled, in any form, with any answer to the boxes.
 // SEMILLA sets the course.
 
@@ -79,7 +80,8 @@ protected:
         }
     }
 
-    std::mt19937 azar_{qEnvironmentVariableIsSet("SEMILLA") ? unsigned(qEnvironmentVariableIntValue("SEMILLA")) : SEMILLA};
+    std::mt19937 azar_{qEnvironmentVariableIsSet("SEMILLA") ? unsigned(qEnvironmentVariableIntValue("SEMILLA"))
+                                                            : SEMILLA};
 };
 
 TEST_F(Azar, NadaDeLoQueSePulsaHaceCaerElPrograma)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A store whose program is killed in the middle of its work.
 
 #include "apoyo/apoyo.h"
@@ -16,11 +17,19 @@ QString que_falta(const QStringList& paso)
 {
     const auto cuenta = [](const QString& sql) { return int(Recordset(cnRtn, sql).entero(0)); };
     if (paso[0] == u"dj" || paso[0] == u"copia")
-        return cuenta("select count(*) from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_u.arg(paso[1])) == 1 ? QString() : paso.join(u' ');
+        return cuenta("select count(*) from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_u.arg(paso[1])) == 1
+                   ? QString()
+                   : paso.join(u' ');
     if (paso[0] == u"renglon" && paso[2] != u"2")
-        return cuenta("select count(*) from SEL_TB_RTN_DETDJ where SEDJ_NRO='%1' and SEDD_ID=%2"_u.arg(paso[1], paso[2])) == 1 ? QString() : paso.join(u' ');
+        return cuenta(
+                   "select count(*) from SEL_TB_RTN_DETDJ where SEDJ_NRO='%1' and SEDD_ID=%2"_u.arg(paso[1], paso[2]))
+                       == 1
+                   ? QString()
+                   : paso.join(u' ');
     if (paso[0] == u"menos")
-        return cuenta("select count(*) from SEL_TB_RTN_DETDJ where SEDJ_NRO='%1' and SEDD_ID=2"_u.arg(paso[1])) == 0 ? QString() : paso.join(u' ');
+        return cuenta("select count(*) from SEL_TB_RTN_DETDJ where SEDJ_NRO='%1' and SEDD_ID=2"_u.arg(paso[1])) == 0
+                   ? QString()
+                   : paso.join(u' ');
     return {};
 }
 

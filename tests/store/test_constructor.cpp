@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "constructor.h"
 
@@ -61,24 +63,42 @@ TEST_F(Constructor, LosTextosDelProyectoSonCoherentes)
     EXPECT_TRUE(Recordset(cn, "pragma foreign_key_check"_u).eof());
     EXPECT_GE(Recordset(cn, "select count(*) from SEL_TB_SUBCONCEPTOS"_u).entero(0), 45);
     // The totals of the sample months stand.
-    EXPECT_TRUE(Recordset(cn, "select D.SEDJ_NRO from SEL_TB_RTN_DETDJ D left join SEL_TB_RTN_INS_OPERACIONES O on O.SEDJ_NRO=D.SEDJ_NRO "
-                              "and O.SEDD_ID=D.SEDD_ID group by D.SEDJ_NRO, D.SEDD_ID having abs(coalesce(sum(O.SINS_MONTO_FINAL),0)-D.SEDD_TOTAL_IMPUESTO)>0.001"_u).eof());
-    EXPECT_TRUE(Recordset(cn, "select C.SEDJ_NRO from SEL_TB_RTN_CABDJ C join SEL_TB_RTN_DETDJ D on D.SEDJ_NRO=C.SEDJ_NRO "
-                              "group by C.SEDJ_NRO having abs(sum(D.SEDD_TOTAL_IMPUESTO)-C.SEDJ_TOTAL_RETENIDO)>0.001"_u).eof());
+    EXPECT_TRUE(
+        Recordset(
+            cn,
+            "select D.SEDJ_NRO from SEL_TB_RTN_DETDJ D left join SEL_TB_RTN_INS_OPERACIONES O on O.SEDJ_NRO=D.SEDJ_NRO "
+            "and O.SEDD_ID=D.SEDD_ID group by D.SEDJ_NRO, D.SEDD_ID having abs(coalesce(sum(O.SINS_MONTO_FINAL),0)-D.SEDD_TOTAL_IMPUESTO)>0.001"_u)
+            .eof());
+    EXPECT_TRUE(Recordset(cn,
+                          "select C.SEDJ_NRO from SEL_TB_RTN_CABDJ C join SEL_TB_RTN_DETDJ D on D.SEDJ_NRO=C.SEDJ_NRO "
+                          "group by C.SEDJ_NRO having abs(sum(D.SEDD_TOTAL_IMPUESTO)-C.SEDJ_TOTAL_RETENIDO)>0.001"_u)
+                    .eof());
 }
 
 TEST_F(Constructor, RechazaLoIncoherentePorArchivoYLinea)
 {
-    struct K { const char* tabla; const char* de; const char* a; const char* dice; };
-    for (const K& k : {
-             K{"GLB_TB_LOCALIDADES", "3,COLONIA AURORA,13", "3,COLONIA AURORA,77", "GLB_TB_LOCALIDADES.csv:4: GPRO_ID 77 no existe en GLB_TB_PROVINCIAS"},
-             K{"GLB_TB_MONEDAS", "EUR,EUROS", "DOL,EUROS", "GLB_TB_MONEDAS.csv:4: la clave ya existe"},
-             K{"GLB_TB_MONEDAS", "REA,REALES", "REAL,REALES", "GLB_TB_MONEDAS.csv:5: GMON_ID tiene 4 caracteres y su ancho es 3"},
-             K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,4000000,", "SEL_TB_ALICUOTAS.csv:13: el tramo se solapa con otro de 5707002"},
-             K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,6000000,", "SEL_TB_ALICUOTAS.csv:13: falta un tramo entre 5000000 y 6000000"},
-             K{"SEL_TB_MODULOS", "1500000.01,-1", "1500000.01,9000000", "SEL_TB_MODULOS.csv:12: el último tramo de 5707027 no llega a -1"},
-             K{"GLB_TB_LEYES", "4821,1996-01-01", "cuatro,1996-01-01", "GLB_TB_LEYES.csv:2: «cuatro» no es un valor de GLEY_NRO"},
-             K{"GLB_TB_LEYES", "GLEY_NRO,", "GLEY_NUMERO,", "GLB_TB_LEYES.csv:1: GLB_TB_LEYES no tiene la columna GLEY_NUMERO"}}) {
+    struct K
+    {
+        const char* tabla;
+        const char* de;
+        const char* a;
+        const char* dice;
+    };
+    for (const K& k : {K{"GLB_TB_LOCALIDADES", "3,COLONIA AURORA,13", "3,COLONIA AURORA,77",
+                         "GLB_TB_LOCALIDADES.csv:4: GPRO_ID 77 no existe en GLB_TB_PROVINCIAS"},
+                       K{"GLB_TB_MONEDAS", "EUR,EUROS", "DOL,EUROS", "GLB_TB_MONEDAS.csv:4: la clave ya existe"},
+                       K{"GLB_TB_MONEDAS", "REA,REALES", "REAL,REALES",
+                         "GLB_TB_MONEDAS.csv:5: GMON_ID tiene 4 caracteres y su ancho es 3"},
+                       K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,4000000,",
+                         "SEL_TB_ALICUOTAS.csv:13: el tramo se solapa con otro de 5707002"},
+                       K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,6000000,",
+                         "SEL_TB_ALICUOTAS.csv:13: falta un tramo entre 5000000 y 6000000"},
+                       K{"SEL_TB_MODULOS", "1500000.01,-1", "1500000.01,9000000",
+                         "SEL_TB_MODULOS.csv:12: el último tramo de 5707027 no llega a -1"},
+                       K{"GLB_TB_LEYES", "4821,1996-01-01", "cuatro,1996-01-01",
+                         "GLB_TB_LEYES.csv:2: «cuatro» no es un valor de GLEY_NRO"},
+                       K{"GLB_TB_LEYES", "GLEY_NRO,", "GLEY_NUMERO,",
+                         "GLB_TB_LEYES.csv:1: GLB_TB_LEYES no tiene la columna GLEY_NUMERO"}}) {
         reemplazar(k.tabla, k.de, k.a);
         EXPECT_TRUE(construir().startsWith(QString::fromUtf8(k.dice))) << construir().toStdString();
         EXPECT_FALSE(QFile::exists(dir.filePath("x.db"_u)));

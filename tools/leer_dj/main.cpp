@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // leer_dj [--codigo CODE] [--campos] [--json] FILE|FOLDER|ARCHIVE
 
 #include "filing/lector_dj.h"
@@ -85,14 +86,19 @@ QJsonArray en_json(const std::vector<FallaLectura>& fallas)
 {
     QJsonArray lista;
     for (const FallaLectura& f : fallas)
-        lista << QJsonObject{{u"linea"_s, f.linea}, {u"columna"_s, f.columna}, {u"campo"_s, f.campo},
-                             {u"valor"_s, f.valor}, {u"mensaje"_s, f.mensaje}};
+        lista << QJsonObject{{u"linea"_s, f.linea},
+                             {u"columna"_s, f.columna},
+                             {u"campo"_s, f.campo},
+                             {u"valor"_s, f.valor},
+                             {u"mensaje"_s, f.mensaje}};
     return lista;
 }
 
 void mostrar_campos(const RegistroLeido& r)
 {
-    decir(u"línea %1: registro %2 (%3)"_s.arg(r.linea).arg(QLatin1Char(r.registro->tipo)).arg(QString::fromUtf8(r.registro->titulo)));
+    decir(u"línea %1: registro %2 (%3)"_s.arg(r.linea)
+              .arg(QLatin1Char(r.registro->tipo))
+              .arg(QString::fromUtf8(r.registro->titulo)));
     if (r.entero)
         for (size_t i = 0; i < r.registro->campos.size(); ++i)
             decir(u"    %1 «%2»"_s.arg(QLatin1String(r.registro->campos[i].nombre), -28).arg(texto_ansi(r.campos[i])));
@@ -128,11 +134,14 @@ void resumir(const QString& ruta, const LecturaDJ& l)
 {
     decir(u"Archivo: "_s + ruta);
     decir(u"Agente %1, %2, CUIT %3"_s.arg(l.agente, l.titular, l.cuit));
-    decir(u"Posición %1, secuencia %2, %3"_s.arg(l.posicion, l.secuencia, l.estado == u"0" ? u"NORMAL"_s : u"SIN MOVIMIENTOS"_s));
+    decir(u"Posición %1, secuencia %2, %3"_s.arg(l.posicion, l.secuencia,
+                                                 l.estado == u"0" ? u"NORMAL"_s : u"SIN MOVIMIENTOS"_s));
     for (const Registro& r : registros())
         if (const auto it = l.registros.find(r.tipo); it != l.registros.end())
-            decir(u"  registros %1 (%2): %3"_s.arg(QLatin1Char(r.tipo)).arg(QString::fromUtf8(r.titulo)).arg(it->second));
-    decir(u"Total retenido: %1; las escrituras suman %2"_s.arg(l.totalRetenido, 0, 'f', 2).arg(l.totalEscrituras, 0, 'f', 2));
+            decir(
+                u"  registros %1 (%2): %3"_s.arg(QLatin1Char(r.tipo)).arg(QString::fromUtf8(r.titulo)).arg(it->second));
+    decir(u"Total retenido: %1; las escrituras suman %2"_s.arg(l.totalRetenido, 0, 'f', 2)
+              .arg(l.totalEscrituras, 0, 'f', 2));
     decir(u"Código de integridad: "_s + l.codigo);
     for (const FallaLectura& f : l.avisos)
         decir(u"Aviso:"_s + linea_de(f));

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "manejo/manejo.h"
 
 #include "widgets/barra.h"
@@ -80,7 +82,8 @@ void Cajas::elegirArchivo(QFileDialog* dialogo)
 
 void Cajas::mirar()
 {
-    if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); dialogo && dialogo->isVisible()) {
+    if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        dialogo && dialogo->isVisible()) {
         elegirArchivo(dialogo);
         return;
     }
@@ -206,7 +209,8 @@ void elegir_fila(ctlCombo* combo, const QString& texto)
 {
     exigir_activo(combo);
     const auto filas = combo->lista();
-    const auto it = std::find_if(filas.begin(), filas.end(), [&](const ctlCombo::Fila& f) { return f.texto.startsWith(texto); });
+    const auto it = std::find_if(filas.begin(), filas.end(),
+                                 [&](const ctlCombo::Fila& f) { return f.texto.startsWith(texto); });
     if (it == filas.end())
         throw Inesperado(u"%1 no tiene «%2»"_s.arg(combo->objectName(), texto));
     vigilar([&] {
@@ -253,7 +257,8 @@ void clic(QWidget* form, const QString& nombre)
     exigir_activo(w);
     // On the mark of a box or an option, which stands at its left.
     const bool marca = w->inherits("QCheckBox") || w->inherits("QRadioButton");
-    vigilar([&] { QTest::mouseClick(w, Qt::LeftButton, Qt::NoModifier, marca ? QPoint(8, w->height() / 2) : QPoint()); });
+    vigilar(
+        [&] { QTest::mouseClick(w, Qt::LeftButton, Qt::NoModifier, marca ? QPoint(8, w->height() / 2) : QPoint()); });
 }
 
 namespace {

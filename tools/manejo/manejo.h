@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Drives real forms with key and mouse events, and answers their message boxes.
 #pragma once
 
@@ -23,9 +24,9 @@ struct CajaEsperada
 {
     QString texto;
     QString titulo = {};
-    bool si = true;           ///< Yes or OK, else No
-    int icono = -1;           ///< QMessageBox::Icon, -1 for any
-    bool exacto = false;      ///< the text is the whole text
+    bool si = true;       ///< Yes or OK, else No
+    int icono = -1;       ///< QMessageBox::Icon, -1 for any
+    bool exacto = false;  ///< the text is the whole text
 };
 
 /// Answers the boxes that come while an action runs, in their order. A box that is not expected
@@ -35,7 +36,8 @@ class Cajas
 public:
     /// Runs the action; throws Inesperado. A file dialog that comes gets the next of `archivos` typed,
     /// or is cancelled for an empty one.
-    static void durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion, const QStringList& archivos = {});
+    static void durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion,
+                        const QStringList& archivos = {});
 
 private:
     Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos);

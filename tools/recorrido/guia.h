@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Keeps the guided month: a line a step, pictures, and the end at the first surprise.
 #pragma once
 

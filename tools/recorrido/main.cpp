@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // recorrido [--carpeta CARPETA]: drives the real windows through one month on the sample store.
 
 #include "constructor.h"
@@ -25,8 +26,10 @@ void preparar(const QString& carpeta)
 {
     QDir(carpeta).removeRecursively();
     QDir().mkpath(carpeta);
-    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN), {u"datos"_s, u"muestra"_s},
-                       carpeta + u"/vedra_rtn.db"_s, clave_almacen()});
+    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN),
+                       {u"datos"_s, u"muestra"_s},
+                       carpeta + u"/vedra_rtn.db"_s,
+                       clave_almacen()});
     QFile cfg(carpeta + u"/vedra_rtn.cfg"_s);
     if (!cfg.open(QIODevice::WriteOnly) || cfg.write("vedra_rtn.db\n") < 0)
         throw Inesperado(u"no se pudo escribir "_s + cfg.fileName());
@@ -46,8 +49,8 @@ int main(int argc, char** argv)
     QCommandLineParser argumentos;
     argumentos.setApplicationDescription(u"Recorre un mes completo en las ventanas del programa."_s);
     argumentos.addHelpOption();
-    argumentos.addOption({u"carpeta"_s, u"Dónde dejar lo que hace."_s, u"carpeta"_s,
-                          QDir::currentPath() + u"/build/recorrido"_s});
+    argumentos.addOption(
+        {u"carpeta"_s, u"Dónde dejar lo que hace."_s, u"carpeta"_s, QDir::currentPath() + u"/build/recorrido"_s});
     argumentos.process(aplicacion);
     const QString carpeta = QDir(argumentos.value(u"carpeta"_s)).absolutePath();
     try {
@@ -64,7 +67,8 @@ int main(int argc, char** argv)
         Guia guia(&principal, carpeta);
         recorrer(principal, guia);
         Cajas::durante({{u"¿Está seguro que desea salir del sistema?"_s, u"VEDRA-RTN"_s}}, [&] { principal.close(); });
-        std::printf("\nEl mes está completo: %d pasos, %d imágenes.\nTodo quedó en %s\n", guia.pasos(), guia.fotos(), qUtf8Printable(carpeta));
+        std::printf("\nEl mes está completo: %d pasos, %d imágenes.\nTodo quedó en %s\n", guia.pasos(), guia.fotos(),
+                    qUtf8Printable(carpeta));
         return EXIT_SUCCESS;
     } catch (const std::exception& e) {
         std::fprintf(stderr, "recorrido: %s\n", e.what());

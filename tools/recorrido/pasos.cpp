@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "recorrido/pasos.h"
 
 #include "application/screens/MDIPrincipal.h"
@@ -35,8 +37,8 @@ struct Papel
     const char* folio;
     const char* dia;
     const char* estado;
-    const char* motivo;       // null for a reached deed
-    const char* testimonio;   // name of its file, null without one
+    const char* motivo;      // null for a reached deed
+    const char* testimonio;  // name of its file, null without one
 };
 
 struct ValorPapel
@@ -49,11 +51,11 @@ struct ValorPapel
 // An operation with what it must yield.
 struct OperacionPapel
 {
-    const char* codigo;       // null when it is picked in the catalogue
+    const char* codigo;  // null when it is picked in the catalogue
     const char* titulo;
     QList<ValorPapel> valores;
     QStringList roles;
-    const char* modulos;      // typed by hand, null when they come from the tables
+    const char* modulos;  // typed by hand, null when they come from the tables
     const char* impuesto;
 };
 
@@ -94,7 +96,8 @@ private:
             escribir(f, u("nroRegNotarial"), u("45"));
             escribir(f, u("txtTitular"), u("solís ñandú carmen"));
             escribir(f, u("txtCUIT"), u("30-71234567-0"));
-            Cajas::durante({{u("El CUIT del titular no es válido"), f->windowTitle()}}, [&] { pulsar(f, u("tlb"), u("aceptar")); });
+            Cajas::durante({{u("El CUIT del titular no es válido"), f->windowTitle()}},
+                           [&] { pulsar(f, u("tlb"), u("aceptar")); });
         });
         g_.paso(u("El agente, bien; el segundo adscripto pasa al primer lugar"), [&] {
             auto* f = formulario("frmRTN_editar");
@@ -124,7 +127,8 @@ private:
         });
         g_.paso(u("La DJ de octubre de 2026"), [&] {
             auto* f = formulario("frmDJ_editar");
-            Cajas::durante({{u("Ingrese el Nº Agente de Retención"), QString()}}, [&] { pulsar(f, u("tlbDJ"), u("aceptar")); });
+            Cajas::durante({{u("Ingrese el Nº Agente de Retención"), QString()}},
+                           [&] { pulsar(f, u("tlbDJ"), u("aceptar")); });
             escribir(f, u("txtRTN_nro"), u("45"));
             comprobar(u("agente"), texto(f, u("cboRTN")), u("SOLÍS ÑANDÚ CARMEN"));
             Cajas::durante({{u("La posicion a declarar con este aplicativo debe ser posterior a 2006/06")}},
@@ -284,8 +288,12 @@ private:
             parte("UNIPERSONAL", "CUIT", "20123456786", "gómez peñaloza juan");
             parte("UNIPERSONAL", "DNI", "22333444", "ríos ana");
             inmueble("12345", "2000000");
-            operacion({"1", "COMPRAVENTA DE INMUEBLES", {{"PESOS", "1000000", nullptr}, {"DOLARES", "100.50", "1050"}},
-                       {u("VENDEDOR"), u("COMPRADOR")}, nullptr, "20.000,00"});
+            operacion({"1",
+                       "COMPRAVENTA DE INMUEBLES",
+                       {{"PESOS", "1000000", nullptr}, {"DOLARES", "100.50", "1050"}},
+                       {u("VENDEDOR"), u("COMPRADOR")},
+                       nullptr,
+                       "20.000,00"});
             recibo();
             salirDeEscritura();
         });
@@ -294,8 +302,12 @@ private:
             aceptarEscritura();
             parte("SOCIEDAD ANONIMA", "CUIT", "30707070702", "banco del sur s.a.");
             parte("UNIPERSONAL", "CUIT", "27222333445", "sosa ñ. marta", "50");
-            operacion({"11", "CONSTITUCION DE HIPOTECA", {{"PESOS", "3000000", nullptr}},
-                       {u("ACREEDOR HIPOTECARIO"), u("DEUDOR HIPOTECARIO")}, nullptr, "12.000,00"});
+            operacion({"11",
+                       "CONSTITUCION DE HIPOTECA",
+                       {{"PESOS", "3000000", nullptr}},
+                       {u("ACREEDOR HIPOTECARIO"), u("DEUDOR HIPOTECARIO")},
+                       nullptr,
+                       "12.000,00"});
             salirDeEscritura();
         });
         g_.paso(u("Escritura 3: un poder, con una parte extranjera"), [&] {
@@ -312,8 +324,12 @@ private:
             parte("UNIPERSONAL", "CUIT", "20123456786", "gómez peñaloza juan");
             parte("FIDEICOMISO", "CUIT", "30707070702", "fideicomiso alto verde");
             parte("UNIPERSONAL", "DNI", "30111222", "luna sofía");
-            operacion({"27", "CONTRATO DE FIDEICOMISO", {{"PESOS", "5000", nullptr}},
-                       {u("FIDUCIANTE"), {}, {}}, nullptr, "0,00"});
+            operacion({"27",
+                       "CONTRATO DE FIDEICOMISO",
+                       {{"PESOS", "5000", nullptr}},
+                       {u("FIDUCIANTE"), {}, {}},
+                       nullptr,
+                       "0,00"});
             salirDeEscritura();
         });
         g_.paso(u("Escritura 5: un protesto, con módulos según escala"), [&] {
@@ -331,7 +347,8 @@ private:
         g_.paso(u("Un número repetido se carga como ERROSE"), [&] {
             escritura({"6", "10", "13", "PASO", nullptr, nullptr});
             aceptarEscritura({{u("Atención: Se solapa el Nº Escritura"), u("Duplicación de números")}});
-            comprobar(u("estado"), texto(formulario("frmDJ_detalle"), u("cboDET_Estado")).left(14), u("ANULADA/ERROSE"));
+            comprobar(u("estado"), texto(formulario("frmDJ_detalle"), u("cboDET_Estado")).left(14),
+                      u("ANULADA/ERROSE"));
             salirDeEscritura();
         });
         g_.paso(u("Un día que retrocede, y la escritura que no pasó"), [&] {
@@ -354,7 +371,12 @@ private:
             pulsar(f, u("tlb"), u("aceptar"));
             parte("UNIPERSONAL", "DNI", "31222333", "peralta inés");
             // Whoever bears the tax is exempt by half.
-            operacion({nullptr, "CESIÓN DE MARCAS Y PATENTES", {{"PESOS", "2000000", nullptr}}, {u("CEDENTE"), u("CESIONARIO")}, nullptr, "10.000,00"});
+            operacion({nullptr,
+                       "CESIÓN DE MARCAS Y PATENTES",
+                       {{"PESOS", "2000000", nullptr}},
+                       {u("CEDENTE"), u("CESIONARIO")},
+                       nullptr,
+                       "10.000,00"});
             salirDeEscritura();
         });
     }
@@ -422,9 +444,11 @@ private:
             if (QFileInfo(guardado).size() == 0)
                 throw Inesperado(u("no está el archivo ") + guardado);
             QProcess lector;
-            lector.start(QCoreApplication::applicationDirPath() + u("/leer_dj"), {guardado, u("--codigo"), codigo(nro)});
+            lector.start(QCoreApplication::applicationDirPath() + u("/leer_dj"),
+                         {guardado, u("--codigo"), codigo(nro)});
             if (!lector.waitForFinished() || lector.exitCode() != 0)
-                throw Inesperado(u("leer_dj no acepta lo emitido:\n") + QString::fromUtf8(lector.readAllStandardOutput()));
+                throw Inesperado(u("leer_dj no acepta lo emitido:\n")
+                                 + QString::fromUtf8(lector.readAllStandardOutput()));
             const QString archivo = carpeta_programa() + u("/data/") + nro + u("/SRTN") + nro + u(".txt");
             if (QFileInfo(archivo).size() == 0)
                 throw Inesperado(u("no está el archivo ") + archivo);

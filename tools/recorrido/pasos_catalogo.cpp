@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "recorrido/pasos_catalogo.h"
 
 #include "widgets/formulario.h"
@@ -25,7 +27,8 @@ void buscar(QWidget* catalogo, const QString& texto)
 void cabecera(Guia& g, QWidget* f)
 {
     comprobar(u("código"), texto(f, u("nroCodigo")), u("5707051"));
-    Cajas::durante({{u("Ingrese la descripción del subconcepto"), f->windowTitle()}}, [&] { pulsar(f, u("toolbar"), u("aceptar")); });
+    Cajas::durante({{u("Ingrese la descripción del subconcepto"), f->windowTitle()}},
+                   [&] { pulsar(f, u("toolbar"), u("aceptar")); });
     escribir(f, u("txtDescripcion"), u("cesión de marcas y patentes"));
     Cajas::durante({{u("Seleccione el concepto"), f->windowTitle()}}, [&] { pulsar(f, u("toolbar"), u("aceptar")); });
     elegir(f, u("cboConcepto"), u("8 - Cesiones"));

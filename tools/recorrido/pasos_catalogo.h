@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The steps that go through the catalogue and through the directory of persons.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "agents/screens/frmRTN_editar.h"
 
 #include "widgets/ctlComunes.h"
@@ -15,7 +17,7 @@ namespace {
 struct Enlace
 {
     const char* control;
-    QString Agente::* campo;
+    QString Agente::*campo;
 };
 
 constexpr Enlace CAMPOS[] = {
@@ -36,7 +38,8 @@ constexpr Enlace CAMPOS[] = {
 frmRTN_editar::frmRTN_editar() : ui(std::make_unique<Ui::frmRTN_editar>())
 {
     ui->setupUi(this);
-    for (QLineEdit* texto : {ui->txtTitular, ui->txtDomicilio, ui->txtCodPostal, ui->txtAdscripto1_nombre, ui->txtAdscripto2_nombre})
+    for (QLineEdit* texto :
+         {ui->txtTitular, ui->txtDomicilio, ui->txtCodPostal, ui->txtAdscripto1_nombre, ui->txtAdscripto2_nombre})
         a_mayusculas(texto);
     static const QRegularExpression sin_apostrofo(u"[^']*"_s);
     ui->txtEmail->setValidator(new QRegularExpressionValidator(sin_apostrofo, this));

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "application/screens/MDIPrincipal.h"
 
 #include "catalogue/screens/frmSubconceptos.h"
@@ -61,10 +63,10 @@ void MDIPrincipal::mostrarEstado()
 {
     auto* ruta = new QLabel(u"Base de datos: "_s + QDir::toNativeSeparators(ruta_abierta()));
     ruta->setObjectName(u"panelBase"_s);
-    auto* ley = new QLabel(LeyVigente == 0 ? u"Sin ley vigente"_s
-                                           : u"Ley vigente: %1 (desde %2)"_s
-                                                 .arg(LeyVigente)
-                                                 .arg(LeyVigenciaDesde.toString(u"dd/MM/yyyy"_s)));
+    auto* ley = new QLabel(
+        LeyVigente == 0
+            ? u"Sin ley vigente"_s
+            : u"Ley vigente: %1 (desde %2)"_s.arg(LeyVigente).arg(LeyVigenciaDesde.toString(u"dd/MM/yyyy"_s)));
     ley->setObjectName(u"panelLey"_s);
     ui->StatusBar->addWidget(ruta, 1);
     ui->StatusBar->addPermanentWidget(ley);
@@ -78,8 +80,8 @@ void MDIPrincipal::Hab_Deshab_Menu(bool habilitar)
 void MDIPrincipal::closeEvent(QCloseEvent* evento)
 {
     evento->ignore();
-    if (!DialogoPantalla(this).preguntar({u"¿Está seguro que desea salir del sistema?"_s,
-                                          u"VEDRA-RTN"_s, Icono::pregunta}))
+    if (!DialogoPantalla(this).preguntar(
+            {u"¿Está seguro que desea salir del sistema?"_s, u"VEDRA-RTN"_s, Icono::pregunta}))
         return;
     // The newest form stands on the others. One that the user keeps open keeps the program.
     auto formularios = Formulario::cargados();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The one top-level window: menu, child windows, status bar, exit.
 #pragma once
 

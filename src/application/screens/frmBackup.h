@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Stands behind the unavailable backup entry of the menu; it has no logic.
 #pragma once
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Builds a mask, the sum of the bit values of the items that are ticked.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/screens/frmEditarModulo.h"
 
 #include "ui_frmEditarModulo.h"
@@ -14,7 +16,8 @@ frmEditarModulo::~frmEditarModulo() = default;
 
 void frmEditarModulo::Inicializar(Modo operacion, qint32 subconcepto, const clsModuloSellos& rango)
 {
-    setWindowTitle(operacion == Modo::modificar ? u"Modificar cantidad de módulos"_s : u"Nuevo rango con impuesto fijo"_s);
+    setWindowTitle(operacion == Modo::modificar ? u"Modificar cantidad de módulos"_s
+                                                : u"Nuevo rango con impuesto fijo"_s);
     iniciarRango(operacion, subconcepto, rango.IdModulo, rango.ValorDesde, rango.ValorHasta);
     if (operacion != Modo::modificar)
         return;

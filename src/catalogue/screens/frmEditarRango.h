@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // What the editors of both kinds of bracket share: the bounds and the save.
 #pragma once
 

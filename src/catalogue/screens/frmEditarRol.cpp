@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/screens/frmEditarRol.h"
 
 #include "catalogue/roles_catalogo.h"
@@ -91,7 +93,8 @@ void frmEditarRol::aceptar()
     try {
         nuevo ? alta_rol(rol, IdSubconcepto_) : modificar_rol(rol, IdSubconcepto_);
     } catch (const ErrorAlmacen& e) {
-        avisar(nuevo ? u"No se pudo dar de alta la parte para el subconcepto especificado"_s : motivo_de_escritura(e), windowTitle());
+        avisar(nuevo ? u"No se pudo dar de alta la parte para el subconcepto especificado"_s : motivo_de_escritura(e),
+               windowTitle());
         return;
     }
     descargar();

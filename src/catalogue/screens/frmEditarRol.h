@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A role of an item: how a party takes part in its operations.
 #pragma once
 

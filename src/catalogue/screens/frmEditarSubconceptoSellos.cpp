@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
 
 #include "catalogue/screens/frmCrearMascara.h"
@@ -95,7 +97,8 @@ void frmEditarSubconceptoSellos::conectar()
     for (QLineEdit* mascara : {ui->txtGarantiaCumplimiento_suma, ui->txtObligAccesoria_suma})
         solo_digitos_en(mascara);
     for (const QCheckBox* casilla : findChildren<QCheckBox*>())
-        connect(casilla, &QCheckBox::toggled, this, [this, nombre = casilla->objectName()](bool si) { cambioCasilla(nombre, si); });
+        connect(casilla, &QCheckBox::toggled, this,
+                [this, nombre = casilla->objectName()](bool si) { cambioCasilla(nombre, si); });
     connect(ui->ctlTipoCalculo, &ctlCombo::ItemClick, this, &frmEditarSubconceptoSellos::elegirTipoCalculo);
     connect(ui->cmdElegirTCBI, &QPushButton::clicked, this, &frmEditarSubconceptoSellos::elegirTipoBI);
     connect(ui->cmdObligAccesoria_suma, &QPushButton::clicked, this, [this] {
@@ -228,7 +231,8 @@ void frmEditarSubconceptoSellos::elegirTipoBI()
     abrir(tipos);
 }
 
-void frmEditarSubconceptoSellos::crearMascara(QLineEdit* destino, const char* tabla, const char* id, const char* descripcion, const QString& titulo)
+void frmEditarSubconceptoSellos::crearMascara(QLineEdit* destino, const char* tabla, const char* id,
+                                              const char* descripcion, const QString& titulo)
 {
     auto* mascara = cargar<frmCrearMascara>();
     mascara->cargar_elementos(QLatin1StringView(tabla), QLatin1StringView(id), QLatin1StringView(descripcion));

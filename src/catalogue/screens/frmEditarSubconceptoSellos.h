@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One item of the catalogue: its law and calculation, what an operation of it asks for, its brackets and
 // its roles.
 #pragma once
@@ -46,7 +47,8 @@ private:
     void elegirTipoCalculo(const ctlCombo::Fila& fila);
     void mostrarRangos(Rangos rangos);
     void elegirTipoBI();
-    void crearMascara(QLineEdit* destino, const char* tabla, const char* id, const char* descripcion, const QString& titulo);
+    void crearMascara(QLineEdit* destino, const char* tabla, const char* id, const char* descripcion,
+                      const QString& titulo);
 
     // Brackets and roles.
     void prepararRangos();
@@ -58,7 +60,8 @@ private:
     template <class Editor, class T>
     void abrirEditor(const T* elegido);
     /// Asks, and runs the deletion; an error of the engine is told under its own title.
-    void borrar(const QString& pregunta, const QString& titulo, const QString& tituloError, const std::function<void()>& accion);
+    void borrar(const QString& pregunta, const QString& titulo, const QString& tituloError,
+                const std::function<void()>& accion);
 
     [[nodiscard]] int codigo() const;
     [[nodiscard]] QWidget* control(const char* nombre) const { return controles_.value(QString::fromUtf8(nombre)); }
@@ -68,7 +71,7 @@ private:
     QSet<QWidget*> editables_;      ///< what works in the editing state
     ControlesSubconcepto ocultos_;  ///< what no control shows
     int tipoCalculo_ = 0;
-    bool guardado_ = false;         ///< the item is in the store
+    bool guardado_ = false;  ///< the item is in the store
     bool editando_ = false;
     bool mostrando_ = false;
     QList<clsAlicuotaSellos> alicuotas_;

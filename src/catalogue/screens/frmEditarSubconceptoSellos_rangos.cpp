@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tabs of brackets and roles.
 
 #include "catalogue/screens/frmEditarAlicuota.h"
@@ -46,8 +47,8 @@ void frmEditarSubconceptoSellos::prepararRangos()
                     {2000, 2000, 1600, 2000});
     preparar_grilla(ui->grillaModulos, {u"Desde"_s, u"Hasta"_s, u"Monto Impuesto"_s}, {2000, 2000, 2000});
     preparar_grilla(ui->grillaRoles,
-                    {u"Id"_s, u"Descripción"_s, u"Interviene"_s, u"Obligado"_s, u"Requrido SM"_s,
-                     u"Depende de"_s, u"Con valor de"_s, u"de la Tabla"_s, u"CuitEnTramite"_s},
+                    {u"Id"_s, u"Descripción"_s, u"Interviene"_s, u"Obligado"_s, u"Requrido SM"_s, u"Depende de"_s,
+                     u"Con valor de"_s, u"de la Tabla"_s, u"CuitEnTramite"_s},
                     {1300, 2600, 1200, 900, 1200, 2000, 1200, 1600, 1200});
     for (const auto& [grilla, barra, clave] : {std::tuple{ui->grillaAlicuotas, ui->tlbAlicuotas, "modificar"},
                                                std::tuple{ui->grillaModulos, ui->tlbModulos, "modificar"},
@@ -61,8 +62,9 @@ void frmEditarSubconceptoSellos::obtener_alicuotas()
     alicuotas_ = alicuotas_de(codigo());
     ui->grillaAlicuotas->llenar([this] {
         for (const clsAlicuotaSellos& a : std::as_const(alicuotas_))
-            ui->grillaAlicuotas->agregar(QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
-                                          a.Divisor == 0 ? QString() : numero_local(a.Dividendo) + u'/' + numero_local(a.Divisor)});
+            ui->grillaAlicuotas->agregar(
+                QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
+                            a.Divisor == 0 ? QString() : numero_local(a.Dividendo) + u'/' + numero_local(a.Divisor)});
     });
     habilitarBarras();
 }
@@ -72,7 +74,8 @@ void frmEditarSubconceptoSellos::obtener_modulos()
     modulos_ = modulos_de(codigo());
     ui->grillaModulos->llenar([this] {
         for (const clsModuloSellos& m : std::as_const(modulos_))
-            ui->grillaModulos->agregar(QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
+            ui->grillaModulos->agregar(
+                QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
     });
     habilitarBarras();
 }
@@ -82,9 +85,10 @@ void frmEditarSubconceptoSellos::obtener_roles()
     roles_ = roles_de(codigo());
     ui->grillaRoles->llenar([this] {
         for (const clsRol& r : std::as_const(roles_))
-            ui->grillaRoles->agregar({QString::number(r.IdRol), r.Descripcion, r.Requerido ? u"Siempre"_s : u"Esporádico"_s,
-                                      si_no(r.ParicipaImpuesto), si_no(r.CargaOblig_SM), r.SSUBAtributo, r.SSUBAtributo_valor, r.SSUBAtributo_tabla,
-                                      si_no(r.Permite_CuitEnTramite)});
+            ui->grillaRoles->agregar({QString::number(r.IdRol), r.Descripcion,
+                                      r.Requerido ? u"Siempre"_s : u"Esporádico"_s, si_no(r.ParicipaImpuesto),
+                                      si_no(r.CargaOblig_SM), r.SSUBAtributo, r.SSUBAtributo_valor,
+                                      r.SSUBAtributo_tabla, si_no(r.Permite_CuitEnTramite)});
     });
     habilitarBarras();
 }
@@ -92,14 +96,17 @@ void frmEditarSubconceptoSellos::obtener_roles()
 void frmEditarSubconceptoSellos::habilitarBarras()
 {
     const bool si = editando_ && guardado_;
-    for (const auto& [barra, filas] : {std::pair{ui->tlbAlicuotas, alicuotas_.size()}, {ui->tlbModulos, modulos_.size()}, {ui->tlbRoles, roles_.size()}}) {
+    for (const auto& [barra, filas] : {std::pair{ui->tlbAlicuotas, alicuotas_.size()},
+                                       {ui->tlbModulos, modulos_.size()},
+                                       {ui->tlbRoles, roles_.size()}}) {
         barra->habilitar(u"alta"_s, si);
         for (const char* clave : {"modificar", "editar", "borrar"})
             barra->habilitar(QLatin1StringView(clave), si && filas > 0);
     }
 }
 
-void frmEditarSubconceptoSellos::borrar(const QString& pregunta, const QString& titulo, const QString& tituloError, const std::function<void()>& accion)
+void frmEditarSubconceptoSellos::borrar(const QString& pregunta, const QString& titulo, const QString& tituloError,
+                                        const std::function<void()>& accion)
 {
     if (!preguntar(pregunta, titulo))
         return;

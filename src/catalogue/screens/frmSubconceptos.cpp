@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/screens/frmSubconceptos.h"
 
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
@@ -31,7 +33,8 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
     connect(ui->toolbar, &BarraHerramientas::pulsada, this, &frmSubconceptos::pulsada);
     connect(ui->grilla, &Grilla::elegida, this, [this] { ui->toolbar->pulsar(u"seleccionar"_s); });
     connect(ui->grilla->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmSubconceptos::ordenar);
-    for (const auto& [casilla, texto] : {std::pair{ui->chkLey, ui->txtLey}, {ui->chkArticulo, ui->txtArticulo}, {ui->chkInciso, ui->txtInciso}}) {
+    for (const auto& [casilla, texto] :
+         {std::pair{ui->chkLey, ui->txtLey}, {ui->chkArticulo, ui->txtArticulo}, {ui->chkInciso, ui->txtInciso}}) {
         habilitar_texto(texto, false);
         connect(casilla, &QCheckBox::toggled, texto, [texto](bool si) {
             habilitar_texto(texto, si);
@@ -78,7 +81,8 @@ FiltroSubconceptos frmSubconceptos::filtro() const
 void frmSubconceptos::buscar_subconceptos()
 {
     const QString sql = consulta_subconceptos(filtro());
-    ui->grilla->llenar([&] { leer_subconceptos(sql, [this](std::span<const std::string_view> fila) { ui->grilla->agregar(fila); }); });
+    ui->grilla->llenar(
+        [&] { leer_subconceptos(sql, [this](std::span<const std::string_view> fila) { ui->grilla->agregar(fila); }); });
     const int n = ui->grilla->filas();
     ui->lblResultado->setText(QString::number(n) + u" registro"_s + (n == 1 ? QString() : u"s"_s));
     habilitarBotones();
@@ -135,7 +139,8 @@ void frmSubconceptos::abrirEditor(Modo operacion)
     auto* editor = cargar<frmEditarSubconceptoSellos>();
     const bool modifica = operacion == Modo::modificar;
     editor->Inicializar(operacion, modifica ? ui->grilla->clave().toInt() : 0,
-                        modifica ? ui->grilla->celda(ui->grilla->filaActual(), COLUMNA_CONCEPTO).toInt() : item_data(ui->cboConcepto));
+                        modifica ? ui->grilla->celda(ui->grilla->filaActual(), COLUMNA_CONCEPTO).toInt()
+                                 : item_data(ui->cboConcepto));
     abrir(editor);
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The taxable items of the catalogue: found by their filters, picked, and kept.
 #pragma once
 

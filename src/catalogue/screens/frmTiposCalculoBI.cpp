@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "catalogue/screens/frmTiposCalculoBI.h"
 
 #include "core/modGlobales.h"
@@ -9,7 +11,8 @@ frmTiposCalculoBI::frmTiposCalculoBI() : ui(std::make_unique<Ui::frmTiposCalculo
 {
     ui->setupUi(this);
     preparar_grilla(ui->grillaTCBI, {u"ID"_s, u"Descripción"_s, u"Observaciones"_s}, {600, 4200, 3600});
-    connect(ui->grillaTCBI->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmTiposCalculoBI::mostrarFila);
+    connect(ui->grillaTCBI->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &frmTiposCalculoBI::mostrarFila);
     connect(ui->grillaTCBI, &Grilla::elegida, this, [this] { ui->tlbTCBI->pulsar(u"seleccionar"_s); });
     connect(ui->tlbTCBI, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
         if (clave == u"seleccionar")
@@ -19,7 +22,8 @@ frmTiposCalculoBI::frmTiposCalculoBI() : ui(std::make_unique<Ui::frmTiposCalculo
     });
     ui->grillaTCBI->llenar([this] {
         for (Recordset rs(cnRtn, u"select * from SEL_TB_TIPOS_CALCULO_BI"_s); !rs.eof(); rs.siguiente())
-            ui->grillaTCBI->agregar({rs.texto("SCBI_ID"), rs.texto("SCBI_DESCRIPCION"), rs.texto("SCBI_OBSERVACIONES")});
+            ui->grillaTCBI->agregar(
+                {rs.texto("SCBI_ID"), rs.texto("SCBI_DESCRIPCION"), rs.texto("SCBI_OBSERVACIONES")});
     });
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The rules by which a taxable base is computed; one is handed back.
 #pragma once
 

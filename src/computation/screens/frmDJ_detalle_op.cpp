@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "computation/screens/frmDJ_detalle_op.h"
 
 #include "computation/screens/frmDetalleSSUB.h"
@@ -38,8 +40,10 @@ constexpr std::array ESTADOS{
 Entradas monedas()
 {
     Entradas lista;
-    for (Recordset rs(cnRtn, u"select GMON_ID, GMON_DESCRIPCION, GMON_ALIAS from GLB_TB_MONEDAS"_s); !rs.eof(); rs.siguiente())
-        lista.push_back({rs.texto("GMON_DESCRIPCION").leftJustified(POSICION_MONEDA) + rs.texto("GMON_ID"), rs.valor("GMON_ID")});
+    for (Recordset rs(cnRtn, u"select GMON_ID, GMON_DESCRIPCION, GMON_ALIAS from GLB_TB_MONEDAS"_s); !rs.eof();
+         rs.siguiente())
+        lista.push_back(
+            {rs.texto("GMON_DESCRIPCION").leftJustified(POSICION_MONEDA) + rs.texto("GMON_ID"), rs.valor("GMON_ID")});
     return lista;
 }
 
@@ -48,12 +52,11 @@ Entradas monedas()
 frmDJ_detalle_op::frmDJ_detalle_op() : ui(std::make_unique<Ui::frmDJ_detalle_op>())
 {
     ui->setupUi(this);
-    preparar_grilla(ui->flxVC, {u"Nro"_s, u"Monto"_s, u"Moneda"_s, u"Total"_s},
-                    {800, 1400, 1400, 1400});
+    preparar_grilla(ui->flxVC, {u"Nro"_s, u"Monto"_s, u"Moneda"_s, u"Total"_s}, {800, 1400, 1400, 1400});
     preparar_grilla(ui->flxInm, {u"NºInm"_s, u"Partida"_s, u"Val.Fiscal"_s}, {800, 1400, 1800});
     preparar_grilla(ui->flxPartes,
-                    {u"Id.Parte"_s, u"Tipo Doc"_s, u"Nro Doc"_s, u"Denominación"_s,
-                     u"Id.Rol"_s, u"Rol"_s, u"Observaciones"_s, u"Exención %"_s},
+                    {u"Id.Parte"_s, u"Tipo Doc"_s, u"Nro Doc"_s, u"Denominación"_s, u"Id.Rol"_s, u"Rol"_s,
+                     u"Observaciones"_s, u"Exención %"_s},
                     {700, 900, 1100, 2000, 0, 1700, 1500, 800});
     cboRoles_ = new QComboBox(ui->flxPartes->viewport());
     cboRoles_->setObjectName(u"cboRoles"_s);
@@ -74,9 +77,10 @@ frmDJ_detalle_op::frmDJ_detalle_op() : ui(std::make_unique<Ui::frmDJ_detalle_op>
                                        std::pair{"borrar", "Borrar el valor contractual parcial seleccionado"}})
         ui->tlbBI->ayuda(QLatin1String(clave), QString::fromUtf8(texto));
     const QPalette p = palette();
-    for (const auto& [etiqueta, fondo, texto] : {std::tuple{ui->lblObligado, p.color(QPalette::Base), p.color(QPalette::Highlight)},
-                                                 std::tuple{ui->lblInformativo, p.color(QPalette::Base), p.color(QPalette::Text)},
-                                                 std::tuple{ui->lblNoParticipaOp, p.color(QPalette::ToolTipBase), QColor(Qt::darkGray)}}) {
+    for (const auto& [etiqueta, fondo, texto] :
+         {std::tuple{ui->lblObligado, p.color(QPalette::Base), p.color(QPalette::Highlight)},
+          std::tuple{ui->lblInformativo, p.color(QPalette::Base), p.color(QPalette::Text)},
+          std::tuple{ui->lblNoParticipaOp, p.color(QPalette::ToolTipBase), QColor(Qt::darkGray)}}) {
         QPalette pe = p;
         pe.setColor(QPalette::Window, fondo);
         pe.setColor(QPalette::WindowText, texto);
@@ -137,11 +141,13 @@ void frmDJ_detalle_op::conectar()
     ui->flxPartes->installEventFilter(this);
     cboRoles_->installEventFilter(this);
     txtRolObs_->installEventFilter(this);
-    connect(ui->flxPartes, &QTableView::clicked, this, [this](const QModelIndex& i) { abrirEditorDeCelda(i.row(), i.column(), {}); });
+    connect(ui->flxPartes, &QTableView::clicked, this,
+            [this](const QModelIndex& i) { abrirEditorDeCelda(i.row(), i.column(), {}); });
     connect(cboRoles_, &QComboBox::activated, this, [this] { cerrarEditorDeCelda(true); });
 }
 
-void frmDJ_detalle_op::fijarRenglon(const QString& dj, const QString& renglon, const QString& dia, const QString& posicion)
+void frmDJ_detalle_op::fijarRenglon(const QString& dj, const QString& renglon, const QString& dia,
+                                    const QString& posicion)
 {
     ui->txtDJ_nro->setText(dj);
     ui->txtRenglonDJ->setText(renglon);
@@ -202,7 +208,8 @@ void frmDJ_detalle_op::ponerEstado(Estado estado)
 
 void frmDJ_detalle_op::ponerMarcos(bool si)
 {
-    for (QWidget* marco : {static_cast<QWidget*>(ui->fraBI), static_cast<QWidget*>(ui->fraImp), static_cast<QWidget*>(ui->fraPartes)})
+    for (QWidget* marco :
+         {static_cast<QWidget*>(ui->fraBI), static_cast<QWidget*>(ui->fraImp), static_cast<QWidget*>(ui->fraPartes)})
         marco->setEnabled(si);
 }
 
@@ -319,8 +326,9 @@ void frmDJ_detalle_op::mostrarPorSubconcepto()
     ui->nroValorContractual->Habilitar(con_valor);
     ui->cboMoneda->setEnabled(con_valor);
     ui->nroPorcIVA->Habilitar(con_valor);
-    for (QWidget* w : {static_cast<QWidget*>(ui->ctlValorCambio), static_cast<QWidget*>(ui->lblValorCambio), static_cast<QWidget*>(ui->cboMoneda),
-                       static_cast<QWidget*>(ui->lblMoneda), static_cast<QWidget*>(ui->nroPorcIVA), static_cast<QWidget*>(ui->lblPorcIVA)})
+    for (QWidget* w : {static_cast<QWidget*>(ui->ctlValorCambio), static_cast<QWidget*>(ui->lblValorCambio),
+                       static_cast<QWidget*>(ui->cboMoneda), static_cast<QWidget*>(ui->lblMoneda),
+                       static_cast<QWidget*>(ui->nroPorcIVA), static_cast<QWidget*>(ui->lblPorcIVA)})
         w->setVisible(s.RequiereMoneda);
     ui->nroPagoACuenta->Habilitar(s.PermitePagoACuenta);
     if (!s.PermitePagoACuenta)
@@ -377,8 +385,10 @@ void frmDJ_detalle_op::cambiarOperacion()
     const QList<ParteRol> partes = partesDeGrilla();
     const bool con_rol = std::any_of(partes.begin(), partes.end(), [](const ParteRol& p) { return !p.rol.isEmpty(); });
     if (!partes.isEmpty() && con_rol
-        && !preguntar(u"Esta acción borrará los roles asignados a las partes que no se correspondan con la nueva operación.\n" u"¿Esta seguro de cambiar la operación?"_s,
-                      windowTitle() + u" - Cambiar operación"_s))
+        && !preguntar(
+            u"Esta acción borrará los roles asignados a las partes que no se correspondan con la nueva operación.\n"
+            u"¿Esta seguro de cambiar la operación?"_s,
+            windowTitle() + u" - Cambiar operación"_s))
         return;
     codigoAnterior_ = codigo();
     habilitarEleccion(true);
@@ -391,12 +401,13 @@ bool frmDJ_detalle_op::validarDetalle()
     const bool rbi = subconcepto_ && subconcepto_->RequiereBaseImponible;
     auto falla = !rbi ? std::optional<Falla>()
                       : primera_falla({
-                            {subconcepto_->RequiereValorContractual && ui->flxVC->filas() == 0,
-                             "Ingrese (o guarde) el valor contractual de la operación", "nroValorContractual"},
-                            {subconcepto_->RequiereValuacionFiscal && ui->nroValuacionFiscal->Value() == 0, "Ingrese la valuación fiscal",
-                             "nroValuacionFiscal"},
-                            {subconcepto_->RequiereHipoteca && ui->nroHipoteca->Value() == 0, "Ingrese el monto de la hipoteca", "nroHipoteca"},
-                        });
+                          {subconcepto_->RequiereValorContractual && ui->flxVC->filas() == 0,
+                           "Ingrese (o guarde) el valor contractual de la operación", "nroValorContractual"},
+                          {subconcepto_->RequiereValuacionFiscal && ui->nroValuacionFiscal->Value() == 0,
+                           "Ingrese la valuación fiscal", "nroValuacionFiscal"},
+                          {subconcepto_->RequiereHipoteca && ui->nroHipoteca->Value() == 0,
+                           "Ingrese el monto de la hipoteca", "nroHipoteca"},
+                      });
     if (falla) {
         avisar(falla->mensaje, windowTitle());
         ui->SSTab1->setCurrentIndex(SOLAPA_BASE);
@@ -405,8 +416,8 @@ bool frmDJ_detalle_op::validarDetalle()
     }
     if (roles_obligatorios(subconcepto_ ? &*subconcepto_ : nullptr, partesDeGrilla(), textoRolesObligatorios_))
         return true;
-    avisar(textoRolesObligatorios_ + u"\nPor favor, ingrese los roles de las partes."_s, windowTitle() + u" - Atención!"_s,
-           Icono::exclamacion);
+    avisar(textoRolesObligatorios_ + u"\nPor favor, ingrese los roles de las partes."_s,
+           windowTitle() + u" - Atención!"_s, Icono::exclamacion);
     ui->SSTab1->setCurrentIndex(SOLAPA_ROLES);
     return false;
 }
@@ -486,14 +497,15 @@ bool frmDJ_detalle_op::consultarDescarga()
         return false;
     }
     return !guardado_ || !ui->tlb->habilitada(u"guardar_det"_s)
-        || preguntar(u"¿Descartar los cambios?"_s, windowTitle());
+           || preguntar(u"¿Descartar los cambios?"_s, windowTitle());
 }
 
 void frmDJ_detalle_op::habilitarObligacion()
 {
     const bool si = ui->chkObligAccesoria->isChecked();
-    for (QWidget* w : {static_cast<QWidget*>(ui->cboObligAccesoria_modo), static_cast<QWidget*>(ui->optObligAccesoria_porc),
-                       static_cast<QWidget*>(ui->optObligAccesoria_fijo)})
+    for (QWidget* w :
+         {static_cast<QWidget*>(ui->cboObligAccesoria_modo), static_cast<QWidget*>(ui->optObligAccesoria_porc),
+          static_cast<QWidget*>(ui->optObligAccesoria_fijo)})
         w->setEnabled(si);
     ui->nroObligAccesoria->Habilitar(si);
     const bool poliza = si && ui->cboObligAccesoria_modo->currentText() == u"Seguro de Caución";

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One taxable operation of a deed: its item, the data of its base, the tax, the parties' roles.
 #pragma once
 

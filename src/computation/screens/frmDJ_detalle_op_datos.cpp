@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operation's screen: loading a saved operation, the fields of the calculation, the
 // properties of the deed, and the contract values.
 
@@ -27,10 +28,22 @@ void poner(ctlNumero* n, const std::optional<double>& valor)
 
 CamposImpuesto frmDJ_detalle_op::campos()
 {
-    return {ui->nroTotalVC->modelo(), ui->nroValuacionFiscal->modelo(), ui->nroHipoteca->modelo(), ui->nroObligAccesoria->modelo(),
-            ui->nroBaseImponible->modelo(), ui->ctlBaseImponiblePesos->modelo(), ui->nroAux->modelo(), ui->nroMoA->modelo(),
-            ui->nroExencionPorc->modelo(), ui->nroMontoExento->modelo(), ui->ctlImpuestoCalculado->modelo(), ui->ctlImporteMinimo->modelo(),
-            ui->nroPagoACuenta->modelo(), ui->nroAdicionales->modelo(), ui->nroImpuesto->modelo(), ui->ctlValorCambio->modelo()};
+    return {ui->nroTotalVC->modelo(),
+            ui->nroValuacionFiscal->modelo(),
+            ui->nroHipoteca->modelo(),
+            ui->nroObligAccesoria->modelo(),
+            ui->nroBaseImponible->modelo(),
+            ui->ctlBaseImponiblePesos->modelo(),
+            ui->nroAux->modelo(),
+            ui->nroMoA->modelo(),
+            ui->nroExencionPorc->modelo(),
+            ui->nroMontoExento->modelo(),
+            ui->ctlImpuestoCalculado->modelo(),
+            ui->ctlImporteMinimo->modelo(),
+            ui->nroPagoACuenta->modelo(),
+            ui->nroAdicionales->modelo(),
+            ui->nroImpuesto->modelo(),
+            ui->ctlValorCambio->modelo()};
 }
 
 EstadoOperacion frmDJ_detalle_op::estadoOperacion() const
@@ -68,9 +81,10 @@ void frmDJ_detalle_op::calcularBaseEImpuesto()
 
 void frmDJ_detalle_op::limpiarImportes()
 {
-    for (ctlNumero* n : {ui->nroTotalVC, ui->nroHipoteca, ui->nroObligAccesoria, ui->nroBaseImponible, ui->ctlBaseImponiblePesos, ui->nroMoA,
-                         ui->nroExencionPorc, ui->nroMontoExento, ui->ctlImpuestoCalculado, ui->nroPagoACuenta, ui->nroAdicionales,
-                         ui->nroImpuesto, ui->nroValuacionFiscal})
+    for (ctlNumero* n :
+         {ui->nroTotalVC, ui->nroHipoteca, ui->nroObligAccesoria, ui->nroBaseImponible, ui->ctlBaseImponiblePesos,
+          ui->nroMoA, ui->nroExencionPorc, ui->nroMontoExento, ui->ctlImpuestoCalculado, ui->nroPagoACuenta,
+          ui->nroAdicionales, ui->nroImpuesto, ui->nroValuacionFiscal})
         n->setValue(0);
     ui->chkObligAccesoria->setChecked(false);
     ui->optObligAccesoria_porc->setChecked(true);
@@ -134,8 +148,8 @@ void frmDJ_detalle_op::elegirInmueble(int fila)
         return;
     inmuebleVinculado_ = ui->flxInm->celda(fila, 0).toInt();
     ui->nroValuacionFiscal->setValue(numero_de_texto(ui->flxInm->celda(fila, 2)));
-    ui->lblValuacionFiscal->setText((subconcepto_ ? subconcepto_->NombreValuacionFiscal : QString()) + u" - Val.Fiscal: $"_s
-                                    + ui->nroValuacionFiscal->toString());
+    ui->lblValuacionFiscal->setText((subconcepto_ ? subconcepto_->NombreValuacionFiscal : QString())
+                                    + u" - Val.Fiscal: $"_s + ui->nroValuacionFiscal->toString());
     calcularBaseEImpuesto();
 }
 
@@ -146,8 +160,8 @@ QString frmDJ_detalle_op::idMoneda() const
 
 void frmDJ_detalle_op::calcularParcial()
 {
-    CalcularValorParcial(subconcepto_ ? &*subconcepto_ : nullptr, idMoneda(), ui->nroValorContractual->modelo(), ui->nroPorcIVA->modelo(),
-                         ui->ctlValorCambio->modelo(), ui->nroBIParcial->modelo());
+    CalcularValorParcial(subconcepto_ ? &*subconcepto_ : nullptr, idMoneda(), ui->nroValorContractual->modelo(),
+                         ui->nroPorcIVA->modelo(), ui->ctlValorCambio->modelo(), ui->nroBIParcial->modelo());
 }
 
 void frmDJ_detalle_op::cambioMoneda()
@@ -229,7 +243,8 @@ void frmDJ_detalle_op::guardarValor()
         const auto falla = primera_falla({
             {ui->nroValorContractual->Value() == 0, "Ingrese el valor contractual", "nroValorContractual"},
             {ui->cboMoneda->currentIndex() < 0, "Ingrese la moneda del valor contractual", "cboMoneda"},
-            {ui->ctlValorCambio->Value() == 0, "Ingrese el valor de cambio para la moneda seleccionada", "ctlValorCambio"},
+            {ui->ctlValorCambio->Value() == 0, "Ingrese el valor de cambio para la moneda seleccionada",
+             "ctlValorCambio"},
         });
         if (falla) {
             ui->SSTab1->setCurrentIndex(SOLAPA_BASE);
@@ -238,8 +253,15 @@ void frmDJ_detalle_op::guardarValor()
         }
     }
     const ClaveOperacion c = clave();
-    ValorContractual v{c.dj, c.renglon.toInt(), c.operacion.toInt(), idValor_.toInt(), ui->nroValorContractual->Value(),
-                       ui->nroPorcIVA->Value(), idMoneda(), ui->ctlValorCambio->Value(), ui->nroBIParcial->Value()};
+    ValorContractual v{c.dj,
+                       c.renglon.toInt(),
+                       c.operacion.toInt(),
+                       idValor_.toInt(),
+                       ui->nroValorContractual->Value(),
+                       ui->nroPorcIVA->Value(),
+                       idMoneda(),
+                       ui->ctlValorCambio->Value(),
+                       ui->nroBIParcial->Value()};
     if (modoValor_ == Modo::nuevo) {
         DialogoPantalla dialogo(this);
         if (!alta_valor_contractual(v, true, dialogo))
@@ -274,7 +296,8 @@ void frmDJ_detalle_op::recargarValores()
     if (ui->txtNroOP->text().isEmpty())
         return;
     double total = 0;
-    ui->flxVC->llenar([&] { total = leer_valores(clave(), [this](const QStringList& fila) { ui->flxVC->agregar(fila); }); });
+    ui->flxVC->llenar(
+        [&] { total = leer_valores(clave(), [this](const QStringList& fila) { ui->flxVC->agregar(fila); }); });
     ui->nroTotalVC->setValue(total);
     botonesValores(ui->tlbBI->habilitada(u"nuevo"_s), ui->tlbBI->habilitada(u"guardar"_s));
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The operation's screen: the parties of the deed and their roles.
 
 #include "computation/screens/frmDJ_detalle_op.h"
@@ -143,13 +144,9 @@ bool frmDJ_detalle_op::teclaEnEditor(QObject* editor, QKeyEvent* evento)
     const int columna = editor == cboRoles_ ? COL_ROL : COL_OBS;
     const bool en_texto = editor == txtRolObs_;
     switch (evento->key()) {
-    case Qt::Key_Escape:
-        cerrarEditorDeCelda(false);
-        return true;
+    case Qt::Key_Escape: cerrarEditorDeCelda(false); return true;
     case Qt::Key_Return:
-    case Qt::Key_Enter:
-        cerrarEditorDeCelda(true);
-        return true;
+    case Qt::Key_Enter: cerrarEditorDeCelda(true); return true;
     case Qt::Key_Left:
         if (en_texto && txtRolObs_->cursorPosition() > 0)
             return false;
@@ -173,8 +170,7 @@ bool frmDJ_detalle_op::teclaEnEditor(QObject* editor, QKeyEvent* evento)
             abrirEditorDeCelda(destino, columna, {});
         return true;
     }
-    default:
-        return false;
+    default: return false;
     }
 }
 
@@ -193,7 +189,8 @@ bool frmDJ_detalle_op::teclaEnGrillaRoles(QKeyEvent* evento)
     }
     const QString texto = evento->text();
     const bool orden = evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    if (orden || texto.isEmpty() || (texto.front() < u' ' && evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter))
+    if (orden || texto.isEmpty()
+        || (texto.front() < u' ' && evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter))
         return false;
     abrirEditorDeCelda(fila, columna, texto.front() > u' ' ? texto : QString());
     return true;

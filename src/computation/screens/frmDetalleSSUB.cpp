@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "computation/screens/frmDetalleSSUB.h"
 
 #include "catalogue/subconcepto_memoria.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "declarations/screens/frmDJ_buscar.h"
 
 #include "widgets/ctlComunes.h"
@@ -20,10 +22,10 @@ using namespace Qt::StringLiterals;
 frmDJ_buscar::frmDJ_buscar() : ui(std::make_unique<Ui::frmDJ_buscar>())
 {
     ui->setupUi(this);
-    preparar_grilla(ui->flx,
-                    {u"DJ Nº"_s, u"AR Nº"_s, u"Municipio"_s, u"Año"_s, u"Mes"_s,
-                     u"Rectif."_s, u"Estado"_s, u"Observaciones"_s},
-                    {2200, 1000, 2800, 800, 800, 800, 1400, 2000});
+    preparar_grilla(
+        ui->flx,
+        {u"DJ Nº"_s, u"AR Nº"_s, u"Municipio"_s, u"Año"_s, u"Mes"_s, u"Rectif."_s, u"Estado"_s, u"Observaciones"_s},
+        {2200, 1000, 2800, 800, 800, 800, 1400, 2000});
     cargar_agentes();
     ui->nroAnio->ClearText();
     ui->nroMes->ClearText();
@@ -57,8 +59,9 @@ bool frmDJ_buscar::eventFilter(QObject* objeto, QEvent* evento)
 {
     if (evento->type() == QEvent::FocusOut && objeto == ui->nroMes->focusProxy()) {
         const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
-        const bool sale = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason || motivo == Qt::MouseFocusReason
-            || motivo == Qt::OtherFocusReason || motivo == Qt::ShortcutFocusReason;
+        const bool sale = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason
+                          || motivo == Qt::MouseFocusReason || motivo == Qt::OtherFocusReason
+                          || motivo == Qt::ShortcutFocusReason;
         if (sale && !aceptarMes())
             QMetaObject::invokeMethod(ui->nroMes, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
     }
@@ -103,7 +106,8 @@ void frmDJ_buscar::listar_dj(bool limpiar)
     if (limpiar)
         ui->flx->vaciar();
     const FiltroDJ filtro{item_data(ui->cboRTN), int(ui->nroAnio->Value()), int(ui->nroMes->Value())};
-    ui->flx->llenar([&] { leer_lista_dj(filtro, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
+    ui->flx->llenar(
+        [&] { leer_lista_dj(filtro, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
     habilitar_botones();
 }
 
@@ -160,12 +164,14 @@ void frmDJ_buscar::emitir()
         return;
     const EmisionArchivo emision = generar_archivo_dj(nro);
     if (emision.codigo.isEmpty()) {
-        avisar(u"No se puede emitir la DJ impresa sin generar el archivo previamente \n" u"debido a que se genera un código de verificación de la integridad entre el diskete y la DJ impresa"_s,
+        avisar(u"No se puede emitir la DJ impresa sin generar el archivo previamente \n"
+               u"debido a que se genera un código de verificación de la integridad entre el diskete y la DJ impresa"_s,
                {}, Icono::ninguno);
         return;
     }
     const auto pedir = [this](const QString& propuesto) {
-        return QFileDialog::getSaveFileName(this, u"Guardar la declaración jurada"_s, propuesto, u"Archivo comprimido (*.rar)"_s);
+        return QFileDialog::getSaveFileName(this, u"Guardar la declaración jurada"_s, propuesto,
+                                            u"Archivo comprimido (*.rar)"_s);
     };
     if (!comprimir_dj(nro, dialogo, pedir))
         return;

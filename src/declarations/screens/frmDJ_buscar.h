@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The sworn returns: their list, and what is done with one.
 #pragma once
 

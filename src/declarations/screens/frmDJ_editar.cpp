@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "declarations/screens/frmDJ_editar.h"
 
 #include "widgets/ctlComunes.h"
@@ -60,10 +62,10 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
     }
     ui->SSTab1->setTabEnabled(SOLAPA_DETALLE, false);
     ui->SSTab1->setTabEnabled(SOLAPA_BOLETAS, false);
-    preparar_grilla(ui->flxOp,
-                    {u"NºRenglón"_s, u"Escritura"_s, u"Folio"_s, u"Dia"_s,
-                     u"Operación"_s, u"Observaciones"_s, u"Impuesto"_s},
-                    {0, 800, 600, 600, 3400, 1500, 1100});
+    preparar_grilla(
+        ui->flxOp,
+        {u"NºRenglón"_s, u"Escritura"_s, u"Folio"_s, u"Dia"_s, u"Operación"_s, u"Observaciones"_s, u"Impuesto"_s},
+        {0, 800, 600, 600, 3400, 1500, 1100});
     preparar_grilla(ui->flxB, {u"Nro boleta"_s, u"Importe"_s}, {2500, 1200});
     ui->dtpBOL_venc->setEnabled(false);
     ui->nroTotal_depositar->setValue(0);
@@ -161,7 +163,8 @@ bool frmDJ_editar::componer_nro_dj()
         avisar(u"La posicion a declarar con este aplicativo debe ser posterior a 2006/06"_s, {});
         return false;
     }
-    ui->txtNroDJ->setText(componer_numero(ui->txtCUIT->text(), ui->txtAnio->text(), item_data(ui->cboMes), item_data(ui->cboRectificativa)));
+    ui->txtNroDJ->setText(componer_numero(ui->txtCUIT->text(), ui->txtAnio->text(), item_data(ui->cboMes),
+                                          item_data(ui->cboRectificativa)));
     calcular_vencimiento();
     return true;
 }
@@ -172,7 +175,8 @@ void frmDJ_editar::calcular_vencimiento()
         return;
     const QDate dia = hoy();
     const bool con_posicion = item_data(ui->cboMes) != 0 && !ui->txtAnio->text().isEmpty();
-    const QDate fecha = con_posicion ? vencimiento_dj(ui->txtAnio->text().toInt(), item_data(ui->cboMes)) : QDate(dia.year(), dia.month(), 15);
+    const QDate fecha = con_posicion ? vencimiento_dj(ui->txtAnio->text().toInt(), item_data(ui->cboMes))
+                                     : QDate(dia.year(), dia.month(), 15);
     ui->dtpBOL_venc->setMinimumDate(fecha);
     ui->dtpBOL_venc->setDate(fecha);
     ui->dtpBOL_emision->setDate(dia);
@@ -194,8 +198,9 @@ void frmDJ_editar::salirDeAgente()
 
 void frmDJ_editar::limpiar_agente()
 {
-    for (QLineEdit* texto : {ui->txtCUIT, ui->txtDomicilio, ui->txtCodPostal, ui->txtTelefono, ui->txtLocalidad, ui->txtEmail,
-                             ui->txtAdscripto1_nombre, ui->txtAdscripto1_cuit, ui->txtAdscripto2_nombre, ui->txtAdscripto2_cuit})
+    for (QLineEdit* texto :
+         {ui->txtCUIT, ui->txtDomicilio, ui->txtCodPostal, ui->txtTelefono, ui->txtLocalidad, ui->txtEmail,
+          ui->txtAdscripto1_nombre, ui->txtAdscripto1_cuit, ui->txtAdscripto2_nombre, ui->txtAdscripto2_cuit})
         texto->clear();
     localidad_ = 0;
 }
@@ -299,16 +304,22 @@ void frmDJ_editar::habilitar_tlbDetalle()
 // No question is asked: the deeds go when the DJ is accepted.
 void frmDJ_editar::marcar_sin_movimientos()
 {
-    if (ui->txtNroDJ->text().isEmpty() || item_data(ui->cboDJ_Estado) != 1 || cantidad_renglones(ui->txtNroDJ->text()) == 0)
+    if (ui->txtNroDJ->text().isEmpty() || item_data(ui->cboDJ_Estado) != 1
+        || cantidad_renglones(ui->txtNroDJ->text()) == 0)
         return;
-    avisar(u"Atención: Hay escrituras cargadas. \nLa acción de marcarla SIN MOVIMIENTOS borrará todas las escrituras cargadas en esta DJ."_s,
-           u"DJ - Marcar SIN MOVIMIENTOS"_s);
+    avisar(
+        u"Atención: Hay escrituras cargadas. \nLa acción de marcarla SIN MOVIMIENTOS borrará todas las escrituras cargadas en esta DJ."_s,
+        u"DJ - Marcar SIN MOVIMIENTOS"_s);
 }
 
 ControlesCabecera frmDJ_editar::leer_controles() const
 {
-    return {ui->txtRTN_nro->text(), item_data(ui->cboRTN), ui->txtAnio->text(), item_data(ui->cboMes),
-            ui->cboRectificativa->currentIndex() < 0 ? -1 : item_data(ui->cboRectificativa), ui->txtObs->text()};
+    return {ui->txtRTN_nro->text(),
+            item_data(ui->cboRTN),
+            ui->txtAnio->text(),
+            item_data(ui->cboMes),
+            ui->cboRectificativa->currentIndex() < 0 ? -1 : item_data(ui->cboRectificativa),
+            ui->txtObs->text()};
 }
 
 CabeceraDJ frmDJ_editar::leer_cabecera() const

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The tab of the deposit slips.
 
 #include "core/almacen.h"
@@ -20,7 +21,8 @@ void frmDJ_editar::conectarBoletas()
                 [this] { ui->nroBOL_Total_depositar->setValue(ui->nroImpuesto->Value() + ui->nroInteres->Value()); });
     for (ctlNumero* n : {ui->nroEfectivo, ui->nroCheque1_monto, ui->nroCheque2_monto})
         connect(n, &ctlNumero::cambiado, this, [this] {
-            ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value() + ui->nroEfectivo->Value());
+            ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value()
+                                         + ui->nroEfectivo->Value());
         });
     habilitar_botones_boleta();
 }
@@ -37,7 +39,8 @@ void frmDJ_editar::devolverBoletas()
 
 void frmDJ_editar::cargar_boletas()
 {
-    ui->flxB->llenar([this] { leer_boletas(ui->txtNroDJ->text(), [this](const QStringList& fila) { ui->flxB->agregar(fila); }); });
+    ui->flxB->llenar(
+        [this] { leer_boletas(ui->txtNroDJ->text(), [this](const QStringList& fila) { ui->flxB->agregar(fila); }); });
     habilitar_botones_boleta();
 }
 
@@ -58,10 +61,13 @@ ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
     c.secuencia = item_data(ui->cboRectificativa);
     c.emision = ui->dtpBOL_emision->date();
     c.vencimiento = ui->dtpBOL_venc->date();
-    const std::pair<Numero*, ctlNumero*> numeros[] = {
-        {&c.impuesto, ui->nroImpuesto}, {&c.interes, ui->nroInteres}, {&c.totalDepositar, ui->nroBOL_Total_depositar},
-        {&c.efectivo, ui->nroEfectivo}, {&c.cheques[0].monto, ui->nroCheque1_monto}, {&c.cheques[1].monto, ui->nroCheque2_monto},
-        {&c.totalBoleta, ui->nroTotalBoleta}};
+    const std::pair<Numero*, ctlNumero*> numeros[] = {{&c.impuesto, ui->nroImpuesto},
+                                                      {&c.interes, ui->nroInteres},
+                                                      {&c.totalDepositar, ui->nroBOL_Total_depositar},
+                                                      {&c.efectivo, ui->nroEfectivo},
+                                                      {&c.cheques[0].monto, ui->nroCheque1_monto},
+                                                      {&c.cheques[1].monto, ui->nroCheque2_monto},
+                                                      {&c.totalBoleta, ui->nroTotalBoleta}};
     for (const auto& [numero, campo] : numeros)
         numero->escribirTexto(campo->toString());
     c.cheques[0].nro = ui->txtCheque1_nro->text();
@@ -78,7 +84,8 @@ void frmDJ_editar::generar_boleta()
 {
     ui->tlbB->setEnabled(false);
     puntero_de_espera();
-    ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value() + ui->nroEfectivo->Value());
+    ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value()
+                                 + ui->nroEfectivo->Value());
     ControlesBoleta c = leer_boleta_de_pantalla();
     const auto falla = validar_boleta(c);
     ui->txtCheque1_nro->setText(c.cheques[0].nro);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "deeds/screens/frmDJ_detalle.h"
 
 #include "widgets/ctlComunes.h"
@@ -36,20 +38,15 @@ frmDJ_detalle::frmDJ_detalle() : ui(std::make_unique<Ui::frmDJ_detalle>())
     ui->nroDia->ClearText();
     llenar_combo(ui->cboDET_Estado, entradas_estado());
     ui->cboDET_Estado->setCurrentIndex(int(EstadoEscritura::paso));
-    llenar_combo(ui->cboDesc_NoAlcanzado, leer_entradas(u"select * from SEL_TB_NO_ALCANZADOS_DESC order by SNAD_ORDEN"_s,
-                                                         "SNAD_DESCRIPCION", "SNAD_ID"));
+    llenar_combo(
+        ui->cboDesc_NoAlcanzado,
+        leer_entradas(u"select * from SEL_TB_NO_ALCANZADOS_DESC order by SNAD_ORDEN"_s, "SNAD_DESCRIPCION", "SNAD_ID"));
     ui->cboAlcanzado->setCurrentIndex(0);
-    preparar_grilla(ui->flxPartes,
-                    {u"Id.Parte"_s, u"TipoDoc"_s, u"NroDoc"_s, u"Denominación"_s,
-                     u"Nacionalidad"_s},
+    preparar_grilla(ui->flxPartes, {u"Id.Parte"_s, u"TipoDoc"_s, u"NroDoc"_s, u"Denominación"_s, u"Nacionalidad"_s},
                     {800, 1200, 1200, 4000, 3000});
-    preparar_grilla(ui->flxOp,
-                    {u"NºOp."_s, u"Cod.Op."_s, u"Descripción"_s, u"Base Imp."_s,
-                     u"Impuesto"_s},
+    preparar_grilla(ui->flxOp, {u"NºOp."_s, u"Cod.Op."_s, u"Descripción"_s, u"Base Imp."_s, u"Impuesto"_s},
                     {800, 800, 4300, 1200, 1000});
-    preparar_grilla(ui->flxInm,
-                    {u"NºInm"_s, u"Partida"_s, u"Ubicación "_s, u"Val.Fiscal"_s},
-                    {800, 800, 3000, 3000});
+    preparar_grilla(ui->flxInm, {u"NºInm"_s, u"Partida"_s, u"Ubicación "_s, u"Val.Fiscal"_s}, {800, 800, 3000, 3000});
     habilitarMotivo();
     conectar();
     habilitar_solapas(false);
@@ -194,8 +191,12 @@ void frmDJ_detalle::cambioEstado()
 void frmDJ_detalle::cambioAlcance()
 {
     if (!alcanzado() && hayHijos()) {
-        const bool si = preguntar(u"La acción de marcar una escritura como NO ALCANZADA borrará las operaciones, partes e inmuebles asociados a la misma.\n" u"Esto se debe a que el sistema solo contiene las operaciones alcanzadas.\n" u"Una escritura No Alcanzada no puede contener operaciones asociadas.\n\n" u"¿Esta seguro de continuar con la acción?"_s,
-                                  windowTitle() + u" - Escritura No Alcanzada"_s);
+        const bool si = preguntar(
+            u"La acción de marcar una escritura como NO ALCANZADA borrará las operaciones, partes e inmuebles asociados a la misma.\n"
+            u"Esto se debe a que el sistema solo contiene las operaciones alcanzadas.\n"
+            u"Una escritura No Alcanzada no puede contener operaciones asociadas.\n\n"
+            u"¿Esta seguro de continuar con la acción?"_s,
+            windowTitle() + u" - Escritura No Alcanzada"_s);
         if (si)
             borrar_hijos_escritura();
         else
@@ -339,15 +340,16 @@ void frmDJ_detalle::tlbDetalle_pulsada(const QString& clave)
 
 bool frmDJ_detalle::consultarDescarga()
 {
-    if (ui->cboDET_Estado->currentIndex() != int(EstadoEscritura::paso) || !alcanzado() || ui->txtRenglonDJ->text().isEmpty())
+    if (ui->cboDET_Estado->currentIndex() != int(EstadoEscritura::paso) || !alcanzado()
+        || ui->txtRenglonDJ->text().isEmpty())
         return true;
     const bool sin_operacion = ui->flxOp->filas() == 0;
     const bool sin_testimonio = ui->txtTestimonio->text().isEmpty() && requiere_testimonio(leer_controles());
     if (!sin_operacion && !sin_testimonio)
         return true;
     const QString falta = (sin_operacion ? u"la operacion del instrumento"_s : QString())
-        + (sin_operacion && sin_testimonio ? u" y "_s : QString())
-        + (sin_testimonio ? u"el archivo del testimonio"_s : QString());
+                          + (sin_operacion && sin_testimonio ? u" y "_s : QString())
+                          + (sin_testimonio ? u"el archivo del testimonio"_s : QString());
     if (!preguntar(u"La escritura está incompleta, falta ingresar "_s + falta + u"\n¿Desea completarla mas tarde?"_s,
                    u"Escritura incompleta"_s))
         return false;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One deed of a DJ: its own fields, and the lists of what hangs from it.
 #pragma once
 

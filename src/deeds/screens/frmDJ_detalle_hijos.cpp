@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The lower part of the deed's screen: parties, real estate and operations.
 
 #include "deeds/screens/frmDJ_detalle.h"
@@ -32,23 +33,27 @@ void leer_en(Grilla* grilla, F leer, const std::function<void(const QString&)>& 
 
 void frmDJ_detalle::cargar_partes()
 {
-    leer_en(ui->flxPartes, [this](const AgregarFila& fila) { leer_partes(renglon(), fila); },
-            [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar partes"_s); });
+    leer_en(
+        ui->flxPartes, [this](const AgregarFila& fila) { leer_partes(renglon(), fila); },
+        [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar partes"_s); });
     habilitar_tlb(ui->tlbPartes, ui->flxPartes);
 }
 
 void frmDJ_detalle::cargar_inmuebles()
 {
-    leer_en(ui->flxInm, [this](const AgregarFila& fila) { leer_inmuebles(renglon(), fila); },
-            [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar inmuebles"_s); });
+    leer_en(
+        ui->flxInm, [this](const AgregarFila& fila) { leer_inmuebles(renglon(), fila); },
+        [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar inmuebles"_s); });
     habilitar_tlb(ui->tlbInm, ui->flxInm);
 }
 
 void frmDJ_detalle::cargar_operaciones()
 {
     ui->nroTotalImpuesto->setValue(0);
-    leer_en(ui->flxOp, [this](const AgregarFila& fila) { ui->nroTotalImpuesto->setValue(leer_operaciones(renglon(), fila)); },
-            [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar operaciones"_s); });
+    leer_en(
+        ui->flxOp,
+        [this](const AgregarFila& fila) { ui->nroTotalImpuesto->setValue(leer_operaciones(renglon(), fila)); },
+        [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar operaciones"_s); });
     habilitar_tlb(ui->tlbOp, ui->flxOp);
 }
 
@@ -100,7 +105,8 @@ void frmDJ_detalle::emitir_recibo()
         return;  // nothing is written, and nothing is told
     }
     emitir_comprobante(nro, {dj, ui->txtRenglonDJ->text(), ui->nroTotalImpuesto->toSQL(),
-                             QDate(posicion.left(4).toInt(), posicion.mid(5, 2).toInt(), int(ui->nroDia->Value())), dj_.agente});
+                             QDate(posicion.left(4).toInt(), posicion.mid(5, 2).toInt(), int(ui->nroDia->Value())),
+                             dj_.agente});
     auto* reporte = cargar<frmReportes>();
     connect(reporte, &frmReportes::cerrado, this, &frmDJ_detalle::reporteCerrado, Qt::UniqueConnection);
     reporte->recibo(nro, dj);
@@ -127,7 +133,8 @@ void frmDJ_detalle::abrirOperacion(Modo operacion)
 {
     auto* hijo = cargar<frmDJ_detalle_op>();
     connect(hijo, &frmDJ_detalle_op::totalesGuardados, this, &frmDJ_detalle::mostrarTotales, Qt::UniqueConnection);
-    hijo->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), ui->nroDia->toString(), ui->txtPosicion->text());
+    hijo->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), ui->nroDia->toString(),
+                       ui->txtPosicion->text());
     hijo->Iniciar(operacion, operacion == Modo::nuevo ? -1 : ui->flxOp->clave().toInt());
     abrir(hijo);
 }

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "deeds/screens/frmDJ_editar_inmueble.h"
 
 #include "widgets/ctlComunes.h"
@@ -13,7 +15,7 @@ namespace {
 struct Enlace
 {
     const char* control;
-    QString Inmueble::* campo;
+    QString Inmueble::*campo;
 };
 
 constexpr Enlace CAMPOS[] = {
@@ -51,8 +53,8 @@ frmDJ_editar_inmueble::frmDJ_editar_inmueble() : ui(std::make_unique<Ui::frmDJ_e
 {
     ui->setupUi(this);
     solo_digitos_en(ui->txtINM_partida);
-    llenar_combo(ui->cboU_caracter,
-                 leer_entradas(u"select * from GLB_TB_TIPOS_UBICACION order by GTUB_ID"_s, "GTUB_DESCRIPCION", "GTUB_ID"));
+    llenar_combo(ui->cboU_caracter, leer_entradas(u"select * from GLB_TB_TIPOS_UBICACION order by GTUB_ID"_s,
+                                                  "GTUB_DESCRIPCION", "GTUB_ID"));
     llenar_combo(ui->cboProv, provincias());
     for (QComboBox* combo : {ui->cboProv, ui->cboLoc})
         combo_con_texto(combo);

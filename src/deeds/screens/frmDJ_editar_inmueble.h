@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // One piece of real estate of a deed.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "parties/screens/frmDJ_buscar_parte.h"
 
 #include "widgets/ctlComunes.h"
@@ -23,10 +25,12 @@ frmDJ_buscar_parte::frmDJ_buscar_parte() : ui(std::make_unique<Ui::frmDJ_buscar_
     preparar_grilla(ui->flx, {u"tipodoc_id"_s, u"Tipo Doc"_s, u"Nro Doc"_s, u"Razon Social"_s},
                     {1000, 1000, 1500, 2500});
     ui->flx->setColumnHidden(0, true);
-    llenar_filtro(ui->cboTipoSociedad, leer_entradas(u"select GTSO_ID, GTSO_DESCRIPCION from GLB_TB_TIPOS_SOCIEDAD " u" order by GTSO_DESCRIPCION collate ESPANOL"_s,
+    llenar_filtro(ui->cboTipoSociedad, leer_entradas(u"select GTSO_ID, GTSO_DESCRIPCION from GLB_TB_TIPOS_SOCIEDAD "
+                                                     u" order by GTSO_DESCRIPCION collate ESPANOL"_s,
                                                      "GTSO_DESCRIPCION", "GTSO_ID"));
-    llenar_filtro(ui->cboTipoDoc, leer_entradas(u"select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"_s,
-                                                "GTDC_DESCRIPCION", "GTDC_ID"));
+    llenar_filtro(ui->cboTipoDoc,
+                  leer_entradas(u"select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"_s,
+                                "GTDC_DESCRIPCION", "GTDC_ID"));
     habilitarTextos();
     for (QLineEdit* texto : {ui->txtRazonSocial, ui->txtNroDoc}) {
         a_mayusculas(texto);
@@ -74,7 +78,8 @@ void frmDJ_buscar_parte::buscar_partes(bool limpiar)
     DialogoPantalla dialogo(this);
     const QString sql = consulta_busqueda_partes(filtro, windowTitle(), dialogo);
     ui->txtRazonSocial->setText(filtro.razonSocial);
-    ui->flx->llenar([&] { leer_partes_halladas(sql, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
+    ui->flx->llenar(
+        [&] { leer_partes_halladas(sql, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
     ui->lblEncontrados->setText(u"Registros encontrados: "_s + QString::number(ui->flx->filas()));
 }
 

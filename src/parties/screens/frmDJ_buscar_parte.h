@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Finds a person who stood in an earlier deed, and copies its data into the party's screen.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "parties/screens/frmDJ_detalle_parte.h"
 
 #include "widgets/ctlComunes.h"
@@ -22,20 +24,24 @@ const QString FISICA = u"Física"_s;
 Entradas tipos_sociedad()
 {
     Entradas lista;
-    for (Recordset rs(cnRtn, u"select GTSO_ID, GTSO_DESCRIPCION, GTSO_CUIT_DIGITO_1  from GLB_TB_TIPOS_SOCIEDAD " u" order by GTSO_DESCRIPCION collate ESPANOL"_s);
+    for (Recordset rs(cnRtn, u"select GTSO_ID, GTSO_DESCRIPCION, GTSO_CUIT_DIGITO_1  from GLB_TB_TIPOS_SOCIEDAD "
+                             u" order by GTSO_DESCRIPCION collate ESPANOL"_s);
          !rs.eof(); rs.siguiente())
-        lista.push_back({rs.texto("GTSO_DESCRIPCION").leftJustified(POSICION_DIGITO_CUIT) + rs.texto("GTSO_CUIT_DIGITO_1"), rs.valor("GTSO_ID")});
+        lista.push_back(
+            {rs.texto("GTSO_DESCRIPCION").leftJustified(POSICION_DIGITO_CUIT) + rs.texto("GTSO_CUIT_DIGITO_1"),
+             rs.valor("GTSO_ID")});
     return lista;
 }
 
 Entradas codigos_pais()
 {
     Entradas lista;
-    for (Recordset rs(cnRtn, u"select CPAI_CODIGO, CPAI_PAIS, CPAI_PERSONA from GLB_TB_AFIP_CODIGOS_PAIS " u" order by CPAI_PAIS collate ESPANOL, CPAI_PERSONA collate ESPANOL "_s);
+    for (Recordset rs(cnRtn, u"select CPAI_CODIGO, CPAI_PAIS, CPAI_PERSONA from GLB_TB_AFIP_CODIGOS_PAIS "
+                             u" order by CPAI_PAIS collate ESPANOL, CPAI_PERSONA collate ESPANOL "_s);
          !rs.eof(); rs.siguiente())
-        lista.push_back({rs.texto("CPAI_PAIS") + u" - "_s + rs.texto("CPAI_PERSONA") + u" ("_s + rs.texto("CPAI_CODIGO")
-                             + u")"_s,
-                         {}});
+        lista.push_back(
+            {rs.texto("CPAI_PAIS") + u" - "_s + rs.texto("CPAI_PERSONA") + u" ("_s + rs.texto("CPAI_CODIGO") + u")"_s,
+             {}});
     return lista;
 }
 
@@ -57,8 +63,9 @@ frmDJ_detalle_parte::frmDJ_detalle_parte() : ui(std::make_unique<Ui::frmDJ_detal
     for (QRadioButton* opcion : {ui->optArgentina, ui->optExtranjera})
         marcar_boton(opcion, false);
     llenar_combo(ui->cboTipoSociedad, tipos_sociedad());
-    llenar_combo(ui->cboTipoDoc, leer_entradas(u"select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"_s,
-                                               "GTDC_DESCRIPCION", "GTDC_ID"));
+    llenar_combo(ui->cboTipoDoc,
+                 leer_entradas(u"select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"_s,
+                               "GTDC_DESCRIPCION", "GTDC_ID"));
     llenar_combo(ui->cboProv, provincias());
     llenar_combo(ui->cboCodigoPais, codigos_pais());
     ui->cboCodigoPais->setEnabled(false);

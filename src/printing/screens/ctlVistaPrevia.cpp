@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/ctlVistaPrevia.h"
 
 #include "printing/screens/rptInforme.h"
@@ -107,7 +109,8 @@ void ctlVistaPrevia::paintEvent(QPaintEvent*)
     if (!informe_)
         return;
     const int arriba = verticalScrollBar()->value();
-    const double x = std::max<double>(SEPARACION, (viewport()->width() - ANCHO_A4 * escala_) / 2) - horizontalScrollBar()->value();
+    const double x = std::max<double>(SEPARACION, (viewport()->width() - ANCHO_A4 * escala_) / 2)
+                     - horizontalScrollBar()->value();
     for (int n = int(arriba / altoPagina()); n < paginas_; ++n) {
         const double y = SEPARACION + n * altoPagina() - arriba;
         if (y > viewport()->height())

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/frmReportes.h"
 
 #include "core/almacen.h"
@@ -38,9 +40,12 @@ frmReportes::frmReportes() : ui(std::make_unique<Ui::frmReportes>())
     });
     ui->tlb->boton(u"imprimir"_s)->setShortcuts({ui->tlb->boton(u"imprimir"_s)->shortcut(), QKeySequence::Print});
     connect(ui->cboZoom, &QComboBox::activated, this, &frmReportes::cambiarZoom);
-    connect(ui->spnPagina, &QSpinBox::editingFinished, this, [this] { ui->CRViewer91->irAPagina(ui->spnPagina->value() - 1); });
-    connect(ui->cmdAnterior, &QPushButton::clicked, this, [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() - 1); });
-    connect(ui->cmdSiguiente, &QPushButton::clicked, this, [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() + 1); });
+    connect(ui->spnPagina, &QSpinBox::editingFinished, this,
+            [this] { ui->CRViewer91->irAPagina(ui->spnPagina->value() - 1); });
+    connect(ui->cmdAnterior, &QPushButton::clicked, this,
+            [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() - 1); });
+    connect(ui->cmdSiguiente, &QPushButton::clicked, this,
+            [this] { ui->CRViewer91->irAPagina(ui->CRViewer91->paginaActual() + 1); });
     connect(ui->CRViewer91, &ctlVistaPrevia::cambioPagina, this, [this](int actual, int conocidas, bool completas) {
         ui->spnPagina->setMaximum(std::max(1, conocidas));
         if (!ui->spnPagina->hasFocus())
@@ -133,7 +138,8 @@ void frmReportes::imprimir()
     if (dialogo.exec() != QDialog::Accepted)
         return;
     const bool rango = impresora.printRange() == QPrinter::PageRange;
-    pintar_informe(*informe_, impresora, rango ? impresora.fromPage() - 1 : 0, rango ? impresora.toPage() : informe_->paginas());
+    pintar_informe(*informe_, impresora, rango ? impresora.fromPage() - 1 : 0,
+                   rango ? impresora.toPage() : informe_->paginas());
 }
 
 bool frmReportes::guardarPDF(const QString& archivo)
@@ -143,8 +149,8 @@ bool frmReportes::guardarPDF(const QString& archivo)
 
 void frmReportes::pedirPDF()
 {
-    const QString archivo = QFileDialog::getSaveFileName(this, u"Guardar como PDF"_s,
-                                                         QDir::home().filePath(nombre_ + u".pdf"_s), u"Archivos PDF (*.pdf)"_s);
+    const QString archivo = QFileDialog::getSaveFileName(
+        this, u"Guardar como PDF"_s, QDir::home().filePath(nombre_ + u".pdf"_s), u"Archivos PDF (*.pdf)"_s);
     if (!archivo.isEmpty() && !guardarPDF(archivo))
         avisar(u"No se pudo guardar "_s + QDir::toNativeSeparators(archivo), windowTitle(), Icono::exclamacion);
 }

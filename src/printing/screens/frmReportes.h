@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The window of every printed document: slip, DJ and receipt. It shows, prints and saves as PDF the
 // same pages.
 #pragma once

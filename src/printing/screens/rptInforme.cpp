@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/rptInforme.h"
 
 using namespace Qt::StringLiterals;
@@ -71,6 +73,7 @@ std::optional<Pagina> Informe::pagina(int n)
         return {};
     Pagina p = hechas_[size_t(n)];
     const QString de = completo_ ? u" de "_s + QString::number(hechas_.size()) : QString();
-    p.texto({MARGEN, ALTO_A4 - MARGEN - 4, ANCHO_UTIL, 4}, u"Hoja "_s + QString::number(n + 1) + de, 8, Alineacion::derecha);
+    p.texto({MARGEN, ALTO_A4 - MARGEN - 4, ANCHO_UTIL, 4}, u"Hoja "_s + QString::number(n + 1) + de, 8,
+            Alineacion::derecha);
     return p;
 }

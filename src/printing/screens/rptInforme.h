@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A report: bands that flow over pages, with a header and a footer on each. Pages are laid out when
 // they are asked for, so that the first one of a long report shows at once.
 #pragma once

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/rptPagina.h"
 
 #include <zint.h>
@@ -192,7 +194,8 @@ std::vector<Pagina> lineas_tituladas(const QString& titulo, const QString& texto
     std::vector<Pagina> paginas(size_t(lineas.size()));
     paginas.front().texto({como.x, 0, sangria, alto}, titulo, como.puntos, Alineacion::izquierda, como.tituloNegrita);
     for (size_t i = 0; i < paginas.size(); ++i)
-        paginas[i].texto({como.x + sangria, 0, como.ancho - sangria, alto}, lineas[qsizetype(i)], como.puntos, Alineacion::izquierda, como.textoNegrita);
+        paginas[i].texto({como.x + sangria, 0, como.ancho - sangria, alto}, lineas[qsizetype(i)], como.puntos,
+                         Alineacion::izquierda, como.textoNegrita);
     return paginas;
 }
 
@@ -237,7 +240,9 @@ std::vector<QRectF> barras_de(const QString& texto, Simbologia s, double modulo,
     const std::unique_ptr<zint_symbol, void (*)(zint_symbol*)> simbolo(ZBarcode_Create(), ZBarcode_Delete);
     simbolo->symbology = s == Simbologia::intercalado2de5 ? BARCODE_C25INTER : BARCODE_CODE128;
     const QByteArray datos = texto.toLatin1();
-    if (datos.isEmpty() || ZBarcode_Encode(simbolo.get(), reinterpret_cast<const unsigned char*>(datos.constData()), int(datos.size())) >= ZINT_ERROR)
+    if (datos.isEmpty()
+        || ZBarcode_Encode(simbolo.get(), reinterpret_cast<const unsigned char*>(datos.constData()), int(datos.size()))
+               >= ZINT_ERROR)
         return {};
     ancho = simbolo->width * modulo;
     const auto negro = [&](int i) { return (simbolo->encoded_data[0][i / 8] >> (i % 8)) & 1; };

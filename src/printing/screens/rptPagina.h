@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A page as it is described, in millimetres: texts, lines, bars and the emblem. It knows nothing of
 // printers; preview, printer and PDF paint the same one.
 #pragma once
@@ -33,12 +34,14 @@ struct Pagina
 {
     std::vector<TextoImpreso> textos;
     std::vector<LineaImpresa> lineas;
-    std::vector<QRectF> barras;    ///< black rectangles
+    std::vector<QRectF> barras;  ///< black rectangles
     std::vector<QRectF> emblemas;
 
-    void texto(QRectF lugar, const QString& texto, double puntos = 9, Alineacion alineacion = Alineacion::izquierda, bool negrita = false);
+    void texto(QRectF lugar, const QString& texto, double puntos = 9, Alineacion alineacion = Alineacion::izquierda,
+               bool negrita = false);
     /// The same in a smaller letter when the text is wider than its place.
-    void ajustado(QRectF lugar, const QString& texto, double puntos = 9, Alineacion alineacion = Alineacion::izquierda, bool negrita = false);
+    void ajustado(QRectF lugar, const QString& texto, double puntos = 9, Alineacion alineacion = Alineacion::izquierda,
+                  bool negrita = false);
     void linea(double x1, double y1, double x2, double y2, double grosor = 0.2, bool cortada = false);
     /// Adds another's elements, moved down.
     void agregar(const Pagina& otra, double abajo);
@@ -62,7 +65,7 @@ struct Titulado
     double x = 0;
     double ancho = 0;
     double puntos = 9;
-    double sangria = -1;        ///< from the title's left edge; negative is right behind the title
+    double sangria = -1;  ///< from the title's left edge; negative is right behind the title
     bool tituloNegrita = false;
     bool textoNegrita = false;
 };
@@ -72,4 +75,5 @@ struct Titulado
 /// The bars of Interleaved 2 of 5 or Code 128, with the narrow bar so many millimetres wide, from
 /// the left edge; `ancho` takes their whole width. Empty when the text can't be encoded.
 enum class Simbologia { intercalado2de5, code128 };
-[[nodiscard]] std::vector<QRectF> barras_de(const QString& texto, Simbologia s, double modulo, double alto, double& ancho);
+[[nodiscard]] std::vector<QRectF> barras_de(const QString& texto, Simbologia s, double modulo, double alto,
+                                            double& ancho);

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/rptRTN_boldep1.h"
 
 #include "core/modNroALetras.h"
@@ -9,9 +11,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double ALTO_COPIA = 66;
-constexpr double MODULO = 0.253;      // narrow bar: the widest that leaves its quiet zones on the page
+constexpr double MODULO = 0.253;  // narrow bar: the widest that leaves its quiet zones on the page
 constexpr double ALTO_BARRAS = 11;
-constexpr const char* COPIAS[] = {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención", "Para la Casa Central del Banco"};
+constexpr const char* COPIAS[] = {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención",
+                                  "Para la Casa Central del Banco"};
 
 }  // namespace
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The deposit slip: four copies on one page.
 #pragma once
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/rptSalida.h"
 
 #include "printing/screens/rptInforme.h"

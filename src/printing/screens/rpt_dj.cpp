@@ -1,7 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/rpt_dj.h"
 
 #include "core/redondeo.h"
-
 
 using namespace Qt::StringLiterals;
 
@@ -22,8 +23,9 @@ struct ColumnaDJ
     Alineacion lado;
 };
 constexpr ColumnaDJ COLUMNAS[] = {
-    {0, 20, "Escritura", Alineacion::derecha}, {22, 16, "Folio", Alineacion::derecha},    {40, 10, "Día", Alineacion::derecha},
-    {54, 40, "Estado", Alineacion::izquierda}, {96, 52, "Alcance", Alineacion::izquierda}, {150, 36, "Impuesto $", Alineacion::derecha},
+    {0, 20, "Escritura", Alineacion::derecha},  {22, 16, "Folio", Alineacion::derecha},
+    {40, 10, "Día", Alineacion::derecha},       {54, 40, "Estado", Alineacion::izquierda},
+    {96, 52, "Alcance", Alineacion::izquierda}, {150, 36, "Impuesto $", Alineacion::derecha},
 };
 
 void renglones(std::vector<Banda>& bandas, double x, double ancho, const QString& titulo, const QString& texto)
@@ -68,10 +70,13 @@ Banda rpt_dj_sin_mov::agente() const
         const QString t = QString::fromUtf8(titulo);
         const double sangria = ancho_texto(t, PUNTOS) + 1.5;
         b.contenido.texto({MARGEN + x, y, ancho, FILA}, t, PUNTOS);
-        b.contenido.ajustado({MARGEN + x + sangria, y, ancho - sangria, FILA}, valor, PUNTOS, Alineacion::izquierda, true);
+        b.contenido.ajustado({MARGEN + x + sangria, y, ancho - sangria, FILA}, valor, PUNTOS, Alineacion::izquierda,
+                             true);
     };
     const auto largo = [&](const char* titulo, const QString& valor) {
-        for (const Pagina& linea : lineas_tituladas(QString::fromUtf8(titulo), valor, {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .textoNegrita = true})) {
+        for (const Pagina& linea :
+             lineas_tituladas(QString::fromUtf8(titulo), valor,
+                              {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .textoNegrita = true})) {
             b.contenido.agregar(linea, y);
             y += FILA;
         }
@@ -122,8 +127,10 @@ void rpt_dj_sin_mov::cierre(std::vector<Banda>& bandas) const
     Banda firma;
     firma.conLaSiguiente = true;
     firma.alto = 28;
-    firma.contenido.texto({MARGEN, 0, ANCHO_UTIL, FILA},
-                          u"Declaro bajo juramento que los datos consignados son correctos y completos, sin omitir ni falsear dato alguno."_s, PUNTOS);
+    firma.contenido.texto(
+        {MARGEN, 0, ANCHO_UTIL, FILA},
+        u"Declaro bajo juramento que los datos consignados son correctos y completos, sin omitir ni falsear dato alguno."_s,
+        PUNTOS);
     for (const auto& [x, titulo] : {std::pair{0.0, "Lugar y fecha"}, {66.0, "Firma"}, {132.0, "Aclaración y sello"}}) {
         firma.contenido.linea(MARGEN + x, 20, MARGEN + x + 54, 20);
         firma.contenido.texto({MARGEN + x, 21, 54, FILA}, QString::fromUtf8(titulo), PUNTOS, Alineacion::centro);
@@ -133,10 +140,12 @@ void rpt_dj_sin_mov::cierre(std::vector<Banda>& bandas) const
     Banda codigo;
     double ancho = 0;
     const auto barras = barras_de(codigo_, Simbologia::code128, MODULO, ALTO_BARRAS, ancho);
-    codigo.contenido.texto({MARGEN, 0, ANCHO_UTIL, FILA}, u"Código de verificación de la integridad"_s, PUNTOS, Alineacion::centro);
+    codigo.contenido.texto({MARGEN, 0, ANCHO_UTIL, FILA}, u"Código de verificación de la integridad"_s, PUNTOS,
+                           Alineacion::centro);
     for (const QRectF& b : barras)
         codigo.contenido.barras.push_back(b.translated((ANCHO_A4 - ancho) / 2, FILA + 1));
-    codigo.contenido.texto({MARGEN, FILA + ALTO_BARRAS + 2, ANCHO_UTIL, FILA}, codigo_legible_dj(codigo_), 10, Alineacion::centro, true);
+    codigo.contenido.texto({MARGEN, FILA + ALTO_BARRAS + 2, ANCHO_UTIL, FILA}, codigo_legible_dj(codigo_), 10,
+                           Alineacion::centro, true);
     codigo.contenido.texto({MARGEN, FILA + ALTO_BARRAS + 7, ANCHO_UTIL, FILA}, version_, 7, Alineacion::centro);
     codigo.alto = FILA + ALTO_BARRAS + 12;
     bandas.push_back(codigo);
@@ -177,10 +186,15 @@ void rpt_dj::escritura(const EscrituraImpresa& e, std::vector<Banda>& bandas) co
     const auto primera = bandas.size();
     Banda titulo;
     titulo.alto = FILA + 0.4;
-    const QString textos[] = {e.nro, e.folio, e.dia, e.estado, e.alcanzada ? u"Alcanzada"_s : u"No alcanzada"_s,
+    const QString textos[] = {e.nro,
+                              e.folio,
+                              e.dia,
+                              e.estado,
+                              e.alcanzada ? u"Alcanzada"_s : u"No alcanzada"_s,
                               importe_agrupado(e.impuesto)};
     for (size_t i = 0; i < std::size(COLUMNAS); ++i)
-        titulo.contenido.texto({MARGEN + COLUMNAS[i].x, 0.4, COLUMNAS[i].ancho, FILA}, textos[i], PUNTOS + 0.5, COLUMNAS[i].lado, true);
+        titulo.contenido.texto({MARGEN + COLUMNAS[i].x, 0.4, COLUMNAS[i].ancho, FILA}, textos[i], PUNTOS + 0.5,
+                               COLUMNAS[i].lado, true);
     bandas.push_back(titulo);
     const double x = MARGEN + SANGRIA;
     const double ancho = ANCHO_UTIL - SANGRIA;
@@ -202,11 +216,13 @@ void rpt_dj::operacion(const OperacionImpresa& o, std::vector<Banda>& bandas) co
 {
     const double x = MARGEN + SANGRIA;
     const double ancho = ANCHO_UTIL - SANGRIA;
-    renglones(bandas, x, ancho, u"Operación:"_s, o.descripcion + (o.ley.isEmpty() ? QString() : u" ("_s + o.ley + u")"_s));
+    renglones(bandas, x, ancho, u"Operación:"_s,
+              o.descripcion + (o.ley.isEmpty() ? QString() : u" ("_s + o.ley + u")"_s));
     QStringList datos;
     const auto dato = [&](const char* titulo, const std::optional<double>& valor, int decimales = 2) {
         if (valor && (*valor != 0 || decimales != 2))
-            datos << QString::fromUtf8(titulo) + QChar(0xa0) + importe_agrupado(*valor, decimales).replace(u' ', QChar(0xa0));
+            datos << QString::fromUtf8(titulo) + QChar(0xa0)
+                         + importe_agrupado(*valor, decimales).replace(u' ', QChar(0xa0));
     };
     dato("Base imponible $", o.base);
     dato("Val. fiscal $", o.valuacion);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The printed DJ: with its deeds, and without movements.
 #pragma once
 
@@ -8,7 +9,10 @@
 class rpt_dj_sin_mov : public Informe
 {
 public:
-    rpt_dj_sin_mov(const DJImpresa& dj, const QString& codigo, const QString& version) : dj_(dj), codigo_(codigo), version_(version) {}
+    rpt_dj_sin_mov(const DJImpresa& dj, const QString& codigo, const QString& version)
+        : dj_(dj), codigo_(codigo), version_(version)
+    {
+    }
 
 protected:
     Banda cabecera(int pagina) const override;

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "printing/screens/rpt_recibo.h"
 
 #include "core/modNroALetras.h"
@@ -15,7 +17,8 @@ constexpr double FILA = 5;
 Banda rpt_recibo::cabecera(int) const
 {
     Banda b;
-    b.contenido.texto({MARGEN, 0, ANCHO_UTIL, 5}, u"PROVINCIA DE MARVEN - DIRECCIÓN GENERAL DE RENTAS"_s, 9, Alineacion::centro);
+    b.contenido.texto({MARGEN, 0, ANCHO_UTIL, 5}, u"PROVINCIA DE MARVEN - DIRECCIÓN GENERAL DE RENTAS"_s, 9,
+                      Alineacion::centro);
     b.contenido.texto({MARGEN, 6, ANCHO_UTIL, 6}, u"COMPROBANTE DE RETENCIÓN"_s, 14, Alineacion::centro, true);
     b.contenido.texto({MARGEN, 13, ANCHO_UTIL, 5}, u"Impuesto de Sellos - Escribanos"_s, 9, Alineacion::centro);
     b.contenido.linea(MARGEN, 19, MARGEN + ANCHO_UTIL, 19, 0.4);
@@ -27,7 +30,9 @@ bool rpt_recibo::siguientes(std::vector<Banda>& bandas)
 {
     const ReciboImpreso r = r_.value_or(ReciboImpreso());
     const auto dato = [&](const char* titulo, const QString& valor, bool negrita = false) {
-        auto lineas = lineas_tituladas(QString::fromUtf8(titulo), valor, {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .sangria = 46, .textoNegrita = negrita});
+        auto lineas = lineas_tituladas(
+            QString::fromUtf8(titulo), valor,
+            {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .sangria = 46, .textoNegrita = negrita});
         for (Pagina& linea : lineas)
             bandas.push_back({lineas.size() < 2 ? FILA + 1 : FILA, std::move(linea)});
     };
@@ -46,7 +51,8 @@ bool rpt_recibo::siguientes(std::vector<Banda>& bandas)
     Banda firma;
     firma.alto = 34;
     firma.contenido.linea(MARGEN + 110, 26, MARGEN + ANCHO_UTIL, 26);
-    firma.contenido.texto({MARGEN + 110, 27, ANCHO_UTIL - 110, FILA}, u"Firma y sello del escribano"_s, 8, Alineacion::centro);
+    firma.contenido.texto({MARGEN + 110, 27, ANCHO_UTIL - 110, FILA}, u"Firma y sello del escribano"_s, 8,
+                          Alineacion::centro);
     bandas.push_back(firma);
     return false;
 }

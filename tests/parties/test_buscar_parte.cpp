@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The search of parties against a plain walk over the rows.
 
 #include "apoyo/apoyo.h"
@@ -30,7 +31,9 @@ protected:
             cnRtn.ejecutar("insert into SEL_TB_RTN_CABDJ (SEDJ_NRO) values ('%1')"_u.arg(f.dj));
         if (!filas_[f.dj].contains(f.renglon))
             nueva_escritura(f.dj, f.renglon, f.renglon, f.renglon, 1);
-        Comando c(cnRtn, "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_CUIT, GTSO_ID) values (?,?,?,?,?,?,?,?)"_u);
+        Comando c(
+            cnRtn,
+            "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_CUIT, GTSO_ID) values (?,?,?,?,?,?,?,?)"_u);
         c.parametro("id", ++filas_[f.dj][f.renglon]);
         c.parametro("dj", f.dj);
         c.parametro("renglon", f.renglon);
@@ -45,12 +48,13 @@ protected:
     QStringList hallar(FiltroPartes f)
     {
         QStringList lista;
-        leer_partes_halladas(consulta_busqueda_partes(f, "Buscar persona"_u, oyente), [&lista](std::span<const std::string_view> c) {
-            QStringList celdas;
-            for (const std::string_view s : c)
-                celdas << QString::fromUtf8(s.data(), qsizetype(s.size()));
-            lista << celdas.join(u'|');
-        });
+        leer_partes_halladas(consulta_busqueda_partes(f, "Buscar persona"_u, oyente),
+                             [&lista](std::span<const std::string_view> c) {
+                                 QStringList celdas;
+                                 for (const std::string_view s : c)
+                                     celdas << QString::fromUtf8(s.data(), qsizetype(s.size()));
+                                 lista << celdas.join(u'|');
+                             });
         return lista;
     }
 
@@ -60,8 +64,10 @@ protected:
 
 QRegularExpression expresion(const QString& patron)
 {
-    return QRegularExpression(QRegularExpression::anchoredPattern(QRegularExpression::escape(patron).replace("\\%"_u, ".*"_u).replace(u'_', u'.')),
-                              QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    return QRegularExpression(QRegularExpression::anchoredPattern(
+                                  QRegularExpression::escape(patron).replace("\\%"_u, ".*"_u).replace(u'_', u'.')),
+                              QRegularExpression::CaseInsensitiveOption
+                                  | QRegularExpression::DotMatchesEverythingOption);
 }
 
 TEST_F(BuscarParte, ContraUnRecorridoSimple)
@@ -74,20 +80,27 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
     for (int i = 0; i < 300; ++i) {
         const QString tipo = uno_de(tipos);
         const bool cuit = tipo == u"80" || tipo == u"86";
-        const QString nro = azar() % 8 == 0 ? QString() : QString::number(cuit ? 20100000000 + azar() % 40 : 30000000 + azar() % 40);
-        agregar({u"2012345678626%1000"_s.arg(azar() % 4 + 1), int(azar() % 4 + 1), tipo, nro, (uno_de(apellidos) + u' ' + uno_de(nombres)).left(60),
-                 cuit && !nro.isEmpty() ? nro.toDouble() : 0, int(azar() % 3 + 1)});
+        const QString nro = azar() % 8 == 0
+                                ? QString()
+                                : QString::number(cuit ? 20100000000 + azar() % 40 : 30000000 + azar() % 40);
+        agregar({u"2012345678626%1000"_s.arg(azar() % 4 + 1), int(azar() % 4 + 1), tipo, nro,
+                 (uno_de(apellidos) + u' ' + uno_de(nombres)).left(60), cuit && !nro.isEmpty() ? nro.toDouble() : 0,
+                 int(azar() % 3 + 1)});
     }
     const QHash<QString, QString> textos{{"80"_u, "CUIT"_u}, {"86"_u, "CUIL"_u}, {"96"_u, "DNI"_u}};
     int con_algo = 0;
     for (int i = 0; i < 400; ++i) {
-        FiltroPartes f{.dj = "20123456786261000"_u,
-                       .renglon = QString::number(azar() % 4 + 1),
-                       .tipoSociedad = azar() % 3 == 0 ? int(azar() % 3 + 1) : 0,
-                       .criterio = Criterio(azar() % 5),
-                       .razonSocial = uno_de({""_u, "PEREZ"_u, "juan, perez"_u, "D'ANGELO (ANA; MARIA)"_u, "maria  ana o'brien"_u, "100%"_u, "ñandú josé"_u, "S_SA"_u, "PEREZ JUAN"_u, " PAZ "_u, "%%"_u}),
-                       .tipoDoc = azar() % 2 == 0 ? uno_de({"80"_u, "86"_u, "96"_u}).toInt() : 0,
-                       .nroDoc = azar() % 3 == 0 ? QString() : QString::number(azar() % 2 ? 20100000000 + azar() % 40 : 30000000 + azar() % 40)};
+        FiltroPartes f{
+            .dj = "20123456786261000"_u,
+            .renglon = QString::number(azar() % 4 + 1),
+            .tipoSociedad = azar() % 3 == 0 ? int(azar() % 3 + 1) : 0,
+            .criterio = Criterio(azar() % 5),
+            .razonSocial = uno_de({""_u, "PEREZ"_u, "juan, perez"_u, "D'ANGELO (ANA; MARIA)"_u, "maria  ana o'brien"_u,
+                                   "100%"_u, "ñandú josé"_u, "S_SA"_u, "PEREZ JUAN"_u, " PAZ "_u, "%%"_u}),
+            .tipoDoc = azar() % 2 == 0 ? uno_de({"80"_u, "86"_u, "96"_u}).toInt() : 0,
+            .nroDoc = azar() % 3 == 0
+                          ? QString()
+                          : QString::number(azar() % 2 ? 20100000000 + azar() % 40 : 30000000 + azar() % 40)};
         f.tipoDocTexto = textos.value(QString::number(f.tipoDoc));
         const bool cabeza = f.criterio == Criterio::contiene || f.criterio == Criterio::termina;
         const bool cola = f.criterio == Criterio::comienza || f.criterio == Criterio::contiene;
@@ -96,18 +109,24 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
         QStringList palabras = limpio.split(u' ', Qt::SkipEmptyParts);
         const QString directo = palabras.join(u'%');
         std::reverse(palabras.begin(), palabras.end());
-        const auto con = [&](const QString& s) { return (cabeza ? "%"_u : QString()) + s + (cola ? "%"_u : QString()); };
+        const auto con = [&](const QString& s) {
+            return (cabeza ? "%"_u : QString()) + s + (cola ? "%"_u : QString());
+        };
         QList<QRegularExpression> vale{expresion(con(f.razonSocial))};
         if (palabras.size() > 1)
             vale << expresion(con(directo)) << expresion(con(palabras.join(u'%')));
         QSet<QString> esperadas;
         for (const Fila& x : std::as_const(todas_)) {
-            if (x.dj == f.dj || x.renglon == f.renglon.toInt() || x.tipo.isEmpty() || (f.tipoSociedad != 0 && f.tipoSociedad != x.sociedad))
+            if (x.dj == f.dj || x.renglon == f.renglon.toInt() || x.tipo.isEmpty()
+                || (f.tipoSociedad != 0 && f.tipoSociedad != x.sociedad))
                 continue;
             const bool nombre = f.criterio == Criterio::sin_filtro || f.razonSocial.isEmpty()
-                || std::any_of(vale.begin(), vale.end(), [&x](const QRegularExpression& e) { return e.match(x.nombre).hasMatch(); });
+                                || std::any_of(vale.begin(), vale.end(), [&x](const QRegularExpression& e) {
+                                       return e.match(x.nombre).hasMatch();
+                                   });
             const bool doc = f.tipoDoc == 0 || f.nroDoc.isEmpty()
-                || (f.tipoDoc == 96 ? x.tipo == u"96" && x.nro == f.nroDoc : x.cuit == f.nroDoc.toDouble());
+                             || (f.tipoDoc == 96 ? x.tipo == u"96" && x.nro == f.nroDoc
+                                                 : x.cuit == f.nroDoc.toDouble());
             if (nombre && doc)
                 esperadas << x.tipo + u'|' + x.nro + u'|' + x.nombre;
         }
@@ -123,11 +142,19 @@ TEST_F(BuscarParte, ContraUnRecorridoSimple)
 
 TEST_F(BuscarParte, LaSentenciaYElDocumentoQueNoVale)
 {
-    FiltroPartes f{.dj = "D"_u, .renglon = "3"_u, .tipoSociedad = 2, .criterio = Criterio::termina, .razonSocial = "O'Brien,  (Ana)"_u, .tipoDoc = 80, .tipoDocTexto = "CUIT"_u, .nroDoc = "20A"_u};
-    EXPECT_EQ(consulta_busqueda_partes(f, "Buscar persona"_u, oyente),
-              " select distinct SPIN_NRODOC, P.GTDC_ID, TC.GTDC_DESCRIPCION, SPIN_RSOCIAL from SEL_TB_RTN_INS_PARTES as P inner join GLB_TB_AFIP_TIPOS_DOC as TC  on P.GTDC_ID=TC.GTDC_ID "
-              " where (P.SEDJ_NRO<>'D' and P.SEDD_ID<>3)  and  (GTSO_ID=2) and ( SPIN_RSOCIAL like '%O''Brien,  (Ana)'  or ( SPIN_RSOCIAL like '%O''Brien%Ana')  or ( SPIN_RSOCIAL like '%Ana%O''Brien')  )"
-              " and  P.SPIN_CUIT=-1 order by SPIN_NRODOC "_u);
+    FiltroPartes f{.dj = "D"_u,
+                   .renglon = "3"_u,
+                   .tipoSociedad = 2,
+                   .criterio = Criterio::termina,
+                   .razonSocial = "O'Brien,  (Ana)"_u,
+                   .tipoDoc = 80,
+                   .tipoDocTexto = "CUIT"_u,
+                   .nroDoc = "20A"_u};
+    EXPECT_EQ(
+        consulta_busqueda_partes(f, "Buscar persona"_u, oyente),
+        " select distinct SPIN_NRODOC, P.GTDC_ID, TC.GTDC_DESCRIPCION, SPIN_RSOCIAL from SEL_TB_RTN_INS_PARTES as P inner join GLB_TB_AFIP_TIPOS_DOC as TC  on P.GTDC_ID=TC.GTDC_ID "
+        " where (P.SEDJ_NRO<>'D' and P.SEDD_ID<>3)  and  (GTSO_ID=2) and ( SPIN_RSOCIAL like '%O''Brien,  (Ana)'  or ( SPIN_RSOCIAL like '%O''Brien%Ana')  or ( SPIN_RSOCIAL like '%Ana%O''Brien')  )"
+        " and  P.SPIN_CUIT=-1 order by SPIN_NRODOC "_u);
     EXPECT_EQ(oyente.textos, QStringList{"El valor ingresado para CUIT no es válido"_u});
     EXPECT_EQ(f.razonSocial, "O'Brien Ana"_u);
     f = {.dj = "D"_u, .renglon = "3"_u, .tipoDoc = 94, .tipoDocTexto = "PASAPORTE"_u, .nroDoc = "A'1"_u};

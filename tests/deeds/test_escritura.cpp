@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "apoyo/apoyo.h"
 #include "deeds/escritura.h"
 
@@ -101,21 +103,29 @@ TEST_P(EscrituraSolape, ContraLasDemas)
     EXPECT_EQ(oyente.ultimo(), QString::fromUtf8(k.dice));
     EXPECT_EQ(c.estado, k.estadoFinal);
 }
-constexpr const char* NUMERO = "Atención: Se solapa el Nº Escritura\nExiste una escritura Nº 10 con folio 40 del dia 5\n\nDesea cargar un ERROSE para la escritura 10?";
-constexpr const char* FOLIO = "Atención: Se solapa el Nº Folio\nExiste una escritura Nº 10 con folio 40 del dia 5\n\nDesea cargar un ERROSE para el folio 40?";
-constexpr const char* DIA = "Atención: El día se solapa con una escritura anterior\nExiste una escritura Nº 10 Folio 40 del día 5\n\n";
-INSTANTIATE_TEST_SUITE_P(Casos, EscrituraSolape, testing::Values(
-    Solapada{"10", "50", 5, 0, true, true, NUMERO, "txtNroEscritura", 1},
-    Solapada{"10", "50", 5, 0, false, false, NUMERO, "", 0},
-    Solapada{"11", "40", 5, 0, true, true, FOLIO, "txtFolio", 1},            // equal folios clash
-    Solapada{"11", "39", 5, 0, false, false, FOLIO, "", 0},
-    Solapada{"11", "41", 3, 0, true, false, DIA, "nroDia", 0},               // no way past the day
-    Solapada{"11", "41", 5, 0, true, true, "", "", 0},
-    Solapada{"9", "99", 31, 0, true, true, "", "", 0},                       // below everything: nothing is looked at
-    Solapada{"20", "61", 9, 0, true, true, "", "", 0},                       // an ERROSE does not count
-    Solapada{"30", "71", 12, 0, false, false, "Atención: Se solapa el Nº Escritura\nExiste una escritura Nº 30 con folio 70 del dia 12\n\nDesea cargar un ERROSE para la escritura 30?", "", 0},
-    Solapada{"10", "40", 1, 1, true, true, "", "", 1},                       // an annulled deed overlaps nothing
-    Solapada{"011", "041", 5, 0, true, true, "", "", 0}));
+constexpr const char* NUMERO =
+    "Atención: Se solapa el Nº Escritura\nExiste una escritura Nº 10 con folio 40 del dia 5\n\nDesea cargar un ERROSE para la escritura 10?";
+constexpr const char* FOLIO =
+    "Atención: Se solapa el Nº Folio\nExiste una escritura Nº 10 con folio 40 del dia 5\n\nDesea cargar un ERROSE para el folio 40?";
+constexpr const char* DIA =
+    "Atención: El día se solapa con una escritura anterior\nExiste una escritura Nº 10 Folio 40 del día 5\n\n";
+INSTANTIATE_TEST_SUITE_P(
+    Casos, EscrituraSolape,
+    testing::Values(
+        Solapada{"10", "50", 5, 0, true, true, NUMERO, "txtNroEscritura", 1},
+        Solapada{"10", "50", 5, 0, false, false, NUMERO, "", 0},
+        Solapada{"11", "40", 5, 0, true, true, FOLIO, "txtFolio", 1},  // equal folios clash
+        Solapada{"11", "39", 5, 0, false, false, FOLIO, "", 0},
+        Solapada{"11", "41", 3, 0, true, false, DIA, "nroDia", 0},  // no way past the day
+        Solapada{"11", "41", 5, 0, true, true, "", "", 0},
+        Solapada{"9", "99", 31, 0, true, true, "", "", 0},  // below everything: nothing is looked at
+        Solapada{"20", "61", 9, 0, true, true, "", "", 0},  // an ERROSE does not count
+        Solapada{
+            "30", "71", 12, 0, false, false,
+            "Atención: Se solapa el Nº Escritura\nExiste una escritura Nº 30 con folio 70 del dia 12\n\nDesea cargar un ERROSE para la escritura 30?",
+            "", 0},
+        Solapada{"10", "40", 1, 1, true, true, "", "", 1},  // an annulled deed overlaps nothing
+        Solapada{"011", "041", 5, 0, true, true, "", "", 0}));
 
 TEST_F(EscrituraDJ, ModificarNoChocaConsigoMisma)
 {
@@ -148,13 +158,15 @@ TEST_F(EscrituraDJ, Testimonio)
     EXPECT_EQ(r.foco, "txtTestimonio"_u);
     c.testimonio = "/no/existe.pdf"_u;
     EXPECT_FALSE(validar_escritura(c, oyente).vale);
-    EXPECT_EQ(oyente.ultimo(), "El archivo del testimonio no existe. \nVerifique que el nombre de archivo sea correcto."_u);
+    EXPECT_EQ(oyente.ultimo(),
+              "El archivo del testimonio no existe. \nVerifique que el nombre de archivo sea correcto."_u);
     c.testimonio = "  "_u + archivo + " "_u;
     EXPECT_TRUE(validar_escritura(c, oyente).vale);
     EXPECT_EQ(c.testimonio, archivo);
 
     nueva_escritura(dj, 4, 8, 8, 8);
-    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='%1'"_u.arg(QString(archivo).replace(u'\'', "''"_u)));
+    cnRtn.ejecutar(
+        "update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='%1'"_u.arg(QString(archivo).replace(u'\'', "''"_u)));
     r = validar_escritura(c, oyente);
     EXPECT_FALSE(r.vale);
     EXPECT_EQ(oyente.ultimo(), "Atención: El archivo ya fue asociado a la escritura Nº 8 del dia 8"_u);
@@ -171,7 +183,9 @@ TEST_F(EscrituraDJ, QuienRequiereTestimonio)
     EXPECT_TRUE(requiere_testimonio(c));
     c.renglon = "1"_u;
     EXPECT_TRUE(requiere_testimonio(c));  // no operation yet
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 1, 1, 5707029), ('%1', 1, 2, 5707001)"_u.arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID) values ('%1', 1, 1, 5707029), ('%1', 1, 2, 5707001)"_u
+            .arg(dj));
     EXPECT_FALSE(requiere_testimonio(c));
     c.alcanzado = 1;
     for (const auto& [motivo, si] : {std::pair{1, false}, {3, true}, {77, false}}) {
@@ -194,7 +208,8 @@ TEST_F(EscrituraDJ, LaFilaQueQueda)
     c.testimonio = "/a'b.pdf"_u;
     c.totalImpuesto.setValue(1234.5);
     EXPECT_EQ(actualizar_escritura(c), 1);
-    const QString todo = "select SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_TOTAL_IMPUESTO, SEDD_OBSERVACIONES, SEDD_ESTADO, SEDD_ALCANZADO, SNAD_ID, SNAD_DESC_OTRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ"_u;
+    const QString todo =
+        "select SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO, SEDD_TOTAL_IMPUESTO, SEDD_OBSERVACIONES, SEDD_ESTADO, SEDD_ALCANZADO, SNAD_ID, SNAD_DESC_OTRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ"_u;
     EXPECT_EQ(filas(todo), "17|15|16|1234.5|null|P|N|9|D'ANGELO|/a'b.pdf"_u);
     c.estado = 1;
     c.alcanzado = 0;
