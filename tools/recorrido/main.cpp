@@ -8,7 +8,7 @@
 #include "core/reloj.h"
 #include "manejo/manejo.h"
 #include "recorrido/guia.h"
-#include "recorrido/pasos.h"
+#include "recorrido/mes.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -65,7 +65,7 @@ int main(int argc, char** argv)
         principal.activateWindow();
         QApplication::processEvents();
         Guia guia(&principal, carpeta);
-        recorrer(principal, guia);
+        Mes(principal, guia).correr();
         Cajas::durante({{u"¿Está seguro que desea salir del sistema?"_s, u"VEDRA-RTN"_s}}, [&] { principal.close(); });
         std::printf("\nEl mes está completo: %d pasos, %d imágenes.\nTodo quedó en %s\n", guia.pasos(), guia.fotos(),
                     qUtf8Printable(carpeta));

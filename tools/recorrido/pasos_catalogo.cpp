@@ -8,134 +8,131 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 using namespace manejo;
 
 namespace {
 
-QString u(const char* texto)
-{
-    return QString::fromUtf8(texto);
-}
-
 void buscar(QWidget* catalogo, const QString& texto)
 {
-    elegir(catalogo, u("cboCriterioSubcon"), u("Contiene el texto"));
-    escribir(catalogo, u("txtSubconcepto"), texto);
-    pulsar(catalogo, u("toolbar"), u("buscar"));
+    elegir(catalogo, u"cboCriterioSubcon"_s, u"Contiene el texto"_s);
+    escribir(catalogo, u"txtSubconcepto"_s, texto);
+    pulsar(catalogo, u"toolbar"_s, u"buscar"_s);
 }
 
 void cabecera(Guia& g, QWidget* f)
 {
-    comprobar(u("código"), texto(f, u("nroCodigo")), u("5707051"));
-    Cajas::durante({{u("Ingrese la descripción del subconcepto"), f->windowTitle()}},
-                   [&] { pulsar(f, u("toolbar"), u("aceptar")); });
-    escribir(f, u("txtDescripcion"), u("cesión de marcas y patentes"));
-    Cajas::durante({{u("Seleccione el concepto"), f->windowTitle()}}, [&] { pulsar(f, u("toolbar"), u("aceptar")); });
-    elegir(f, u("cboConcepto"), u("8 - Cesiones"));
-    clic(f, u("cmd"));
-    g.foto(u("subconcepto-tipos"));
-    clic(f, u("cmd"));
-    elegir(f, u("ctlTipoCalculo"), u("VARIABLE"));
-    clic(f, u("chkCUIT_EnTramite"));
-    g.foto(u("subconcepto-general"));
+    comprobar(u"código"_s, texto(f, u"nroCodigo"_s), u"5707051"_s);
+    Cajas::durante({{u"Ingrese la descripción del subconcepto"_s, f->windowTitle()}},
+                   [&] { pulsar(f, u"toolbar"_s, u"aceptar"_s); });
+    escribir(f, u"txtDescripcion"_s, u"cesión de marcas y patentes"_s);
+    Cajas::durante({{u"Seleccione el concepto"_s, f->windowTitle()}}, [&] { pulsar(f, u"toolbar"_s, u"aceptar"_s); });
+    elegir(f, u"cboConcepto"_s, u"8 - Cesiones"_s);
+    clic(f, u"cmd"_s);
+    g.foto(u"subconcepto-tipos"_s);
+    clic(f, u"cmd"_s);
+    elegir(f, u"ctlTipoCalculo"_s, u"VARIABLE"_s);
+    clic(f, u"chkCUIT_EnTramite"_s);
+    g.foto(u"subconcepto-general"_s);
 }
 
 void base(Guia& g, QWidget* f)
 {
-    solapa(f, u("SSTab1"), 1);
-    clic(f, u("chkBaseImponible"));
-    clic(f, u("cmdElegirTCBI"));
+    solapa(f, u"SSTab1"_s, 1);
+    clic(f, u"chkBaseImponible"_s);
+    clic(f, u"cmdElegirTCBI"_s);
     auto* tipos = formulario("frmTiposCalculoBI");
-    celda(tipos, u("grillaTCBI"), 2, 1);
-    g.foto(u("tipos-de-calculo"));
-    pulsar(tipos, u("tlbTCBI"), u("seleccionar"));
-    comprobar(u("tipo de la base"), texto(f, u("txtTipoCalculoBI")), u("Valor contractual"));
-    escribir(f, u("nroPorcValorContractual"), u("1"));
-    clic(f, u("chkObligAccesoria"));
-    clic(f, u("optObligAccesoria_porc"));
-    clic(f, u("cmdObligAccesoria_suma"));
+    celda(tipos, u"grillaTCBI"_s, 2, 1);
+    g.foto(u"tipos-de-calculo"_s);
+    pulsar(tipos, u"tlbTCBI"_s, u"seleccionar"_s);
+    comprobar(u"tipo de la base"_s, texto(f, u"txtTipoCalculoBI"_s), u"Valor contractual"_s);
+    escribir(f, u"nroPorcValorContractual"_s, u"1"_s);
+    clic(f, u"chkObligAccesoria"_s);
+    clic(f, u"optObligAccesoria_porc"_s);
+    clic(f, u"cmdObligAccesoria_suma"_s);
     auto* mascara = formulario("frmCrearMascara");
     for (const int abajo : {0, 1}) {
         for (int i = 0; i < abajo; ++i)
-            tecla(mascara, u("lstElem"), Qt::Key_Down);
-        tecla(mascara, u("lstElem"), Qt::Key_Space);
+            tecla(mascara, u"lstElem"_s, Qt::Key_Down);
+        tecla(mascara, u"lstElem"_s, Qt::Key_Space);
     }
-    comprobar(u("máscara"), texto(mascara, u("txtMascara")), u("3"));
-    g.foto(u("mascara"));
-    pulsar(mascara, u("tlb"), u("aceptar"));
-    comprobar(u("máscara de la obligación"), texto(f, u("txtObligAccesoria_suma")), u("3"));
-    g.foto(u("subconcepto-base"));
-    pulsar(f, u("toolbar"), u("aceptar"));
+    comprobar(u"máscara"_s, texto(mascara, u"txtMascara"_s), u"3"_s);
+    g.foto(u"mascara"_s);
+    pulsar(mascara, u"tlb"_s, u"aceptar"_s);
+    comprobar(u"máscara de la obligación"_s, texto(f, u"txtObligAccesoria_suma"_s), u"3"_s);
+    g.foto(u"subconcepto-base"_s);
+    pulsar(f, u"toolbar"_s, u"aceptar"_s);
 }
 
 void rango(Guia& g, QWidget* f, const char* desde, const char* hasta, const char* dividendo, const char* divisor)
 {
-    pulsar(f, u("tlbAlicuotas"), u("alta"));
+    pulsar(f, u"tlbAlicuotas"_s, u"alta"_s);
     auto* r = formulario("frmEditarAlicuota");
-    escribir(r, u("nroDesde"), u(desde));
+    escribir(r, u"nroDesde"_s, QString::fromUtf8(desde));
     if (hasta) {
-        clic(r, u("chkValorHasta"));
-        escribir(r, u("nroHasta"), u(hasta));
+        clic(r, u"chkValorHasta"_s);
+        escribir(r, u"nroHasta"_s, QString::fromUtf8(hasta));
     }
-    escribir(r, u("nroDividendo"), u(dividendo));
-    escribir(r, u("nroDivisor"), u(divisor));
-    g.foto(u("alicuota"));
-    tecla(r, u("nroAlicuota"), Qt::Key_Return);
+    escribir(r, u"nroDividendo"_s, QString::fromUtf8(dividendo));
+    escribir(r, u"nroDivisor"_s, QString::fromUtf8(divisor));
+    g.foto(u"alicuota"_s);
+    tecla(r, u"nroAlicuota"_s, Qt::Key_Return);
     QApplication::processEvents();
 }
 
 void rol(Guia& g, QWidget* f, const char* descripcion, bool obligado)
 {
-    pulsar(f, u("tlbRoles"), u("alta"));
+    pulsar(f, u"tlbRoles"_s, u"alta"_s);
     auto* r = formulario("frmEditarRol");
-    escribir(r, u("txtDescripcion"), u(descripcion));
+    escribir(r, u"txtDescripcion"_s, QString::fromUtf8(descripcion));
     if (obligado)
-        clic(r, u("chkParticipaImpuesto"));
-    g.foto(u("rol"));
-    pulsar(r, u("toolbar"), u("aceptar"));
+        clic(r, u"chkParticipaImpuesto"_s);
+    g.foto(u"rol"_s);
+    pulsar(r, u"toolbar"_s, u"aceptar"_s);
 }
 
 }  // namespace
 
 void nuevo_subconcepto(Guia& g, QWidget* operacion)
 {
-    clic(operacion, u("cmdBuscarSubcon"));
+    clic(operacion, u"cmdBuscarSubcon"_s);
     auto* catalogo = formulario("frmSubconceptos");
-    buscar(catalogo, u("cesion"));
-    g.foto(u("catalogo"));
-    pulsar(catalogo, u("toolbar"), u("nuevo"));
+    buscar(catalogo, u"cesion"_s);
+    g.foto(u"catalogo"_s);
+    pulsar(catalogo, u"toolbar"_s, u"nuevo"_s);
     auto* f = formulario("frmEditarSubconceptoSellos");
     cabecera(g, f);
     base(g, f);
-    pulsar(f, u("toolbar"), u("editar"));
-    solapa(f, u("SSTab1"), 2);
+    pulsar(f, u"toolbar"_s, u"editar"_s);
+    solapa(f, u"SSTab1"_s, 2);
     rango(g, f, "0", "1000000", "5", "1000");
     rango(g, f, "1000000", nullptr, "1", "100");
-    comprobar(u("rangos"), QString::number(filas(f, u("grillaAlicuotas"))), u("2"));
-    g.foto(u("subconcepto-alicuotas"));
-    solapa(f, u("SSTab1"), 3);
+    comprobar(u"rangos"_s, QString::number(filas(f, u"grillaAlicuotas"_s)), u"2"_s);
+    g.foto(u"subconcepto-alicuotas"_s);
+    solapa(f, u"SSTab1"_s, 3);
     rol(g, f, "cedente", true);
     rol(g, f, "cesionario", false);
-    comprobar(u("roles"), QString::number(filas(f, u("grillaRoles"))), u("2"));
-    g.foto(u("subconcepto-roles"));
-    pulsar(f, u("toolbar"), u("aceptar"));
-    pulsar(f, u("toolbar"), u("salir"));
-    buscar(catalogo, u("patentes"));
-    comprobar(u("hallados"), texto(catalogo, u("lblResultado")), u("1 registro"));
-    tecla(catalogo, u("grilla"), Qt::Key_Return);
+    comprobar(u"roles"_s, QString::number(filas(f, u"grillaRoles"_s)), u"2"_s);
+    g.foto(u"subconcepto-roles"_s);
+    pulsar(f, u"toolbar"_s, u"aceptar"_s);
+    pulsar(f, u"toolbar"_s, u"salir"_s);
+    buscar(catalogo, u"patentes"_s);
+    comprobar(u"hallados"_s, texto(catalogo, u"lblResultado"_s), u"1 registro"_s);
+    tecla(catalogo, u"grilla"_s, Qt::Key_Return);
     QApplication::processEvents();
-    comprobar(u("subconcepto elegido"), texto(operacion, u("txtSubconcepto")), u("CESIÓN DE MARCAS Y PATENTES"));
+    comprobar(u"subconcepto elegido"_s, texto(operacion, u"txtSubconcepto"_s), u"CESIÓN DE MARCAS Y PATENTES"_s);
 }
 
 void parte_anterior(Guia& g, QWidget* parte)
 {
-    pulsar(parte, u("tlb"), u("buscar"));
+    pulsar(parte, u"tlb"_s, u"buscar"_s);
     auto* f = formulario("frmDJ_buscar_parte");
-    elegir(f, u("cboCriterioRazonSocial"), u("Contiene el texto"));
-    teclear(f, u("txtRazonSocial"), u("rosa, sosa"));
-    tecla(f, u("txtRazonSocial"), Qt::Key_Return);
-    g.foto(u("buscar-parte"));
-    celda(f, u("flx"), 0, 3);
-    tecla(f, u("flx"), Qt::Key_Return);
+    elegir(f, u"cboCriterioRazonSocial"_s, u"Contiene el texto"_s);
+    teclear(f, u"txtRazonSocial"_s, u"rosa, sosa"_s);
+    tecla(f, u"txtRazonSocial"_s, Qt::Key_Return);
+    g.foto(u"buscar-parte"_s);
+    celda(f, u"flx"_s, 0, 3);
+    tecla(f, u"flx"_s, Qt::Key_Return);
     QApplication::processEvents();
 }

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One connection to the store, its errors and its transactions.
+#pragma once
+
+#include <QString>
+
+#include <stdexcept>
+#include <unordered_map>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// A statement or an opening that the engine refused.
+class ErrorAlmacen : public std::runtime_error
+{
+public:
+    ErrorAlmacen(int numero_, const QString& descripcion_);
+
+    int numero;           ///< extended result code of the engine
+    QString descripcion;  ///< the engine's own words
+
+    /// Whether a unique key or a primary key was violated.
+    [[nodiscard]] bool claveDuplicada() const;
+    /// Whether somebody else holds the file.
+    [[nodiscard]] bool ocupado() const;
+};
+
+/// One connection to the store. Transactions nest: an inner one is a savepoint of the outer.
+class Conexion
+{
+public:
+    Conexion() = default;
+    ~Conexion();
+    Conexion(const Conexion&) = delete;
+    Conexion& operator=(const Conexion&) = delete;
+
+    /// Opens an existing store, never creates one. Throws ErrorAlmacen when the file is
+    /// missing, is no store, is locked or does not open with the password.
+    void abrir(const QString& ruta, const QString& clave);
+    /// Rolls an open transaction back and closes; nothing happens on a closed connection.
+    void cerrar();
+    [[nodiscard]] bool abierta() const { return base_ != nullptr; }
+
+    /// Executes one or more statements; gives the rows that the last one affected.
+    int ejecutar(const QString& sql);
+
+    void comenzar();
+    void confirmar();
+    void deshacer();
+    /// Rolls back whatever is open, however deep.
+    void deshacerTodo();
+    [[nodiscard]] int transacciones() const { return nivel_; }
+
+    [[nodiscard]] sqlite3* nativa() const { return base_; }
+
+private:
+    friend class Recordset;
+    friend class Comando;
+    friend void crear_conexion_nueva(Conexion&, const QString&, const QString&);
+
+    void conectar(const QString& ruta, const QString& clave, int modo);
+    sqlite3_stmt* preparar(const QString& sql);
+    sqlite3_stmt* prestar(const QString& sql);
+    void devolver(const QString& sql, sqlite3_stmt* sentencia);
+    void sentenciaSimple(const char* sql);
+    [[noreturn]] void fallar() const;
+
+    sqlite3* base_ = nullptr;
+    int nivel_ = 0;
+    std::unordered_map<QString, sqlite3_stmt*> guardadas_;
+};
+
+/// Creates a new, empty store at the path; used by the builder of stores alone.
+void crear_conexion_nueva(Conexion& cn, const QString& ruta, const QString& clave);
+
+/// A transaction that is rolled back unless it is confirmed.
+class Transaccion
+{
+public:
+    explicit Transaccion(Conexion& cn) : cn_(cn) { cn_.comenzar(); }
+    ~Transaccion();
+    Transaccion(const Transaccion&) = delete;
+    Transaccion& operator=(const Transaccion&) = delete;
+    void confirmar();
+
+private:
+    Conexion& cn_;
+    bool abierta_ = true;
+};

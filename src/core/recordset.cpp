@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/recordset.h"
+
+#include <sqlcipher/sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+Recordset::Recordset(Conexion& cn, const QString& sql) : cn_(cn), sql_(sql), sentencia_(cn.prestar(sql))
+{
+    try {
+        siguiente();
+    } catch (...) {
+        sqlite3_finalize(sentencia_);
+        throw;
+    }
+}
+
+Recordset::~Recordset()
+{
+    cn_.devolver(sql_, sentencia_);
+}
+
+void Recordset::siguiente()
+{
+    const int rc = sqlite3_step(sentencia_);
+    if (rc != SQLITE_ROW && rc != SQLITE_DONE)
+        cn_.fallar();
+    eof_ = rc == SQLITE_DONE;
+}
+
+int Recordset::columnas() const
+{
+    return sqlite3_column_count(sentencia_);
+}
+
+QString Recordset::nombre(int columna) const
+{
+    return QString::fromUtf8(sqlite3_column_name(sentencia_, columna));
+}
+
+int Recordset::columna(const char* nombre) const
+{
+    for (int i = 0; i < columnas(); ++i)
+        if (qstricmp(sqlite3_column_name(sentencia_, i), nombre) == 0)
+            return i;
+    throw ErrorAlmacen(SQLITE_RANGE, u"No existe la columna %1"_s.arg(QLatin1String(nombre)));
+}
+
+bool Recordset::nulo(int columna) const
+{
+    return sqlite3_column_type(sentencia_, columna) == SQLITE_NULL;
+}
+
+std::string_view Recordset::utf8(int columna) const
+{
+    const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(sentencia_, columna));
+    return texto ? std::string_view(texto, size_t(sqlite3_column_bytes(sentencia_, columna))) : std::string_view();
+}
+
+QString Recordset::texto(int columna) const
+{
+    const std::string_view t = utf8(columna);
+    return QString::fromUtf8(t.data(), qsizetype(t.size()));
+}
+
+double Recordset::real(int columna) const
+{
+    return sqlite3_column_double(sentencia_, columna);
+}
+
+qint64 Recordset::entero(int columna) const
+{
+    return sqlite3_column_int64(sentencia_, columna);
+}
+
+QVariant Recordset::valor(int columna) const
+{
+    switch (sqlite3_column_type(sentencia_, columna)) {
+    case SQLITE_NULL: return {};
+    case SQLITE_INTEGER: return entero(columna);
+    case SQLITE_FLOAT: return real(columna);
+    default: return texto(columna);
+    }
+}
+
+QDate Recordset::fecha(const char* n) const
+{
+    return QDate::fromString(texto(n).left(10), Qt::ISODate);
+}
