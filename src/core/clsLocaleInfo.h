@@ -19,6 +19,9 @@ public:
     [[nodiscard]] QString LongDateFormat() const { return local_.dateFormat(QLocale::LongFormat); }
     [[nodiscard]] QString NativeCountryName() const { return local_.nativeTerritoryName(); }
     [[nodiscard]] QString CountryName() const { return QLocale::territoryToString(local_.territory()); }
+    /// The locale's number in the published list of Windows language identifiers ([MS-LCID]), for
+    /// Spanish and English; 0 for any other.
+    [[nodiscard]] int GetLCID() const;
     /// "MDY", "DMY" or "YMD".
     [[nodiscard]] QString LongDateFormatOrder() const { return orden(LongDateFormat()); }
     [[nodiscard]] QString DateFormatOrder() const { return orden(ShortDateFormat()); }

@@ -2,6 +2,7 @@
 // One connection to the store, its errors and its transactions.
 #pragma once
 
+#include <QHash>
 #include <QString>
 
 #include <stdexcept>

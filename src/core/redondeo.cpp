@@ -149,6 +149,13 @@ QString importe_agrupado(double importe, int decimales)
     return con_mascara(importe, decimales, local.sDecimal(), local.Thousands());
 }
 
+QString con_formato(const QString& texto, const QString& mascara)
+{
+    const auto punto = mascara.indexOf(u'.');
+    const auto decimales = punto < 0 ? 0 : mascara.size() - punto - 1;
+    return formato_decimal(numero_inicial(texto), int(decimales)).rightJustified(mascara.size(), u'0');
+}
+
 QString con_ceros(qint64 valor, int ancho)
 {
     return u"%1"_s.arg(valor, ancho, 10, QLatin1Char('0'));

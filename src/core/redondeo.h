@@ -25,6 +25,9 @@
 [[nodiscard]] QString importe_llano(double importe);
 /// An amount or a rate in the separators of the user's locale, grouped.
 [[nodiscard]] QString importe_agrupado(double importe, int decimales = 2);
+/// The number at the start of a text under a mask of zeros, with at least as many whole digits as the mask
+/// has: "7" under "000" is "007", "2.5" under "0.00" is "2.50".
+[[nodiscard]] QString con_formato(const QString& texto, const QString& mascara);
 /// A whole number with leading zeros up to `ancho`.
 [[nodiscard]] QString con_ceros(qint64 valor, int ancho);
 /// Up to 15 significant digits with ".", as a statement takes a number.

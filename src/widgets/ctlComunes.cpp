@@ -2,6 +2,8 @@
 
 #include "widgets/ctlComunes.h"
 
+#include "core/redondeo.h"
+
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QEvent>
@@ -121,11 +123,13 @@ void seleccionar_texto(QComboBox* combo, const QString& texto)
     combo->setCurrentIndex(combo->findText(texto, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
-void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio, int largo)
+void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio, int largo,
+                     const QString& formato)
 {
+    const QString buscado = formato.isEmpty() ? texto : con_formato(texto, formato);
     for (int i = 0; i < combo->count(); ++i) {
-        const bool coincide = criterio == 0 ? combo->itemData(i).toString().mid(inicio - 1, largo) == texto
-                                            : combo->itemText(i).contains(texto);
+        const bool coincide = criterio == 0 ? combo->itemData(i).toString().mid(inicio - 1, largo) == buscado
+                                            : combo->itemText(i).contains(buscado);
         if (coincide) {
             combo->setCurrentIndex(i);
             return;

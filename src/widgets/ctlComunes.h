@@ -30,8 +30,10 @@ void seleccionar_item(QComboBox* combo, qint64 dato);
 /// The first entry with this text, or none.
 void seleccionar_texto(QComboBox* combo, const QString& texto);
 /// The first entry that matches is selected, or none: criterion 0 compares `largo` characters of
-/// the item data from `inicio` (from 1), criterion 1 looks for the text anywhere in the entry.
-void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio = 1, int largo = 0);
+/// the item data from `inicio` (from 1), criterion 1 looks for the text anywhere in the entry, case
+/// included. A `formato` of zeros ("000", "0.00") is put on the text first.
+void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio = 1, int largo = 0,
+                     const QString& formato = {});
 /// Item data of the selection as a number, 0 without one.
 [[nodiscard]] int item_data(const QComboBox* combo);
 /// Item data of the selection, nothing without one.

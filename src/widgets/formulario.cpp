@@ -4,6 +4,7 @@
 
 #include "widgets/barra.h"
 #include "widgets/ctlNumero.h"
+#include "widgets/grilla.h"
 #include "widgets/mensajes.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScreen>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -209,4 +211,21 @@ bool Formulario::esActivo(const QWidget* control) const
 {
     const QWidget* f = focusWidget();
     return f && (f == control || control->isAncestorOf(f));
+}
+
+void ajustar_a_principal(Formulario* form, bool maximizar)
+{
+    constexpr QSize MARGEN(700, 1200);  // twips
+    constexpr int MAS_ARRIBA = 500;     // twips
+    // As a child of the main window the form moves with its frame.
+    QWidget* marco = form->isWindow() ? form : form->parentWidget();
+    if (maximizar) {
+        const QSize principal = form->window()->size();
+        marco->setGeometry(0, 0, principal.width() - pixeles(form, MARGEN.width()),
+                           principal.height() - pixeles(form, MARGEN.height()));
+        return;
+    }
+    const QSize pantalla = form->screen()->size();
+    marco->move(pantalla.width() / 2 - marco->width() / 2,
+                pantalla.height() / 2 - pixeles(form, MAS_ARRIBA) - marco->height() / 2);
 }

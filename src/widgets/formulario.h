@@ -73,6 +73,10 @@ private:
     QPointer<QWidget> foco_;  ///< what had the focus when another form was opened
 };
 
+/// Fits a form to the main window: as large as that, but for a margin, in its upper left corner; or, without
+/// `maximizar`, in the middle of the screen, a little above.
+void ajustar_a_principal(Formulario* form, bool maximizar);
+
 template <class F>
 inline QPointer<F> instancia_unica;
 

@@ -86,8 +86,11 @@ TEST(Utiles, LocalDelUsuario)
 {
     const clsLocaleInfo ar(QLocale(QLocale::Spanish, QLocale::Argentina));
     EXPECT_EQ(ar.Thousands() + ar.sDecimal() + ar.DateFormatOrder(), ".,DMY"_u);
+    EXPECT_EQ(ar.GetLCID(), 11274);
     const clsLocaleInfo us(QLocale(QLocale::English, QLocale::UnitedStates));
     EXPECT_EQ(us.Thousands() + us.sDecimal() + us.DateFormatOrder(), ",.MDY"_u);
+    EXPECT_EQ(us.GetLCID(), 1033);
+    EXPECT_EQ(clsLocaleInfo(QLocale::c()).GetLCID(), 0);
 }
 
 struct Letras
