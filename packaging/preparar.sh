@@ -17,11 +17,13 @@ instalar_faltantes() {
   DEBIAN_FRONTEND=noninteractive "${como[@]}" apt-get install -y -qq --no-install-recommends "${faltan[@]}"
 }
 
-# construir PRESET
+# construir PRESET [TARGET...]: everything without targets.
 construir() {
+  local preset=$1
+  shift
   instalar_faltantes
   export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-$([ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || echo offscreen)}
   [ -n "$QT_QPA_PLATFORM" ] || unset QT_QPA_PLATFORM
-  [ -e "build/$1/build.ninja" ] || cmake --preset "$1" >/dev/null
-  cmake --build --preset "$1"
+  [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset" ${1:+--target} "$@"
 }
