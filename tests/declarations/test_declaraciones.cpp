@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "apoyo/apoyo.h"
-#include "agents/agente.h"
 #include "declarations/cabecera_dj.h"
 #include "declarations/copiar_dj.h"
-#include "deeds/hijos_escritura.h"
-#include "deeds/inmueble.h"
 #include "declarations/lista_dj.h"
-#include "tree/modABM_dj.h"
 #include "declarations/numero_dj.h"
 #include "declarations/renglones.h"
+#include "tree/modABM_dj.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,6 +14,26 @@
 namespace {
 
 using Declaraciones = ConAlmacen;
+
+// A DJ with a row of every kind.
+QString dj_completa(const QString& dj)
+{
+    cnRtn.ejecutar(
+        "update SEL_TB_RTN_CABDJ set SEDJ_MD5='ABC', SEDJ_TOTAL_RETENIDO=10.5, SEDJ_OBSERVACIONES='obs' where SEDJ_NRO='%1'"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL) values (4, '%1', 3, '80', 20123456786, 0, 'P')"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEDO_ID, SEII_PARTIDA) values ('%1', 3, 2, 1, '77')"_u
+            .arg(dj));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 3, 1, 5707029, 10.5)"_u
+            .arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_VC values ('%1', 3, 1, 5, 1.5, null, 'PES', 1, 1.5)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 3, 1, 4, 5707029001, 'r')"_u.arg(dj));
+    return dj;
+}
 
 TEST(DeclaracionesReglas, NumeroPosicionYVencimiento)
 {
@@ -118,26 +135,6 @@ TEST_F(Declaraciones, RectificarSigueDesdeElUltimoEslabon)
     EXPECT_EQ(dj_a_rectificar("20123456786261001"_u, oyente), "20123456786261002"_u);
     EXPECT_TRUE(oyente.ultimo().startsWith("La DJ  Rectificativa 01 para"_u));
     EXPECT_THROW((void)dj_a_rectificar("123"_u, oyente), ErrorAlmacen);
-}
-
-// A DJ with a row of every kind.
-QString dj_completa(const QString& dj)
-{
-    cnRtn.ejecutar(
-        "update SEL_TB_RTN_CABDJ set SEDJ_MD5='ABC', SEDJ_TOTAL_RETENIDO=10.5, SEDJ_OBSERVACIONES='obs' where SEDJ_NRO='%1'"_u
-            .arg(dj));
-    cnRtn.ejecutar(
-        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_CUIT, SPIN_CUIT_EN_TRAMITE, SPIN_RSOCIAL) values (4, '%1', 3, '80', 20123456786, 0, 'P')"_u
-            .arg(dj));
-    cnRtn.ejecutar(
-        "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEDO_ID, SEII_PARTIDA) values ('%1', 3, 2, 1, '77')"_u
-            .arg(dj));
-    cnRtn.ejecutar(
-        "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 3, 1, 5707029, 10.5)"_u
-            .arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_VC values ('%1', 3, 1, 5, 1.5, null, 'PES', 1, 1.5)"_u.arg(dj));
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 3, 1, 4, 5707029001, 'r')"_u.arg(dj));
-    return dj;
 }
 
 TEST_F(Declaraciones, CopiaUnaDJConSusNumeros)
@@ -280,144 +277,6 @@ TEST_F(Declaraciones, RenglonesYLoQueLesFalta)
     borrar_escrituras(dj);
     EXPECT_EQ(cantidad_renglones(dj), 0);
     EXPECT_DOUBLE_EQ(total_retenido(dj), 765.5);
-}
-
-TEST_F(Declaraciones, BorrarUnaOperacionRestaElTotalMostrado)
-{
-    const QString dj = nueva_dj();
-    nueva_escritura(dj, 1, 1, 1, 1);
-    cnRtn.ejecutar(
-        "update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=100; update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=100"_u);
-    for (const int op : {1, 2})
-        cnRtn.ejecutar(
-            "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 1, %2, 5707029, %3)"_u
-                .arg(dj)
-                .arg(op)
-                .arg(op == 1 ? 60 : 40));
-    const RenglonDJ r{dj, "1"_u};
-    QStringList filas_op;
-    EXPECT_DOUBLE_EQ(leer_operaciones(r, [&](const QStringList& f) { filas_op << f.join(u'|'); }), 100);
-    EXPECT_EQ(filas_op, (QStringList{"1|29|PODER GENERAL||60,00"_u, "2|29|PODER GENERAL||40,00"_u}));
-    borrar_operacion(r, "1"_u, "100.00"_u, oyente);
-    EXPECT_EQ(
-        filas(
-            "select SEDD_TOTAL_IMPUESTO, SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_DETDJ D join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=D.SEDJ_NRO"_u),
-        "0.0|0.0"_u);
-    EXPECT_EQ(cnRtn.transacciones(), 0);
-    borrar_operacion(r, "9"_u, "40.00"_u, oyente);
-    EXPECT_EQ(oyente.ultimo(), "No se pudo borrar la operación"_u);
-    EXPECT_EQ(cnRtn.transacciones(), 1);  // it stays open
-    cnRtn.deshacerTodo();
-}
-
-TEST_F(Declaraciones, InmuebleSeGuardaComoEsta)
-{
-    const QString dj = nueva_dj();
-    nueva_escritura(dj, 1, 1, 1, 1);
-    Inmueble i;
-    i.dj = dj;
-    i.renglon = 1;
-    const auto falla = [&] {
-        const auto f = validar_inmueble(i);
-        return f ? f->control : QString();
-    };
-    EXPECT_EQ(falla(), "txtINM_partida"_u);
-    i.partida = " 12 "_u;
-    EXPECT_EQ(falla(), "cboU_caracter"_u);
-    i.caracter = 1;
-    EXPECT_EQ(falla(), "nroValFiscal"_u);
-    i.valFiscal = 10.25;
-    EXPECT_EQ(falla(), QString());
-    i.uFuncional = "UF"_u;
-    ASSERT_TRUE(alta_inmueble(i, true, oyente));
-    i.calle = "PEÑA"_u;
-    i.uFuncional.clear();
-    modificar_inmueble(i, "99.50"_u);
-    const auto leido = cargar_inmueble(dj, "1"_u, 1);
-    ASSERT_TRUE(leido);
-    EXPECT_EQ(leido->partida + u'|' + leido->calle + u'|' + leido->uFuncional, "12|PEÑA|"_u);
-    EXPECT_DOUBLE_EQ(leido->valFiscal, 99.5);
-    i.barrio = "D'ANGELO"_u;
-    EXPECT_THROW(modificar_inmueble(i, "1"_u), ErrorAlmacen);
-}
-
-TEST(Agente, ReglasEnSuOrden)
-{
-    struct K
-    {
-        void (*poner)(Agente&);
-        const char* control;
-        const char* mensaje;
-    };
-    Agente a;
-    for (const K& k :
-         {K{[](Agente&) {}, "nroRegNotarial", "Ingrese el Nº de Registro Notarial del titular"},
-          K{[](Agente& x) { x.nroRegNotarial = 1; }, "txtTitular", "Ingrese el nombre del titular"},
-          K{[](Agente& x) { x.titular = "N"_u; }, "txtCUIT", "Ingrese el CUIT del titular"},
-          K{[](Agente& x) { x.cuit = "20123456780"_u; }, "txtCUIT", "El CUIT del titular no es válido"},
-          K{[](Agente& x) { x.cuit = "20-12345678-6"_u; }, "txtDomicilio", "Ingrese el domicilio del titular"},
-          K{[](Agente& x) { x.domicilio = "D"_u; }, "cboLocalidad", "Ingrese la localidad del titular"},
-          K{[](Agente& x) { x.localidad = 1; }, "txtCodPostal", "Ingrese el codigo postal del titular"},
-          K{[](Agente& x) {
-                x.codPostal = "1"_u;
-                x.adscripto2 = "A"_u;
-            },
-            "txtAdscripto1_cuit", "Ingrese el cuit del primer adscripto"},
-          K{[](Agente& x) {
-                x.adscripto1.clear();
-                x.adscripto1Cuit = "1"_u;
-            },
-            "txtAdscripto1_nombre", "Ingrese el nombre del primer adscripto"},
-          K{[](Agente& x) { x.adscripto1 = "A"_u; }, "txtAdscripto1_cuit", "El CUIT del primer adscripto no es válido"},
-          K{[](Agente& x) {
-                x.adscripto1Cuit = "20123456786"_u;
-                x.adscripto2 = "B"_u;
-            },
-            "txtAdscripto2_cuit", "Ingrese el cuit del segundo adscripto"},
-          K{[](Agente& x) {
-                x.adscripto2.clear();
-                x.adscripto2Cuit = "1"_u;
-            },
-            "txtAdscripto2_nombre", "Ingrese el nombre del segundo adscripto"},
-          K{[](Agente& x) { x.adscripto2 = "B"_u; }, "txtAdscripto2_cuit",
-            "El CUIT del segundo adscripto no es válido"},
-          K{[](Agente& x) { x.adscripto2Cuit = "20123456786"_u; }, "txtAdscripto1_cuit",
-            "El CUIT del primer adscripto no puede ser el mismo que el CUIT del titular"},
-          K{[](Agente& x) { x.adscripto1Cuit = "27222333445"_u; }, "txtAdscripto2_cuit",
-            "El CUIT del segundo adscripto no puede ser el mismo que el CUIT del titular"},
-          K{[](Agente& x) { x.adscripto2Cuit = "27-22233344-5"_u; }, "txtAdscripto1_cuit",
-            "Los CUITs de los adscriptos no pueden ser iguales"}}) {
-        k.poner(a);
-        const auto f = validar_agente(a);
-        ASSERT_TRUE(f) << k.mensaje;
-        EXPECT_EQ(f->mensaje, QString::fromUtf8(k.mensaje));
-        EXPECT_EQ(f->control, QLatin1StringView(k.control));
-    }
-    a.adscripto2Cuit.clear();
-    a.adscripto2.clear();
-    EXPECT_FALSE(validar_agente(a));
-}
-
-using AgenteAlmacen = ConAlmacen;
-TEST_F(AgenteAlmacen, SeGuardaSeLeeYSeBorra)
-{
-    Agente a{7, "O'BRIEN"_u, "20-12345678-6"_u, "CALLE"_u, 5, "9500"_u, {}, {}, "PEÑA"_u, "27222333445"_u, {}, {}};
-    ASSERT_TRUE(agregar_agente(a, "t"_u, oyente));
-    EXPECT_EQ(
-        filas(
-            "select SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, SRTN_EMAIL, SRTN_ADSCRIPTO2_CUIT from SEL_TB_RTN_PADRON"_u),
-        "7|7|O''BRIEN|20123456786|null|null"_u);
-    EXPECT_EQ(cargar_agente(7)->titular, "O'BRIEN"_u);
-    EXPECT_FALSE(agregar_agente(a, "t"_u, oyente));
-    a.nroRegNotarial = 8;
-    a.domicilio = "D'ANGELO 3"_u;
-    ASSERT_TRUE(modificar_agente(a, 7, "t"_u, oyente));
-    EXPECT_EQ(filas("select SRTN_NRO, SRTN_DOMICILIO from SEL_TB_RTN_PADRON"_u), "7|D'ANGELO 3"_u);
-    EXPECT_EQ(datos_agente_dj(7)->localidadNombre, "LOS ÑANDUES"_u);
-    cnRtn.ejecutar("update SEL_TB_RTN_PADRON set GLOC_ID=null"_u);
-    EXPECT_FALSE(datos_agente_dj(7));
-    EXPECT_EQ(borrar_agente(7), 1);
-    EXPECT_EQ(borrar_agente(7), 0);
 }
 
 }  // namespace

@@ -1,0 +1,207 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// An operation by keys and clicks.
+
+#include "apoyo/pantallas.h"
+#include "computation/screens/frmDJ_detalle_op.h"
+#include "deeds/screens/frmDJ_detalle.h"
+
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTest>
+
+namespace {
+
+using namespace manejo;
+
+TEST_F(Pantallas, OperacionDePuntaAPunta)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL) values ('%1', 1, 1, '5', 3000.10)"_u
+            .arg(dj));
+    QWidget* f = abrirOperacion(dj);
+    const char* claves = "salir cambiar_op guardar_op editar_det guardar_det cancelar";
+    EXPECT_EQ(botones(f, "tlb", claves), "001001"_u);
+    Cajas::durante({{"Ingrese el código de operación"_u}}, [&] { pulsar(f, "tlb"_u, "guardar_op"_u); });
+    for (const auto& [codigo, mensaje] :
+         {std::pair{"99", "El subconcepto 99 no se encuentra en la ley 5707"},
+          {"33", "El subconcepto 33 no se encuentra habilitado para el módulo para escribanos"},
+          {"36", "El subconcepto 36 no se encuentra habilitado para el módulo para escribanos"}}) {
+        teclear(f, "ctlCodS"_u, QLatin1StringView(codigo));
+        Cajas::durante({{QString::fromUtf8(mensaje)}}, [&] { tecla(f, "ctlCodS"_u, Qt::Key_Return); });
+    }
+    pulsar(f, "tlb"_u, "cancelar"_u);
+    Cajas::durante({{"Ingrese el codigo de operación"_u}}, [&] { pulsar(f, "tlb"_u, "salir"_u); });
+    teclear(f, "ctlCodS"_u, "1"_u);
+    pulsar(f, "tlb"_u, "guardar_op"_u);
+    EXPECT_EQ(botones(f, "tlb", claves), "010011"_u);
+    EXPECT_EQ(filas("select SEDO_ID, SSUB_ID, SINS_MONTO_FINAL from SEL_TB_RTN_INS_OPERACIONES"_u), "1|5707001|null"_u);
+    Cajas::durante({{"Ingrese (o guarde) el valor contractual de la operación"_u}},
+                   [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+
+    // A contract value in foreign currency, with its checks.
+    EXPECT_EQ(botones(f, "tlbBI", "nuevo editar borrar guardar cancelar"), "10000"_u);
+    pulsar(f, "tlbBI"_u, "nuevo"_u);
+    EXPECT_EQ(botones(f, "tlbBI", "nuevo editar borrar guardar cancelar"), "00011"_u);
+    Cajas::durante({{"Ingrese el valor contractual"_u}}, [&] { pulsar(f, "tlbBI"_u, "guardar"_u); });
+    escribir(f, "nroValorContractual"_u, "1000"_u);
+    elegir(f, "cboMoneda"_u, "DOLARES"_u);
+    Cajas::durante({{"Ingrese el valor de cambio para la moneda seleccionada"_u}},
+                   [&] { pulsar(f, "tlbBI"_u, "guardar"_u); });
+    escribir(f, "ctlValorCambio"_u, "3.5"_u);
+    teclear(f, "nroPorcIVA"_u, "21"_u);
+    tecla(f, "nroPorcIVA"_u, Qt::Key_Return);  // Enter saves the row
+    EXPECT_EQ(
+        filas(
+            "select SVCI_VALOR_CONTRACTUAL, SVCI_PORC_IVA, GMON_ID, SVCI_VALORCAMBIO, SVCI_TOTAL from SEL_TB_RTN_INS_VC"_u),
+        "1000.0|21.0|DOL|3.5|4235.0"_u);
+    EXPECT_EQ(texto(f, "nroTotalVC"_u), "4.235,00"_u);
+    EXPECT_EQ(texto(f, "nroValuacionFiscal"_u).remove(u'.'), "3000,10"_u);
+
+    // The role that the law asks for; the exemption acts when the tab changes.
+    Cajas::durante(
+        {{"Los roles de carga obligatoria son:\n - COMPRADOR\n - VENDEDOR\nPor favor, ingrese los roles de las partes."_u,
+          "Nueva operación - Atención!"_u, true, QMessageBox::Warning, true}},
+        [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    celda(f, "flxPartes"_u, 0, 5);
+    elegir(f, "cboRoles"_u, "VENDEDOR"_u);
+    celda(f, "flxPartes"_u, 1, 5);
+    elegir(f, "cboRoles"_u, "COMPRADOR"_u);
+    EXPECT_EQ(texto(f, "nroExencionPorc"_u), "0,00"_u);
+    solapa(f, "SSTab1"_u, 1);
+    EXPECT_EQ(texto(f, "nroExencionPorc"_u), "25,00"_u);
+    // 4235 at one per cent stays below 50 modules of 150; a quarter of the minimum is exempt.
+    EXPECT_EQ(texto(f, "ctlImpuestoCalculado"_u) + u' ' + texto(f, "nroMontoExento"_u) + u' '
+                  + texto(f, "nroImpuesto"_u),
+              "42,35 1.875,00 5.625,00"_u);
+    escribir(f, "nroPagoACuenta"_u, "25.5"_u);
+    escribir(f, "txtObs"_u, "it's"_u);
+    pulsar(f, "tlb"_u, "guardar_det"_u);
+    EXPECT_EQ(
+        filas(
+            "select SINS_BASEIMPONIBLE, SINS_VALUACION_FISCAL, SINS_MODULOS, SINS_ALICUOTA, SINS_IMPUESTO_CALCULADO, SINS_PORC_EXENTO, SINS_MONTO_EXENTO, SINS_MONTO_INICIAL, "
+            "SINS_MONTO_FINAL, SINS_NRO, SINS_PAGO_CTA_MONTO, SINS_OBLIG_ACCESORIA_FOP, SINS_HIPOTECA, SINS_LEY_APLIC_IMPUESTO, SINS_OBS from SEL_TB_RTN_INS_OPERACIONES"_u),
+        "4235.0|3000.1|null|0.01|42.35|25.0|1875.0|5599.5|5599.5|1|25.5|null|null|5707|it's"_u);
+    EXPECT_EQ(filas("select SPIN_ID, SROL_ID from SEL_TB_RTN_INS_ROLES"_u), "1|5707001001\n2|5707001002"_u);
+    EXPECT_EQ(filas("select SEDD_TOTAL_IMPUESTO, SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_DETDJ D, SEL_TB_RTN_CABDJ C"_u),
+              "5599.5|5599.5"_u);
+    EXPECT_EQ(botones(f, "tlb", claves), "110100"_u);
+    EXPECT_EQ(texto(cargada<frmDJ_detalle>(), "nroTotalImpuesto"_u), "5.599,50"_u);
+
+    // Another item: roles that it does not have go, after a question.
+    Cajas::durante(
+        {{"Esta acción borrará los roles asignados a las partes que no se correspondan con la nueva operación.\n¿Esta seguro de cambiar la operación?"_u,
+          "Nueva operación - Cambiar operación"_u, true, -1, true}},
+        [&] { pulsar(f, "tlb"_u, "cambiar_op"_u); });
+    EXPECT_EQ(botones(f, "tlb", claves), "001001"_u);
+    teclear(f, "ctlCodS"_u, "29"_u);
+    tecla(f, "ctlCodS"_u, Qt::Key_Return);
+    pulsar(f, "tlb"_u, "guardar_op"_u);
+    EXPECT_EQ(botones(f, "tlb", claves), "000011"_u);
+    EXPECT_EQ(en_grilla(f, "flxPartes"_u, 0, 5), "(ninguno)"_u);
+    EXPECT_FALSE(qobject_cast<QTabWidget*>(control(f, "SSTab1"_u))->isTabEnabled(0));
+    pulsar(f, "tlb"_u, "cancelar"_u);
+    EXPECT_EQ(texto(f, "ctlCodS"_u), "1"_u);
+    EXPECT_EQ(dato("select SSUB_ID from SEL_TB_RTN_INS_OPERACIONES"_u), "5707001"_u);
+    pulsar(f, "tlb"_u, "editar_det"_u);
+    Cajas::durante({{"¿Descartar los cambios?"_u, {}, false}},
+                   [&] { EXPECT_FALSE(static_cast<Formulario*>(f)->descargar()); });
+    Cajas::durante({{"¿Descartar los cambios?"_u}}, [&] { EXPECT_TRUE(static_cast<Formulario*>(f)->descargar()); });
+
+    // Opening it again shows what was saved, without a calculation.
+    cnRtn.ejecutar(
+        "update SEL_TB_ALICUOTAS set SALI_ALICUOTA=0.5 where SSUB_ID=5707001; update SEL_TB_RTN_INS_OPERACIONES set SINS_MONTO_FINAL=7"_u);
+    auto* escritura = formulario("frmDJ_detalle");
+    celda(escritura, "flxOp"_u, 0, 0);
+    QTest::mouseDClick(control(escritura, "flxOp"_u)->findChild<QWidget*>("qt_scrollarea_viewport"_u), Qt::LeftButton,
+                       {}, {20, 10});
+    f = formulario("frmDJ_detalle_op");
+    EXPECT_EQ(texto(f, "nroImpuesto"_u), "7,00"_u);
+    EXPECT_EQ(texto(f, "txtObs"_u), "it's"_u);
+    solapa(f, "SSTab1"_u, 1);
+    EXPECT_EQ(texto(f, "nroMoA"_u), "0,5000"_u);
+}
+
+TEST_F(PantallasFormularios, ObligacionAccesoriaYPoliza)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    QWidget* f = abrirOperacion("11");
+    valor(f, "1000");
+    clic(f, "chkObligAccesoria"_u);
+    elegir(f, "cboObligAccesoria_modo"_u, "Prenda"_u);  // not in the item's mask: it adds nothing
+    clic(f, "optObligAccesoria_fijo"_u);
+    escribir(f, "nroObligAccesoria"_u, "500"_u);
+    EXPECT_EQ(texto(f, "nroBaseImponible"_u).remove(u'.'), "1000,00"_u);
+    EXPECT_FALSE(control(f, "txtObligAccesoria_poliza"_u)->isVisible());
+    elegir(f, "cboObligAccesoria_modo"_u, "Seguro de Caución"_u);
+    escribir(f, "txtObligAccesoria_poliza"_u, "P-1"_u);
+    solapa(f, "SSTab1"_u, 1);
+    EXPECT_EQ(texto(f, "nroBaseImponible"_u).remove(u'.'), "1500,00"_u);
+    solapa(f, "SSTab1"_u, 0);
+    clic(f, "optObligAccesoria_porc"_u);
+    escribir(f, "nroObligAccesoria"_u, "10"_u);
+    EXPECT_EQ(texto(f, "nroBaseImponible"_u).remove(u'.'), "1100,00"_u);
+    cnRtn.ejecutar("update SEL_TB_ROLES set SROL_REQUERIDO=0"_u);
+    static_cast<frmDJ_detalle_op*>(f)->SeleccionarSubconcepto(5707011);
+    EXPECT_EQ(texto(f, "ctlCodS"_u), "11"_u);  // the code by its place in the identifier
+    clic(f, "chkObligAccesoria"_u);
+    clic(f, "chkObligAccesoria"_u);
+    elegir(f, "cboObligAccesoria_modo"_u, "Seguro de Caución"_u);
+    pulsar(f, "tlb"_u, "guardar_det"_u);
+    EXPECT_EQ(
+        filas(
+            "select SINS_OBLIG_ACCESORIA_FOP, SINS_OBLIG_ACCESORIA_VALOR, SINS_OBLIG_ACCESORIA_MODO, SINS_OBLIG_ACCESORIA_POLIZA from SEL_TB_RTN_INS_OPERACIONES"_u),
+        "P|10.0|1|P-1"_u);
+    clic(f, "cmdDetallesSSUB"_u);
+    auto* detalle = formulario("frmDetalleSSUB");
+    EXPECT_EQ(texto(detalle, "txtCodS"_u) + texto(detalle, "txtDescripcion"_u), "11CONSTITUCION DE HIPOTECA"_u);
+    clic(detalle, "cmdCerrar"_u);
+    pulsar(f, "tlb"_u, "salir"_u);
+    pulsar(formulario("frmDJ_detalle"), "tlbOp"_u, "editar"_u);
+    f = formulario("frmDJ_detalle_op");
+    // The column holds 1 or 0: the first mode of that kind shows, not the one that was chosen.
+    EXPECT_EQ(texto(f, "cboObligAccesoria_modo"_u), "Fianza"_u);
+}
+
+TEST_F(PantallasFormularios, PrestamoYValoresBorrados)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    for (const int id : {1, 2})
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_VAL_FISCAL) values ('%1', 1, %2, '5', %3)"_u
+                .arg(dj)
+                .arg(id)
+                .arg(id * 1000));
+    QWidget* f = abrirOperacion("6");
+    valor(f, "5000");
+    Cajas::durante({{"Ingrese la valuación fiscal"_u}}, [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    clic(f, "cmdBienes"_u);
+    celda(f, "flxInm"_u, 1, 1);
+    EXPECT_EQ(texto(f, "lblValuacionFiscal"_u), "Valuación fiscal - Val.Fiscal: $2.000,00"_u);
+    Cajas::durante({{"Ingrese el monto de la hipoteca"_u}}, [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    escribir(f, "nroHipoteca"_u, "6000"_u);
+    // Both the base and the tax are computed on the change of the tab, and each says it.
+    const CajaEsperada prestamo{"El préstamo no puede ser mayor que el precio de venta"_u, "Atención"_u};
+    Cajas::durante({prestamo, prestamo}, [&] { solapa(f, "SSTab1"_u, 1); });
+    EXPECT_EQ(texto(f, "ctlBaseImponiblePesos"_u), "0,00"_u);
+    Cajas::durante({prestamo, prestamo}, [&] { solapa(f, "SSTab1"_u, 0); });
+    escribir(f, "nroHipoteca"_u, "1000"_u);
+    solapa(f, "SSTab1"_u, 1);
+    EXPECT_EQ(texto(f, "ctlBaseImponiblePesos"_u), "4.000,00"_u);
+    solapa(f, "SSTab1"_u, 0);
+    pulsar(f, "tlbBI"_u, "editar"_u);
+    EXPECT_EQ(texto(f, "nroValorContractual"_u).remove(u'.'), "5000,00"_u);
+    escribir(f, "nroValorContractual"_u, "3000"_u);
+    pulsar(f, "tlbBI"_u, "cancelar"_u);
+    EXPECT_EQ(dato("select SVCI_VALOR_CONTRACTUAL from SEL_TB_RTN_INS_VC"_u), "5000.0"_u);
+    Cajas::durante(
+        {{"Esta seguro que desea borrar el valor contractual seleccionado?"_u, "Borrar valor contractual"_u}},
+        [&] { pulsar(f, "tlbBI"_u, "borrar"_u); });
+    EXPECT_EQ(texto(f, "nroTotalVC"_u), "0,00"_u);
+    EXPECT_FALSE(habilitado(f, "tlbBI"_u, "borrar"_u));
+}
+
+}  // namespace
