@@ -13,117 +13,15 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr int MIRADA_MS = 2;
-
-// Whether somebody already answers the boxes.
-int vigias = 0;
-
-// Outside of Cajas::durante no box is expected.
-void vigilar(const std::function<void()>& accion)
-{
-    if (vigias > 0)
-        accion();
-    else
-        Cajas::durante({}, accion);
-}
-
-QString describir(const QMessageBox* caja)
-{
-    return u"«%1» («%2»)"_s.arg(caja->text(), caja->windowTitle());
-}
-
-// What is wrong with a box, empty when it is the one expected.
-QString comparar(const QMessageBox* caja, const CajaEsperada& e)
-{
-    const bool bien_texto = e.exacto ? caja->text() == e.texto : caja->text().startsWith(e.texto);
-    const bool bien_titulo = e.titulo.isNull() || caja->windowTitle() == e.titulo;
-    const bool bien_icono = e.icono < 0 || caja->icon() == e.icono;
-    if (bien_texto && bien_titulo && bien_icono)
-        return {};
-    return u"vino la caja %1 y se esperaba «%2» («%3»)"_s.arg(describir(caja), e.texto, e.titulo);
-}
-
-}  // namespace
-
-Cajas::Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos) : pendientes_(cajas), archivos_(archivos)
-{
-    QObject::connect(&reloj_, &QTimer::timeout, &reloj_, [this] { mirar(); });
-    reloj_.start(MIRADA_MS);
-}
-
-void Cajas::elegirArchivo(QFileDialog* dialogo)
-{
-    if (archivos_.isEmpty())
-        falla_ = u"vino un diálogo de archivos que nadie esperaba: "_s + dialogo->windowTitle();
-    const QString archivo = archivos_.isEmpty() ? QString() : archivos_.takeFirst();
-    auto* nombre = dialogo->findChild<QLineEdit*>(u"fileNameEdit"_s);
-    if (archivo.isEmpty() || !nombre) {
-        dialogo->reject();
-        return;
-    }
-    nombre->setText(archivo);
-    QTest::keyClick(nombre, Qt::Key_Return);
-}
-
-void Cajas::mirar()
-{
-    if (auto* dialogo = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        dialogo && dialogo->isVisible()) {
-        elegirArchivo(dialogo);
-        return;
-    }
-    auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (!caja || !caja->isVisible())
-        return;
-    bool si = true;
-    if (pendientes_.isEmpty()) {
-        falla_ = u"vino una caja que nadie esperaba: "_s + describir(caja);
-    } else {
-        const CajaEsperada esperada = pendientes_.takeFirst();
-        if (const QString falla = comparar(caja, esperada); !falla.isEmpty() && falla_.isEmpty())
-            falla_ = falla;
-        si = esperada.si;
-    }
-    auto* boton = caja->button(si ? QMessageBox::Yes : QMessageBox::No);
-    if (!boton)
-        boton = caja->button(QMessageBox::Ok);
-    QTest::mouseClick(boton, Qt::LeftButton);
-}
-
-void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion, const QStringList& archivos)
-{
-    struct Turno
-    {
-        Turno() { ++vigias; }
-        ~Turno() { --vigias; }
-    };
-    const Turno turno;
-    Cajas c(cajas, archivos);
-    accion();
-    QApplication::processEvents();
-    c.reloj_.stop();
-    if (!c.falla_.isEmpty())
-        throw Inesperado(c.falla_);
-    if (!c.archivos_.isEmpty())
-        throw Inesperado(u"no vino el diálogo para "_s + c.archivos_.constFirst());
-    if (!c.pendientes_.isEmpty())
-        throw Inesperado(u"no vino la caja «%1»"_s.arg(c.pendientes_.constFirst().texto));
-}
 
 namespace manejo {
 
@@ -196,7 +94,7 @@ void teclear(QWidget* form, const QString& nombre, const QString& texto)
 
 void escribir(QWidget* form, const QString& nombre, const QString& texto)
 {
-    vigilar([&] {
+    Cajas::vigilar([&] {
         teclear(form, nombre, texto);
         QTest::keyClick(linea(control(form, nombre)), Qt::Key_Tab);
         QApplication::processEvents();
@@ -213,7 +111,7 @@ void elegir_fila(ctlCombo* combo, const QString& texto)
                                  [&](const ctlCombo::Fila& f) { return f.texto.startsWith(texto); });
     if (it == filas.end())
         throw Inesperado(u"%1 no tiene «%2»"_s.arg(combo->objectName(), texto));
-    vigilar([&] {
+    Cajas::vigilar([&] {
         QTest::mouseClick(combo->findChild<QToolButton*>(u"cmd"_s), Qt::LeftButton);
         auto* lista = combo->findChild<QTreeWidget*>(u"lvw"_s);
         lista->setFocus();
@@ -238,7 +136,7 @@ void elegir(QWidget* form, const QString& nombre, const QString& texto)
     const int indice = combo->findText(texto, Qt::MatchStartsWith);
     if (indice < 0)
         throw Inesperado(u"%1 no tiene «%2»"_s.arg(nombre, texto));
-    vigilar([&] {
+    Cajas::vigilar([&] {
         combo->setFocus();
         QTest::keyClick(combo, Qt::Key_F4);
         QApplication::processEvents();
@@ -257,7 +155,7 @@ void clic(QWidget* form, const QString& nombre)
     exigir_activo(w);
     // On the mark of a box or an option, which stands at its left.
     const bool marca = w->inherits("QCheckBox") || w->inherits("QRadioButton");
-    vigilar(
+    Cajas::vigilar(
         [&] { QTest::mouseClick(w, Qt::LeftButton, Qt::NoModifier, marca ? QPoint(8, w->height() / 2) : QPoint()); });
 }
 
@@ -284,13 +182,13 @@ void pulsar(QWidget* form, const QString& barra, const QString& clave)
     QWidget* boton = boton_de(form, barra, clave);
     if (!boton->isEnabled())
         throw Inesperado(u"el botón %1 de %2 está inhabilitado"_s.arg(clave, barra));
-    vigilar([&] { QTest::mouseClick(boton, Qt::LeftButton); });
+    Cajas::vigilar([&] { QTest::mouseClick(boton, Qt::LeftButton); });
 }
 
 void tecla(QWidget* form, const QString& nombre, int tecla)
 {
     QWidget* w = control(form, nombre);
-    vigilar([&] { QTest::keyClick(w->focusProxy() ? w->focusProxy() : w, Qt::Key(tecla)); });
+    Cajas::vigilar([&] { QTest::keyClick(w->focusProxy() ? w->focusProxy() : w, Qt::Key(tecla)); });
 }
 
 void solapa(QWidget* form, const QString& nombre, int indice)
@@ -299,7 +197,7 @@ void solapa(QWidget* form, const QString& nombre, int indice)
     if (!solapas || !solapas->isTabEnabled(indice))
         throw Inesperado(u"la solapa %1 está inhabilitada"_s.arg(indice));
     QTabBar* barra = solapas->tabBar();
-    vigilar([&] { QTest::mouseClick(barra, Qt::LeftButton, Qt::NoModifier, barra->tabRect(indice).center()); });
+    Cajas::vigilar([&] { QTest::mouseClick(barra, Qt::LeftButton, Qt::NoModifier, barra->tabRect(indice).center()); });
 }
 
 namespace {

@@ -1,54 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Drives real forms with key and mouse events, and answers their message boxes.
+// Drives real forms with key and mouse events.
 #pragma once
 
-#include <QList>
-#include <QStringList>
-#include <QTimer>
+#include "manejo/cajas.h"
+
 #include <QWidget>
 
-#include <functional>
-#include <stdexcept>
-
 class Formulario;
-
-/// What a window showed is not what was expected.
-class Inesperado : public std::runtime_error
-{
-public:
-    explicit Inesperado(const QString& que) : std::runtime_error(que.toStdString()) {}
-};
-
-/// A message box that is to come: its text (or how it begins), its title, and the button pressed.
-struct CajaEsperada
-{
-    QString texto;
-    QString titulo = {};
-    bool si = true;       ///< Yes or OK, else No
-    int icono = -1;       ///< QMessageBox::Icon, -1 for any
-    bool exacto = false;  ///< the text is the whole text
-};
-
-/// Answers the boxes that come while an action runs, in their order. A box that is not expected
-/// is closed and is an error, and so is an expected one that does not come.
-class Cajas
-{
-public:
-    /// Runs the action; throws Inesperado. A file dialog that comes gets the next of `archivos` typed,
-    /// or is cancelled for an empty one.
-    static void durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion,
-                        const QStringList& archivos = {});
-
-private:
-    Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos);
-    void mirar();
-    void elegirArchivo(class QFileDialog* dialogo);
-
-    QList<CajaEsperada> pendientes_;
-    QStringList archivos_;
-    QString falla_;
-    QTimer reloj_;
-};
 
 namespace manejo {
 

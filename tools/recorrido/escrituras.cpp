@@ -12,6 +12,13 @@ using namespace manejo;
 
 void Mes::escrituras()
 {
+    alcanzadas();
+    sinOperacion();
+    conSubconceptoNuevo();
+}
+
+void Mes::alcanzadas()
+{
     g_.paso(u"Escritura 1: una compraventa en dos monedas"_s, [&] {
         escritura({"1", "1", "2", "PASO", nullptr, "testimonio 1.pdf"});
         aceptarEscritura();
@@ -70,6 +77,11 @@ void Mes::escrituras()
         operacion({"35", "PROTESTO", {}, {u"REQUIRENTE"_s}, "15", "2.250,00"});
         salirDeEscritura();
     });
+}
+
+// Deeds that are not reached, clash with another, or did not pass.
+void Mes::sinOperacion()
+{
     g_.paso(u"Escritura 6: no alcanzada"_s, [&] {
         escritura({"6", "9", "12", "PASO", "Testamento", nullptr});
         aceptarEscritura();
@@ -90,6 +102,10 @@ void Mes::escrituras()
         aceptarEscritura();
         salirDeEscritura();
     });
+}
+
+void Mes::conSubconceptoNuevo()
+{
     g_.paso(u"Escritura 8: un subconcepto nuevo, y una parte de una DJ anterior"_s, [&] {
         escritura({"8", "12", "20", "PASO", nullptr, nullptr});
         aceptarEscritura({{u"Falta el archivo del testimonio."_s}});

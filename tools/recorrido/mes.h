@@ -50,6 +50,9 @@ private:
     void agentes();
     void nuevaDJ();
     void escrituras();
+    void alcanzadas();
+    void sinOperacion();
+    void conSubconceptoNuevo();
     void lista();
     void boletas();
     void emitir(const QString& nro, const QString& nombre);
