@@ -25,35 +25,47 @@ constexpr std::array COLUMNAS{
 };
 constexpr size_t COLUMNA_FECHA = 7;
 
-QString igual_o_no_exento(const FiltroSubconceptos& f)
+QString exencion_igual(const FiltroSubconceptos& f)
 {
     using Exenciones = FiltroSubconceptos::Exenciones;
     const bool con_valor = !f.porcExencion.isEmpty();
     switch (f.exenciones) {
     case Exenciones::subjetivas:
-        return con_valor ? u" (SSUB_EXENCION_PORC="_s + f.porcExencion + u" or SSUB_EXENCION=0) "_s : QString();
+        return con_valor ? u" (SSUB_EXENCION_PORC=%1 or SSUB_EXENCION=0) "_s.arg(f.porcExencion) : QString();
     case Exenciones::no_exentos: return u" SSUB_EXENCION=0 "_s;
     case Exenciones::exentos:
-        return u" SSUB_EXENCION=1 "_s
-               + (con_valor ? u" and (SSUB_EXENCION_PORC="_s + f.porcExencion + u") "_s : QString());
+        return con_valor ? u" SSUB_EXENCION=1  and (SSUB_EXENCION_PORC=%1) "_s.arg(f.porcExencion)
+                         : u" SSUB_EXENCION=1 "_s;
     case Exenciones::sin_filtro: break;
     }
     return {};
 }
 
+// The signs of a pattern are joined, not filled in: what was typed may hold them too.
 QString descripcion_parecida(const FiltroSubconceptos& f)
 {
     using Criterio = FiltroSubconceptos::Criterio;
     if (f.criterio == Criterio::ninguno || f.texto.isEmpty())
         return {};
-    return u" SSUB_DESCRIPCION like '"_s + (f.criterio == Criterio::comienza ? QString() : u"%"_s) + toSQL(f.texto)
-           + (f.criterio == Criterio::termina ? QString() : u"%"_s) + u"' "_s;
+    const QString antes = f.criterio == Criterio::comienza ? QString() : u"%"_s;
+    const QString despues = f.criterio == Criterio::termina ? QString() : u"%"_s;
+    return u" SSUB_DESCRIPCION like '"_s + antes + toSQL(f.texto) + despues + u"' "_s;
 }
 
 QString norma_parecida(bool si, const char* parte, const QString& texto)
 {
-    return si ? u" SSUB_LEYVIGENCIA like '%"_s + QLatin1StringView(parte) + u' ' + toSQL(texto.trimmed()) + u"%' "_s
-              : QString();
+    if (!si)
+        return {};
+    return u" SSUB_LEYVIGENCIA like '%"_s + QLatin1StringView(parte) + u' ' + toSQL(texto.trimmed()) + u"%' "_s;
+}
+
+QString orden_sql(const QString& elegido)
+{
+    const QString campo = elegido.isEmpty() ? u"SSUB_LEYVIGENCIA"_s : elegido;
+    const auto columna = std::find_if(COLUMNAS.begin(), COLUMNAS.end(),
+                                      [&](const auto& c) { return campo == QLatin1StringView(c.campo); });
+    const bool alfabetico = columna != COLUMNAS.end() && columna->texto;
+    return u" order by %1%2"_s.arg(campo, alfabetico ? u" collate ESPANOL"_s : QString());
 }
 
 }  // namespace
@@ -65,29 +77,21 @@ std::span<const ColumnaSubconceptos> columnas_subconceptos()
 
 QString consulta_subconceptos(const FiltroSubconceptos& f)
 {
-    QString sql = u"select * from SEL_VW_SUBCONCEPTOS "_s;
-    QString union_ = u" where "_s;
-    const auto agregar = [&](const QString& condicion) {
-        if (condicion.isEmpty())
-            return;
-        sql += union_ + condicion;
-        union_ = u" and "_s;
-    };
-    agregar(f.uso ? u" ((([SSUB_USOS]/"_s + QString::number(UsoSubconcepto) + u") % 2)=1) "_s : QString());
-    agregar(f.concepto ? u" SCON_ID="_s + QString::number(f.concepto) : QString());
-    agregar(f.ley ? u" int(SSUB_ID_CONLEY/1000)="_s + QString::number(f.ley) : QString());
-    agregar(descripcion_parecida(f));
-    agregar(norma_parecida(f.porLey, "LEY", f.textoLey));
-    agregar(norma_parecida(f.porArticulo, "ART", f.textoArticulo));
-    agregar(norma_parecida(f.porInciso, "INC", f.textoInciso));
-    agregar(f.selladoMultiple ? u" SSUB_SELLADO_MULTIPLE=1 "_s : QString());
-    agregar(igual_o_no_exento(f));
-
-    const QString campo = f.orden.isEmpty() ? u"SSUB_LEYVIGENCIA"_s : f.orden;
-    const auto columna = std::find_if(COLUMNAS.begin(), COLUMNAS.end(),
-                                      [&](const auto& c) { return campo == QLatin1StringView(c.campo); });
-    return sql + u" order by "_s + campo
-           + (columna != COLUMNAS.end() && columna->texto ? u" collate ESPANOL"_s : QString());
+    QStringList condiciones{descripcion_parecida(f),
+                            norma_parecida(f.porLey, "LEY", f.textoLey),
+                            norma_parecida(f.porArticulo, "ART", f.textoArticulo),
+                            norma_parecida(f.porInciso, "INC", f.textoInciso),
+                            f.selladoMultiple ? u" SSUB_SELLADO_MULTIPLE=1 "_s : QString(),
+                            exencion_igual(f)};
+    if (f.ley)
+        condiciones.prepend(u" int(SSUB_ID_CONLEY/1000)=%1"_s.arg(QString::number(*f.ley)));
+    if (f.concepto)
+        condiciones.prepend(u" SCON_ID=%1"_s.arg(QString::number(*f.concepto)));
+    if (f.uso)
+        condiciones.prepend(u" ((([SSUB_USOS]/%1) % 2)=1) "_s.arg(QString::number(UsoSubconcepto)));
+    condiciones.removeAll(QString());
+    return u"select * from SEL_VW_SUBCONCEPTOS "_s
+           + (condiciones.isEmpty() ? QString() : u" where "_s + condiciones.join(u" and "_s)) + orden_sql(f.orden);
 }
 
 void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila)
@@ -110,12 +114,10 @@ void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila)
 
 void marcar_subconcepto(const QString& id, bool si)
 {
-    cnRtn.ejecutar((si ? u"update SEL_TB_SUBCONCEPTOS set SSUB_USOS=2 where SSUB_ID="_s
-                       : u"update SEL_TB_SUBCONCEPTOS set SSUB_USOS=0 where SSUB_ID="_s)
-                   + id);
+    cnRtn.ejecutar(u"update SEL_TB_SUBCONCEPTOS set SSUB_USOS=%1 where SSUB_ID=%2"_s.arg(si ? u"2"_s : u"0"_s, id));
 }
 
 void borrar_subconcepto(const QString& id)
 {
-    cnRtn.ejecutar(u"delete from SEL_TB_SUBCONCEPTOS where SSUB_ID="_s + id);
+    cnRtn.ejecutar(u"delete from SEL_TB_SUBCONCEPTOS where SSUB_ID=%1"_s.arg(id));
 }

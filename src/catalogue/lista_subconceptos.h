@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <optional>
 #include <span>
 
 struct FiltroSubconceptos
@@ -16,8 +17,8 @@ struct FiltroSubconceptos
     enum class Criterio { ninguno = -1, comienza = 0, contiene = 1, termina = 2 };
 
     bool uso = false;  ///< only what this program may use
-    int concepto = 0;  ///< 0 without filter
-    int ley = 0;       ///< 0 without filter
+    std::optional<int> concepto = {};
+    std::optional<int> ley = {};
     Criterio criterio = Criterio::ninguno;
     QString texto = {};
     bool porLey = false;
@@ -46,6 +47,7 @@ struct ColumnaSubconceptos
 constexpr int COLUMNA_ID = 8;
 constexpr int COLUMNA_CONCEPTO = 9;
 
+/// The statement that lists the items of a filter in its order.
 [[nodiscard]] QString consulta_subconceptos(const FiltroSubconceptos& filtro);
 /// The rows of such a statement, a cell for each column. Throws ErrorAlmacen.
 void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila);

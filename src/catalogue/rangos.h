@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include <vector>
+
 /// Upper bound of a bracket without limit.
 constexpr double SIN_LIMITE = -1;
 
@@ -16,10 +18,10 @@ struct TablaRangos
     const char* id;
     const char* desde;
     const char* hasta;
-    QStringList valores;   ///< what the bracket gives
-    const char* control;   ///< of the first of them
-    const char* siEsCero;  ///< what to tell when that one is zero
-    bool ceroSePregunta;   ///< the user may want it so
+    std::vector<const char*> valores;  ///< the columns of what the bracket gives
+    const char* control;               ///< of the first of them
+    const char* siEsCero;              ///< what to tell when that one is zero
+    bool ceroSePregunta;               ///< the user may want it so
 };
 extern const TablaRangos RANGOS_ALICUOTAS;
 extern const TablaRangos RANGOS_MODULOS;
@@ -42,10 +44,11 @@ struct Rango
 [[nodiscard]] bool se_solapa(const TablaRangos& t, const Rango& r);
 /// The identifier that the item's next bracket gets. Throws ErrorAlmacen.
 [[nodiscard]] qint64 proximo_rango(const TablaRangos& t, qint32 subconcepto);
-/// Throws ErrorAlmacen.
+/// Adds the bracket under its item's next identifier. Throws ErrorAlmacen.
 void alta_rango(const TablaRangos& t, const Rango& r);
 /// Writes what a bracket gives; its bounds stay. Throws ErrorAlmacen.
 void modificar_rango(const TablaRangos& t, qint64 id, const QStringList& valores);
+/// Throws ErrorAlmacen.
 void borrar_rango(const TablaRangos& t, qint64 id);
 
 /// The brackets of an item. Throws ErrorAlmacen.

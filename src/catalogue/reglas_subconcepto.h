@@ -19,7 +19,8 @@ struct DependenciaSubconcepto
 
 /// What to tell when this type of calculation of the base holds the box ticked, or nothing; `titulo` is the
 /// form's caption.
-[[nodiscard]] std::optional<Mensaje> casilla_sujeta(const QString& casilla, int tipoCalculoBI, const QString& titulo);
+[[nodiscard]] std::optional<Mensaje> casilla_sujeta(const QString& casilla, std::optional<int> tipoCalculoBI,
+                                                    const QString& titulo);
 
 /// Boxes that a type of calculation of the base ticks (true) or clears.
 [[nodiscard]] QHash<QString, bool> casillas_de_tipo_bi(int tipoCalculoBI);

@@ -2,6 +2,7 @@
 
 #include "catalogue/roles_catalogo.h"
 
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/reloj.h"
@@ -21,11 +22,27 @@ QString texto(const QString& t)
 bool existe_tabla(const QString& nombre)
 {
     try {
-        const Recordset rs(cnRtn, u"select * from ["_s + nombre + u"] where 1=0"_s);
+        const Recordset rs(cnRtn, u"select * from [%1] where 1=0"_s.arg(nombre));
         return true;
     } catch (const ErrorAlmacen&) {
         return false;
     }
+}
+
+// All columns but the identifier, in the order of the statements.
+Asignaciones columnas_de(const clsRol& rol, qint32 subconcepto)
+{
+    return {{"SROL_DESCRIPCION", texto(rol.Descripcion)},
+            {"SROL_REQUERIDO", logico_sql(rol.Requerido)},
+            {"SSUB_ID", QString::number(subconcepto)},
+            {"SROL_PARTICIPA_IMPUESTO", logico_sql(rol.ParicipaImpuesto)},
+            {"SROL_SM_CARGA_OBLIG", logico_sql(rol.CargaOblig_SM)},
+            {"SROL_SSUB_ATRIBUTO", texto(rol.SSUBAtributo)},
+            {"SROL_SSUB_ATRIBUTO_VALOR", texto(rol.SSUBAtributo_valor)},
+            {"SROL_SSUB_ATRIBUTO_TABLA", texto(rol.SSUBAtributo_tabla)},
+            {"SROL_PERMITE_CUIT_EN_TRAMITE", logico_sql(rol.Permite_CuitEnTramite)},
+            {"AUSU_ID", u"'ZQ'"_s},
+            {"SROL_FULTMOD", fecha_sql(hoy())}};
 }
 
 }  // namespace
@@ -33,18 +50,16 @@ bool existe_tabla(const QString& nombre)
 QList<clsRol> roles_de(qint32 subconcepto)
 {
     QList<clsRol> lista;
-    for (
-        Recordset rs(
-            cnRtn,
-            u"select SROL_ID "
-            u", SSUB_ID, SROL_DESCRIPCION, SROL_REQUERIDO, IIf([SROL_REQUERIDO],'Siempre','Esporádico') AS EXP_REQUERIDO"
-            u", SROL_PARTICIPA_IMPUESTO, IIf([SROL_PARTICIPA_IMPUESTO],'Si','No') AS EXP_PARTICIPA_IMPUESTO"
-            u", SROL_SM_CARGA_OBLIG, IIf([SROL_SM_CARGA_OBLIG],'Si','No') AS EXP_SM_CARGA_OBLIG"
-            u", SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA, SROL_PERMITE_CUIT_EN_TRAMITE"
-            u" FROM SEL_TB_ROLES  where SSUB_ID="_s
-                + QString::number(subconcepto)
-                + u" order by SROL_PARTICIPA_IMPUESTO, SROL_DESCRIPCION collate ESPANOL"_s);
-        !rs.eof(); rs.siguiente())
+    for (Recordset rs(cnRtn, u"select SROL_ID , SSUB_ID, SROL_DESCRIPCION,"
+                             u" SROL_REQUERIDO, IIf([SROL_REQUERIDO],'Siempre','Esporádico') AS EXP_REQUERIDO,"
+                             u" SROL_PARTICIPA_IMPUESTO, IIf([SROL_PARTICIPA_IMPUESTO],'Si','No')"
+                             u" AS EXP_PARTICIPA_IMPUESTO,"
+                             u" SROL_SM_CARGA_OBLIG, IIf([SROL_SM_CARGA_OBLIG],'Si','No') AS EXP_SM_CARGA_OBLIG,"
+                             u" SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA,"
+                             u" SROL_PERMITE_CUIT_EN_TRAMITE FROM SEL_TB_ROLES  where SSUB_ID=%1"
+                             u" order by SROL_PARTICIPA_IMPUESTO,"
+                             u" SROL_DESCRIPCION collate ESPANOL"_s.arg(QString::number(subconcepto)));
+         !rs.eof(); rs.siguiente())
         lista << leer_rol(rs);
     return lista;
 }
@@ -60,8 +75,8 @@ QStringList atributos_subconcepto()
 
 qint64 proximo_rol(qint32 subconcepto)
 {
-    const Recordset rs(cnRtn, u"select max(SROL_ID)+1 as MAX_SROL_ID from SEL_TB_ROLES where int(SROL_ID/1000)="_s
-                                  + QString::number(subconcepto));
+    const Recordset rs(cnRtn, u"select max(SROL_ID)+1 as MAX_SROL_ID from SEL_TB_ROLES"
+                              u" where int(SROL_ID/1000)=%1"_s.arg(QString::number(subconcepto)));
     return rs.nulo(0) ? qint64(subconcepto) * 1000 + 1 : rs.entero(0);
 }
 
@@ -89,29 +104,17 @@ std::optional<Falla> validar_rol(clsRol& rol, bool depende)
 
 void alta_rol(const clsRol& rol, qint32 subconcepto)
 {
-    cnRtn.ejecutar(u"insert into SEL_TB_ROLES (SROL_ID,  SROL_DESCRIPCION,  SROL_REQUERIDO,  SSUB_ID, "
-                   u" SROL_PARTICIPA_IMPUESTO,  SROL_SM_CARGA_OBLIG,  SROL_SSUB_ATRIBUTO,  SROL_SSUB_ATRIBUTO_VALOR, "
-                   u" SROL_SSUB_ATRIBUTO_TABLA,  SROL_PERMITE_CUIT_EN_TRAMITE,  AUSU_ID,  SROL_FULTMOD  ) values ("_s
-                   + QString::number(rol.IdRol) + u", "_s + texto(rol.Descripcion) + u", "_s + logico_sql(rol.Requerido)
-                   + u", "_s + QString::number(subconcepto) + u", "_s + logico_sql(rol.ParicipaImpuesto) + u", "_s
-                   + logico_sql(rol.CargaOblig_SM) + u", "_s + texto(rol.SSUBAtributo) + u", "_s
-                   + texto(rol.SSUBAtributo_valor) + u", "_s + texto(rol.SSUBAtributo_tabla) + u", "_s
-                   + logico_sql(rol.Permite_CuitEnTramite) + u", 'ZQ', "_s + fecha_sql(hoy()) + u")"_s);
+    const Asignaciones fila = Asignaciones{{"SROL_ID", QString::number(rol.IdRol)}} + columnas_de(rol, subconcepto);
+    cnRtn.ejecutar(u"insert into SEL_TB_ROLES (%1  ) values (%2)"_s.arg(columnas_sql(fila, ",  "), valores_sql(fila)));
 }
 
 void modificar_rol(const clsRol& rol, qint32 subconcepto)
 {
-    cnRtn.ejecutar(u"update SEL_TB_ROLES set SROL_DESCRIPCION="_s + texto(rol.Descripcion) + u", SROL_REQUERIDO="_s
-                   + logico_sql(rol.Requerido) + u", SSUB_ID="_s + QString::number(subconcepto)
-                   + u", SROL_PARTICIPA_IMPUESTO="_s + logico_sql(rol.ParicipaImpuesto) + u", SROL_SM_CARGA_OBLIG="_s
-                   + logico_sql(rol.CargaOblig_SM) + u", SROL_SSUB_ATRIBUTO="_s + texto(rol.SSUBAtributo)
-                   + u", SROL_SSUB_ATRIBUTO_VALOR="_s + texto(rol.SSUBAtributo_valor) + u", SROL_SSUB_ATRIBUTO_TABLA="_s
-                   + texto(rol.SSUBAtributo_tabla) + u", SROL_PERMITE_CUIT_EN_TRAMITE="_s
-                   + logico_sql(rol.Permite_CuitEnTramite) + u", AUSU_ID='ZQ', SROL_FULTMOD="_s + fecha_sql(hoy())
-                   + u" where SROL_ID="_s + QString::number(rol.IdRol));
+    cnRtn.ejecutar(u"update SEL_TB_ROLES set %1 where SROL_ID=%2"_s.arg(asignar_sql(columnas_de(rol, subconcepto)),
+                                                                        QString::number(rol.IdRol)));
 }
 
 void borrar_rol(qint64 id)
 {
-    cnRtn.ejecutar(u"delete from SEL_TB_ROLES where SROL_ID="_s + QString::number(id));
+    cnRtn.ejecutar(u"delete from SEL_TB_ROLES where SROL_ID=%1"_s.arg(QString::number(id)));
 }

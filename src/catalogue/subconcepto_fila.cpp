@@ -2,6 +2,7 @@
 
 #include "catalogue/subconcepto_fila.h"
 
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/numero.h"
@@ -100,6 +101,14 @@ QString literal(const CampoSubconcepto& campo, const ControlesSubconcepto& c)
     return nulo;
 }
 
+Asignaciones columnas_de(std::span<const CampoSubconcepto> campos, const ControlesSubconcepto& c)
+{
+    Asignaciones fila;
+    for (const CampoSubconcepto& campo : campos)
+        fila << Asignacion{campo.columna, literal(campo, c)};
+    return fila;
+}
+
 bool es_de_columna(const char* casilla)
 {
     return std::any_of(CAMPOS.begin(), CAMPOS.end(), [casilla](const CampoSubconcepto& campo) {
@@ -137,24 +146,30 @@ void tomar(const CampoSubconcepto& campo, const Recordset& rs, ControlesSubconce
 const QString TIPO_CALCULO_BI = u"SCBI_ID"_s;
 const QString USOS = u"SSUB_USOS"_s;
 
+std::optional<int> id_elegido(const ControlesSubconcepto& c, const QString& control)
+{
+    const int id = c.value(control).toInt();
+    return id == 0 ? std::nullopt : std::optional(id);
+}
+
 std::span<const CampoSubconcepto> campos_subconcepto()
 {
     return CAMPOS;
 }
 
-ControlesSubconcepto subconcepto_nuevo(int concepto)
+ControlesSubconcepto subconcepto_nuevo(std::optional<int> concepto)
 {
     const Recordset rs(cnRtn, u"select max(SSUB_ID)+1 as MAX_SSUB_ID from SEL_TB_SUBCONCEPTOS"_s);
     return {{u"nroCodigo"_s, rs.texto("MAX_SSUB_ID")},
             {u"txtLeyVigencia"_s, u"LEY 5707 - ART 16º - INC )"_s},
             {u"dtpFechaVigencia"_s, QDate(2008, 1, 2)},
-            {u"cboConcepto"_s, concepto},
+            {u"cboConcepto"_s, concepto ? QVariant(*concepto) : QVariant()},
             {USOS, UsoSubconcepto}};
 }
 
 std::optional<ControlesSubconcepto> cargar_subconcepto(int id)
 {
-    const Recordset rs(cnRtn, u"select * from SEL_VW_SUBCONCEPTOS where SSUB_ID="_s + QString::number(id));
+    const Recordset rs(cnRtn, u"select * from SEL_VW_SUBCONCEPTOS where SSUB_ID=%1"_s.arg(QString::number(id)));
     if (rs.eof())
         return {};
     ControlesSubconcepto c;
@@ -166,21 +181,13 @@ std::optional<ControlesSubconcepto> cargar_subconcepto(int id)
 
 void alta_subconcepto(const ControlesSubconcepto& c)
 {
-    QString columnas;
-    QString valores;
-    for (const CampoSubconcepto& campo : CAMPOS) {
-        const QString coma = columnas.isEmpty() ? QString() : u", "_s;
-        columnas += coma + QLatin1StringView(campo.columna);
-        valores += coma + literal(campo, c);
-    }
-    cnRtn.ejecutar(u"insert into SEL_TB_SUBCONCEPTOS ("_s + columnas + u") values ("_s + valores + u")"_s);
+    const Asignaciones fila = columnas_de(CAMPOS, c);
+    cnRtn.ejecutar(u"insert into SEL_TB_SUBCONCEPTOS (%1) values (%2)"_s.arg(columnas_sql(fila), valores_sql(fila)));
 }
 
 void modificar_subconcepto(const ControlesSubconcepto& c)
 {
-    QString asignaciones;
-    for (const CampoSubconcepto& campo : std::span(CAMPOS).subspan(1))
-        asignaciones += (asignaciones.isEmpty() ? u" "_s : u", "_s) + QLatin1StringView(campo.columna) + u'='
-                        + literal(campo, c);
-    cnRtn.ejecutar(u"update SEL_TB_SUBCONCEPTOS set "_s + asignaciones + u" where SSUB_ID="_s + literal(CAMPOS[0], c));
+    const Asignaciones fila = columnas_de(std::span(CAMPOS).subspan(1), c);
+    cnRtn.ejecutar(
+        u"update SEL_TB_SUBCONCEPTOS set  %1 where SSUB_ID=%2"_s.arg(asignar_sql(fila), literal(CAMPOS[0], c)));
 }

@@ -13,6 +13,9 @@
 /// (a number as a statement takes it), a list the identifier chosen, a date a QDate.
 using ControlesSubconcepto = QHash<QString, QVariant>;
 
+/// The identifier that is kept under a name, nothing without one.
+[[nodiscard]] std::optional<int> id_elegido(const ControlesSubconcepto& c, const QString& control);
+
 /// How a control's value stands in its column.
 enum class Forma {
     codigo,
@@ -42,11 +45,12 @@ struct CampoSubconcepto
 extern const QString TIPO_CALCULO_BI;
 extern const QString USOS;
 
-/// What a new item starts with: its code, the pattern of its law, its date. Throws ErrorAlmacen.
-[[nodiscard]] ControlesSubconcepto subconcepto_nuevo(int concepto);
+/// What a new item starts with: its code, the pattern of its law, its date, and its concept when there is one.
+/// Throws ErrorAlmacen.
+[[nodiscard]] ControlesSubconcepto subconcepto_nuevo(std::optional<int> concepto);
 /// A stored item, or nothing. Throws ErrorAlmacen.
 [[nodiscard]] std::optional<ControlesSubconcepto> cargar_subconcepto(int id);
 
-/// Throws ErrorAlmacen.
+/// Writes the item; its roles and brackets have their own routines. Throws ErrorAlmacen.
 void alta_subconcepto(const ControlesSubconcepto& c);
 void modificar_subconcepto(const ControlesSubconcepto& c);

@@ -30,12 +30,11 @@ void clsSubconcepto::setIdSubconcepto(qint32 id)
     id_ = id;
     roles_ = {};
     try {
-        for (Recordset rs(
-                 cnRtn,
-                 u"select SROL_ID, SROL_DESCRIPCION, SROL_REQUERIDO, SROL_PARTICIPA_IMPUESTO, SROL_SM_CARGA_OBLIG, "
-                 u"SROL_PERMITE_CUIT_EN_TRAMITE, SROL_SSUB_ATRIBUTO, SROL_SSUB_ATRIBUTO_VALOR, "
-                 u"SROL_SSUB_ATRIBUTO_TABLA from SEL_VW_ROLES where SSUB_ID="_s
-                     + QString::number(id) + u" order by SROL_DESCRIPCION collate ESPANOL "_s);
+        for (Recordset rs(cnRtn,
+                          u"select SROL_ID, SROL_DESCRIPCION, SROL_REQUERIDO, SROL_PARTICIPA_IMPUESTO,"
+                          u" SROL_SM_CARGA_OBLIG, SROL_PERMITE_CUIT_EN_TRAMITE, SROL_SSUB_ATRIBUTO,"
+                          u" SROL_SSUB_ATRIBUTO_VALOR, SROL_SSUB_ATRIBUTO_TABLA from SEL_VW_ROLES"
+                          u" where SSUB_ID=%1 order by SROL_DESCRIPCION collate ESPANOL "_s.arg(QString::number(id)));
              !rs.eof(); rs.siguiente())
             roles_.Add(leer_rol(rs));
     } catch (const ErrorAlmacen&) {

@@ -49,9 +49,9 @@ struct EstadoOperacion
 
     const clsSubconcepto* subconcepto = nullptr;
     QList<Parte> partes;
-    QString idMoneda;             ///< of the currency selected
-    bool obligAccesoria = false;  ///< the box is ticked
-    int obligAccesoriaDato = -1;  ///< item data of the mode, -1 without a selection
+    QString idMoneda;                       ///< of the currency selected
+    bool obligAccesoria = false;            ///< the box is ticked
+    std::optional<int> obligAccesoriaDato;  ///< item data of the mode: 1 adds to the base
     bool obligAccesoriaFijo = false;
     bool obligAccesoriaPorc = false;
 
@@ -60,19 +60,16 @@ struct EstadoOperacion
     bool enfocarMoA = false;  ///< written: no rate was found, the field gets the focus
 };
 
-/// The law that applies on a date, 0 without one, which is told. The value of the module of that
-/// law replaces the process-wide one.
-int DeterminarLey(const QString& dia, const QString& posicion, Dialogo& dialogo);
-
+/// The exemption of the operation, in per cent, from its item and the parties that bear the tax.
 void CalcularExencionPartes(CamposImpuesto c, const EstadoOperacion& e);
+/// The taxable base in pesos; what is wrong with the loan is told.
 void CalcularBaseImponible(CamposImpuesto c, const EstadoOperacion& e, Dialogo& dialogo);
+/// The number of modules, or the rate as a factor, of the bracket that holds the base; without one that is told.
+/// Throws ErrorAlmacen.
 void BuscarModulosOAlicuota(CamposImpuesto c, EstadoOperacion& e, Dialogo& dialogo);
-/// The whole calculation, from the exemption to the tax of the operation.
+/// The whole calculation, from the exemption to the tax of the operation. Throws ErrorAlmacen.
 void CalcularImpuesto(CamposImpuesto c, EstadoOperacion& e, Dialogo& dialogo);
 
 /// Value in pesos of the contract value on the panel. Gives nothing without a subconcepto.
 void CalcularValorParcial(const clsSubconcepto* subconcepto, const QString& idMoneda, const Numero& nroValorContractual,
                           const Numero& nroPorcIVA, Numero& ctlValorCambio, Numero& nroBIParcial);
-
-/// The currency that needs no exchange value.
-[[nodiscard]] QString id_pesos();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Which party plays which role in an operation.
 
-#include "computation/operacion.h"
+#include "computation/roles_operacion.h"
+
 #include "core/modGlobales.h"
 #include "core/numero.h"
 #include "tree/modABM_dj.h"
@@ -20,9 +20,9 @@ QString numero_documento(const Recordset& rs)
         return rs.logico("SPIN_CUIT_EN_TRAMITE") ? u"En trámite"_s : numero_sql(rs.real("SPIN_CUIT"));
     if (rs.texto("SPIN_NACIONALIDAD") != u"E")
         return rs.texto("SPIN_NRODOC");
-    return rs.nulo("CPAI_PAIS") ? u"Extranjero"_s
-                                : rs.texto("CPAI_PAIS") + u" - "_s + rs.texto("CPAI_PERSONA") + u" ("_s
-                                      + rs.texto("CPAI_CODIGO") + u")"_s;
+    return rs.nulo("CPAI_PAIS")
+               ? u"Extranjero"_s
+               : u"%1 - %2 (%3)"_s.arg(rs.texto("CPAI_PAIS"), rs.texto("CPAI_PERSONA"), rs.texto("CPAI_CODIGO"));
 }
 
 }  // namespace
@@ -42,11 +42,10 @@ QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave)
     }
     if (clave.operacion.isEmpty())
         return partes;
-    for (Recordset rs(
-             cnRtn,
-             u"select RI.SPIN_ID, RI.SROL_ID, RS.SROL_DESCRIPCION, RI.SEDR_OBS"
-             u" from SEL_TB_RTN_INS_ROLES as RI, SEL_TB_ROLES as RS  where RI.SROL_ID=RS.SROL_ID and RI.SEDJ_NRO='"_s
-                 + clave.dj + u"' and RI.SEDD_ID="_s + clave.renglon + u" and RI.SEDO_ID="_s + clave.operacion);
+    for (Recordset rs(cnRtn, u"select RI.SPIN_ID, RI.SROL_ID, RS.SROL_DESCRIPCION, RI.SEDR_OBS"
+                             u" from SEL_TB_RTN_INS_ROLES as RI, SEL_TB_ROLES as RS "
+                             u" where RI.SROL_ID=RS.SROL_ID and RI.SEDJ_NRO='%1' and RI.SEDD_ID=%2"
+                             u" and RI.SEDO_ID=%3"_s.arg(clave.dj, clave.renglon, clave.operacion));
          !rs.eof(); rs.siguiente())
         for (ParteRol& p : partes)
             if (p.id == rs.texto("SPIN_ID")) {
@@ -60,7 +59,7 @@ QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave)
 bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, const QString& titulo, Dialogo& dialogo)
 {
     try {
-        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES"_s + clave.donde());
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES%1"_s.arg(clave.donde()));
         for (const ParteRol& p : partes) {
             if (p.idRol.isEmpty() || p.idRol == u"0")
                 continue;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The contract values of an operation in the store.
 
-#include "computation/operacion.h"
+#include "computation/valores_contractuales.h"
+
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/numero.h"
@@ -12,7 +13,7 @@ namespace {
 
 QString donde_valor(const ClaveOperacion& clave, const QString& id)
 {
-    return clave.donde() + u" and SVCI_ID="_s + id;
+    return u"%1 and SVCI_ID=%2"_s.arg(clave.donde(), id);
 }
 
 QString numero_o_null(const std::optional<double>& n)
@@ -27,10 +28,9 @@ double leer_valores(const ClaveOperacion& clave, const AgregarFila& fila)
     double total = 0;
     Numero monto(2);
     for (Recordset rs(cnRtn, u"select VC.*, M.GMON_DESCRIPCION from GLB_TB_MONEDAS as M, SEL_TB_RTN_INS_VC as VC "
-                             u" where VC.SEDJ_NRO='"_s
-                                 + clave.dj + u"' and VC.SEDD_ID="_s + clave.renglon + u" and VC.SEDO_ID="_s
-                                 + clave.operacion
-                                 + u" and (VC.GMON_ID is null OR  VC.GMON_ID=M.GMON_ID) order by SVCI_ID "_s);
+                             u" where VC.SEDJ_NRO='%1' and VC.SEDD_ID=%2 and VC.SEDO_ID=%3"
+                             u" and (VC.GMON_ID is null OR  VC.GMON_ID=M.GMON_ID) order by SVCI_ID "_s.arg(
+                                 clave.dj, clave.renglon, clave.operacion));
          !rs.eof(); rs.siguiente()) {
         monto.setValue(rs.real("SVCI_VALOR_CONTRACTUAL"));
         fila({rs.texto("SVCI_ID"), monto.toString(), rs.texto("GMON_DESCRIPCION"),
@@ -42,20 +42,23 @@ double leer_valores(const ClaveOperacion& clave, const AgregarFila& fila)
 
 std::optional<ValorContractual> cargar_valor(const ClaveOperacion& clave, const QString& id)
 {
-    return leer_fila<ValorContractual>(cnRtn, u"select * from SEL_TB_RTN_INS_VC "_s + donde_valor(clave, id),
+    return leer_fila<ValorContractual>(cnRtn, u"select * from SEL_TB_RTN_INS_VC %1"_s.arg(donde_valor(clave, id)),
                                        columnas_valor());
 }
 
 void modificar_valor(const ValorContractual& v)
 {
     const ClaveOperacion clave{v.dj, QString::number(v.renglon), QString::number(v.operacion)};
-    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_VC set  SVCI_VALOR_CONTRACTUAL="_s + numero_o_null(v.valor)
-                   + u", SVCI_PORC_IVA="_s + numero_o_null(v.porcIva) + u", GMON_ID='"_s + v.moneda
-                   + u"', SVCI_VALORCAMBIO="_s + numero_o_null(v.valorCambio) + u", SVCI_TOTAL="_s
-                   + numero_o_null(v.total) + donde_valor(clave, QString::number(v.id)));
+    const Asignaciones fila{{"SVCI_VALOR_CONTRACTUAL", numero_o_null(v.valor)},
+                            {"SVCI_PORC_IVA", numero_o_null(v.porcIva)},
+                            {"GMON_ID", entre_comillas(v.moneda)},
+                            {"SVCI_VALORCAMBIO", numero_o_null(v.valorCambio)},
+                            {"SVCI_TOTAL", numero_o_null(v.total)}};
+    cnRtn.ejecutar(
+        u"update SEL_TB_RTN_INS_VC set  %1%2"_s.arg(asignar_sql(fila), donde_valor(clave, QString::number(v.id))));
 }
 
 void borrar_valor(const ClaveOperacion& clave, const QString& id)
 {
-    cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_VC "_s + donde_valor(clave, id));
+    cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_VC %1"_s.arg(donde_valor(clave, id)));
 }

@@ -88,8 +88,8 @@ TEST_F(Catalogo, LosFiltrosHallanLoQueUnRecorridoSimple)
     for (int i = 0; i < 400; ++i) {
         FiltroSubconceptos f{
             .uso = azar() % 3 == 0,
-            .concepto = azar() % 3 == 0 ? int(azar() % 8 + 1) : 0,
-            .ley = azar() % 3 == 0 ? 5707 : 0,
+            .concepto = azar() % 3 == 0 ? std::optional(int(azar() % 8 + 1)) : std::nullopt,
+            .ley = azar() % 3 == 0 ? std::optional(5707) : std::nullopt,
             .criterio = Criterio(int(azar() % 4) - 1),
             .texto = uno_de({""_u, "venta"_u, "DE"_u, "D'AUTOR"_u, "CONTRATO"_u, "100%"_u, "A DE"_u, "inmuebles"_u}),
             .porLey = azar() % 4 == 0,

@@ -2,7 +2,9 @@
 
 #include "apoyo/apoyo.h"
 #include "computation/calculo.h"
-#include "computation/operacion.h"
+#include "computation/ley.h"
+#include "computation/obligacion.h"
+#include "computation/roles_operacion.h"
 
 namespace {
 
@@ -244,13 +246,13 @@ TEST_F(Calculo, ObligacionAccesoriaSumaSoloConSuModo)
     struct K
     {
         bool tiene, tildada;
-        int dato;
+        std::optional<int> dato;
         bool fijo;
         double valor, base;
     };
     for (const K& k :
          {K{true, true, 1, true, 30, 130}, K{true, true, 1, false, 30, 130}, K{true, true, 0, true, 30, 100},
-          K{true, false, 1, true, 30, 100}, K{false, true, 1, true, 30, 100}, K{true, true, -1, true, 30, 100}}) {
+          K{true, false, 1, true, 30, 100}, K{false, true, 1, true, 30, 100}, K{true, true, {}, true, 30, 100}}) {
         s.ObligAccesoria = k.tiene;
         e.obligAccesoria = k.tildada;
         e.obligAccesoriaDato = k.dato;
@@ -264,8 +266,8 @@ TEST_F(Calculo, ObligacionAccesoriaSumaSoloConSuModo)
     }
     const auto modos = modos_obligacion(1 | 8);
     QString datos;
-    for (const ModoObligacion& m : modos)
-        datos += QString::number(m.dato);
+    for (const Entrada& m : modos)
+        datos += m.dato.toString();
     EXPECT_EQ(datos, "10010"_u);
 }
 
@@ -330,7 +332,7 @@ TEST_F(Calculo, LeyPorLaFechaDeLaEscritura)
         EXPECT_EQ(DeterminarLey(QLatin1StringView(k.dia), QLatin1StringView(k.posicion), oyente), k.ley) << k.posicion;
         EXPECT_DOUBLE_EQ(ValorModulo, k.modulo);
     }
-    EXPECT_EQ(DeterminarLey("1"_u, "2031/01"_u, oyente), 0);
+    EXPECT_FALSE(DeterminarLey("1"_u, "2031/01"_u, oyente));
     EXPECT_EQ(oyente.ultimo(), "No se encuentra la ley para la fecha indicada"_u);
     EXPECT_DOUBLE_EQ(ValorModulo, 2.5);  // without a row the earlier value stays
 }

@@ -5,7 +5,11 @@
 #include "computation/screens/frmDJ_detalle_op.h"
 #include "deeds/screens/frmDJ_detalle.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QTableView>
 #include <QTabWidget>
 #include <QTest>
 
@@ -202,6 +206,66 @@ TEST_F(PantallasFormularios, PrestamoYValoresBorrados)
         [&] { pulsar(f, "tlbBI"_u, "borrar"_u); });
     EXPECT_EQ(texto(f, "nroTotalVC"_u), "0,00"_u);
     EXPECT_FALSE(habilitado(f, "tlbBI"_u, "borrar"_u));
+}
+
+// The keys over the grid of roles: which editor is open, where the grid stands, what it holds.
+TEST_F(PantallasFormularios, TeclasEnLaGrillaDeRoles)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    for (const char* id : {"1", "2"})
+        cnRtn.ejecutar("insert into SEL_TB_RTN_INS_PARTES (SEDJ_NRO, SEDD_ID, SPIN_ID, GTDC_ID, SPIN_CUIT_EN_TRAMITE,"
+                       " SPIN_RSOCIAL, SPIN_NACIONALIDAD) values ('%1', 1, %2, '80', 1, 'P', 'A')"_u.arg(
+                           dj, QLatin1StringView(id)));
+    QWidget* f = abrirOperacion("1");
+    solapa(f, "SSTab1"_u, 2);
+    auto* grilla = f->findChild<QTableView*>("flxPartes"_u);
+    auto* lista = grilla->findChild<QComboBox*>("cboRoles"_u);
+    auto* obs = grilla->findChild<QLineEdit*>("txtRolObs"_u);
+    const auto estado = [&] {
+        const QModelIndex i = grilla->currentIndex();
+        QString abierto = "-"_u;
+        if (lista->isVisible())
+            abierto = "lista "_u + lista->currentText();
+        else if (obs->isVisible())
+            abierto = "obs "_u + obs->text() + u'/' + obs->selectedText();
+        return "%1,%2 %3"_u.arg(QString::number(i.row()), QString::number(i.column()), abierto);
+    };
+    struct K
+    {
+        Qt::Key tecla;
+        const char* estado;  // the cell, and the editor over it with its text and what is selected of it
+    };
+    celda(f, "flxPartes"_u, 0, 6);
+    for (const K& k : {
+             K{Qt::Key_Escape, "0,6 -"},
+             K{Qt::Key_X, "0,6 obs x/"},
+             K{Qt::Key_Y, "0,6 obs xy/"},
+             K{Qt::Key_Left, "0,6 obs xy/"},
+             K{Qt::Key_Home, "0,6 obs xy/"},
+             K{Qt::Key_Left, "0,5 lista "},      // at the start of the text it goes to the next cell
+             K{Qt::Key_Right, "0,6 obs xy/xy"},  // which wrote what was typed
+             K{Qt::Key_Right, "0,7 -"},          // no editor there
+             K{Qt::Key_A, "0,7 -"},
+             K{Qt::Key_Down, "1,7 -"},
+             K{Qt::Key_Left, "1,6 -"},
+             K{Qt::Key_Z, "1,6 obs z/"},
+             K{Qt::Key_Down, "1,6 obs z/"},  // the last row
+             K{Qt::Key_Up, "0,6 obs xy/xy"},
+             K{Qt::Key_Delete, "0,6 obs /"},
+             K{Qt::Key_Escape, "0,6 -"},  // dropped: the cell keeps its text
+             K{Qt::Key_Down, "1,6 obs z/z"},
+             K{Qt::Key_Up, "0,6 obs xy/xy"},
+             K{Qt::Key_Return, "0,6 -"},
+             K{Qt::Key_Left, "0,5 -"},
+             K{Qt::Key_Space, "0,5 lista "},
+             K{Qt::Key_Left, "0,0 -"},  // the column of the identifiers is hidden
+         }) {
+        QTest::keyClick(f->focusWidget(), k.tecla);
+        QApplication::processEvents();
+        EXPECT_EQ(estado(), QString::fromUtf8(k.estado));
+    }
+    EXPECT_EQ(en_grilla(f, "flxPartes"_u, 0, 6) + en_grilla(f, "flxPartes"_u, 1, 6), "xyz"_u);
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "catalogue/screens/frmCrearMascara.h"
 
-#include "core/modGlobales.h"
+#include "catalogue/tipos_calculo.h"
 #include "ui_frmCrearMascara.h"
 
 #include <QSignalBlocker>
@@ -27,16 +27,14 @@ void frmCrearMascara::volcar_en(QLineEdit* control)
     destino_ = control;
 }
 
-void frmCrearMascara::cargar_elementos(const QString& tabla, const QString& campo_id, const QString& campo_descripcion)
+void frmCrearMascara::cargar_elementos(const TablaMascara& tabla)
 {
     const QSignalBlocker callado(ui->lstElem);
-    for (Recordset rs(cnRtn, u"select "_s + campo_id + u", "_s + campo_descripcion + u" from "_s + tabla
-                                 + u" order by "_s + campo_id);
-         !rs.eof(); rs.siguiente()) {
-        auto* elemento = new QListWidgetItem(rs.texto(1), ui->lstElem);
+    for (const Entrada& e : elementos_mascara(tabla)) {
+        auto* elemento = new QListWidgetItem(e.texto, ui->lstElem);
         elemento->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         elemento->setCheckState(Qt::Unchecked);
-        elemento->setData(Qt::UserRole, rs.entero(0));
+        elemento->setData(Qt::UserRole, e.dato);
     }
 }
 

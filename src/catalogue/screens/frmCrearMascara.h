@@ -10,6 +10,7 @@ namespace Ui {
 class frmCrearMascara;
 }
 class QLineEdit;
+struct TablaMascara;
 
 class frmCrearMascara : public Formulario
 {
@@ -21,8 +22,8 @@ public:
 
     /// Where "aceptar" writes the mask.
     void volcar_en(QLineEdit* control);
-    /// Fills the list from a table whose identifiers are bit values. Throws ErrorAlmacen.
-    void cargar_elementos(const QString& tabla, const QString& campo_id, const QString& campo_descripcion);
+    /// Fills the list from a table of bit values. Throws ErrorAlmacen.
+    void cargar_elementos(const TablaMascara& tabla);
     /// Ticks the items that share a bit with the value.
     void mostrar_mascara(int valor);
 

@@ -13,7 +13,7 @@ class frmEditarSubconceptoSellos;
 }
 class BarraHerramientas;
 class QLineEdit;
-struct TablaRangos;
+struct TablaMascara;
 
 class frmEditarSubconceptoSellos : public Formulario, public ReceptorTCBI
 {
@@ -24,15 +24,21 @@ public:
     ~frmEditarSubconceptoSellos() override;
 
     /// Sets the form up for a new item of a concept, or loads one.
-    void Inicializar(Modo operacion, int id, int concepto);
+    void Inicializar(Modo operacion, std::optional<int> id, std::optional<int> concepto);
+    /// Reads the brackets and roles of a stored item again.
     void alActivar() override;
-
+    /// Takes the type of calculation of the base that was chosen, with the boxes that it ticks or clears.
     void TCBI(int id, const QString& descripcion) override;
+
+    /// Read the item's brackets or roles into their grid. They throw ErrorAlmacen.
     void obtener_alicuotas();
     void obtener_modulos();
     void obtener_roles();
 
 private:
+    /// The places of the tabs that are named here.
+    enum Solapa { SOLAPA_RANGOS = 2, SOLAPA_ROLES = 3 };
+
     // Controls, by the table that joins them to columns and conditions.
     [[nodiscard]] ControlesSubconcepto leer_controles() const;
     void poner_controles(const ControlesSubconcepto& c);
@@ -47,8 +53,7 @@ private:
     void elegirTipoCalculo(const ctlCombo::Fila& fila);
     void mostrarRangos(Rangos rangos);
     void elegirTipoBI();
-    void crearMascara(QLineEdit* destino, const char* tabla, const char* id, const char* descripcion,
-                      const QString& titulo);
+    void crearMascara(QLineEdit* destino, const TablaMascara& tabla, const QString& titulo);
 
     // Brackets and roles.
     void prepararRangos();
@@ -56,12 +61,17 @@ private:
     void tlbModulos_pulsada(const QString& clave);
     void tlbRoles_pulsada(const QString& clave);
     void habilitarBarras();
-    /// The editor of a bracket or role, for a new one when none is given.
-    template <class Editor, class T>
-    void abrirEditor(const T* elegido);
-    /// Asks, and runs the deletion; an error of the engine is told under its own title.
-    void borrar(const QString& pregunta, const QString& titulo, const QString& tituloError,
-                const std::function<void()>& accion);
+    struct TextosBorrado
+    {
+        QString pregunta;
+        QString titulo;
+        QString tituloError;
+    };
+    /// Deletes what the grid stands on and reads the list again, or opens its editor, for a new bracket or role
+    /// with "alta".
+    template <class Editor, class T, class Borrar>
+    void atenderBarra(const QString& clave, const T* elegido, const TextosBorrado& textos, const Borrar& borrar,
+                      void (frmEditarSubconceptoSellos::*releer)());
 
     [[nodiscard]] int codigo() const;
     [[nodiscard]] QWidget* control(const char* nombre) const { return controles_.value(QString::fromUtf8(nombre)); }
@@ -70,7 +80,7 @@ private:
     QHash<QString, QWidget*> controles_;
     QSet<QWidget*> editables_;      ///< what works in the editing state
     ControlesSubconcepto ocultos_;  ///< what no control shows
-    int tipoCalculo_ = 0;
+    std::optional<int> tipoCalculo_;
     bool guardado_ = false;  ///< the item is in the store
     bool editando_ = false;
     bool mostrando_ = false;

@@ -6,8 +6,9 @@
 #include "catalogue/screens/frmEditarRol.h"
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
 #include "catalogue/roles_catalogo.h"
+#include "core/almacen.h"
 #include "core/clsLocaleInfo.h"
-#include "core/modGlobales.h"
+#include "core/numero.h"
 #include "core/motivos.h"
 #include "ui_frmEditarSubconceptoSellos.h"
 
@@ -105,59 +106,51 @@ void frmEditarSubconceptoSellos::habilitarBarras()
     }
 }
 
-void frmEditarSubconceptoSellos::borrar(const QString& pregunta, const QString& titulo, const QString& tituloError,
-                                        const std::function<void()>& accion)
+template <class Editor, class T, class Borrar>
+void frmEditarSubconceptoSellos::atenderBarra(const QString& clave, const T* elegido, const TextosBorrado& textos,
+                                              const Borrar& borrar, void (frmEditarSubconceptoSellos::*releer)())
 {
-    if (!preguntar(pregunta, titulo))
-        return;
-    try {
-        accion();
-    } catch (const ErrorAlmacen& e) {
-        avisar(motivo_de_escritura(e), tituloError);
+    if (clave == u"borrar" && elegido) {
+        try {
+            if (preguntar(textos.pregunta, textos.titulo))
+                borrar(*elegido);
+        } catch (const ErrorAlmacen& e) {
+            avisar(motivo_de_escritura(e), textos.tituloError);
+        }
+        (this->*releer)();
+    } else if (clave == u"alta" || elegido) {
+        auto* editor = cargar<Editor>();
+        const bool nuevo = clave == u"alta";
+        editor->Inicializar(nuevo ? Modo::nuevo : Modo::modificar, codigo(), nuevo ? T() : *elegido);
+        abrir(editor);
     }
-}
-
-template <class Editor, class T>
-void frmEditarSubconceptoSellos::abrirEditor(const T* elegido)
-{
-    auto* editor = cargar<Editor>();
-    editor->Inicializar(elegido ? Modo::modificar : Modo::nuevo, codigo(), elegido ? *elegido : T());
-    abrir(editor);
 }
 
 void frmEditarSubconceptoSellos::tlbAlicuotas_pulsada(const QString& clave)
 {
-    const clsAlicuotaSellos* a = elegido(ui->grillaAlicuotas, alicuotas_);
-    if (clave == u"borrar" && a) {
-        borrar(u"¿Está seguro que desea borrar la alicuota seleccionada?"_s, u"Borrar alicuota de sellos"_s,
-               u"Borrar alicuota de sellos"_s, [id = a->IdAlicuota] { borrar_rango(RANGOS_ALICUOTAS, id); });
-        obtener_alicuotas();
-    } else if (clave == u"alta" || a) {
-        abrirEditor<frmEditarAlicuota>(clave == u"alta" ? nullptr : a);
-    }
+    atenderBarra<frmEditarAlicuota>(
+        clave, elegido(ui->grillaAlicuotas, alicuotas_),
+        {u"¿Está seguro que desea borrar la alicuota seleccionada?"_s, u"Borrar alicuota de sellos"_s,
+         u"Borrar alicuota de sellos"_s},
+        [](const clsAlicuotaSellos& a) { borrar_rango(RANGOS_ALICUOTAS, a.IdAlicuota); },
+        &frmEditarSubconceptoSellos::obtener_alicuotas);
 }
 
 void frmEditarSubconceptoSellos::tlbModulos_pulsada(const QString& clave)
 {
-    const clsModuloSellos* m = elegido(ui->grillaModulos, modulos_);
-    if (clave == u"borrar" && m) {
-        // The title of the question is that of the rates, deliberately.
-        borrar(u"¿Está seguro que desea borrar el rango seleccionado?"_s, u"Borrar alicuota de sellos"_s,
-               u"Borrar rango de módulos de sellos"_s, [id = m->IdModulo] { borrar_rango(RANGOS_MODULOS, id); });
-        obtener_modulos();
-    } else if (clave == u"alta" || m) {
-        abrirEditor<frmEditarModulo>(clave == u"alta" ? nullptr : m);
-    }
+    // The title of the question is that of the rates, deliberately.
+    atenderBarra<frmEditarModulo>(
+        clave, elegido(ui->grillaModulos, modulos_),
+        {u"¿Está seguro que desea borrar el rango seleccionado?"_s, u"Borrar alicuota de sellos"_s,
+         u"Borrar rango de módulos de sellos"_s},
+        [](const clsModuloSellos& m) { borrar_rango(RANGOS_MODULOS, m.IdModulo); },
+        &frmEditarSubconceptoSellos::obtener_modulos);
 }
 
 void frmEditarSubconceptoSellos::tlbRoles_pulsada(const QString& clave)
 {
-    const clsRol* r = elegido(ui->grillaRoles, roles_);
-    if (clave == u"borrar" && r) {
-        borrar(u"¿Está seguro que desea borrar la parte seleccionada?"_s, u"Borrar parte"_s, u"Borrar rol"_s,
-               [id = r->IdRol] { borrar_rol(id); });
-        obtener_roles();
-    } else if (clave == u"alta" || r) {
-        abrirEditor<frmEditarRol>(clave == u"alta" ? nullptr : r);
-    }
+    atenderBarra<frmEditarRol>(
+        clave, elegido(ui->grillaRoles, roles_),
+        {u"¿Está seguro que desea borrar la parte seleccionada?"_s, u"Borrar parte"_s, u"Borrar rol"_s},
+        [](const clsRol& r) { borrar_rol(r.IdRol); }, &frmEditarSubconceptoSellos::obtener_roles);
 }

@@ -60,9 +60,9 @@ void frmSubconceptos::alDescargar()
 
 FiltroSubconceptos frmSubconceptos::filtro() const
 {
-    const int elegido = item_data(ui->cboConcepto);
+    const std::optional<int> delCombo = filtro_elegido(ui->cboConcepto);
     return {.uso = ui->chkUso->isChecked(),
-            .concepto = elegido ? elegido : concepto,
+            .concepto = delCombo ? delCombo : concepto,
             .ley = ley,
             .criterio = FiltroSubconceptos::Criterio(ui->cboCriterioSubcon->currentIndex()),
             .texto = ui->txtSubconcepto->text(),
@@ -137,10 +137,11 @@ void frmSubconceptos::seleccionar()
 void frmSubconceptos::abrirEditor(Modo operacion)
 {
     auto* editor = cargar<frmEditarSubconceptoSellos>();
-    const bool modifica = operacion == Modo::modificar;
-    editor->Inicializar(operacion, modifica ? ui->grilla->clave().toInt() : 0,
-                        modifica ? ui->grilla->celda(ui->grilla->filaActual(), COLUMNA_CONCEPTO).toInt()
-                                 : item_data(ui->cboConcepto));
+    if (operacion == Modo::modificar)
+        editor->Inicializar(operacion, ui->grilla->clave().toInt(),
+                            ui->grilla->celda(ui->grilla->filaActual(), COLUMNA_CONCEPTO).toInt());
+    else
+        editor->Inicializar(operacion, {}, filtro_elegido(ui->cboConcepto));
     abrir(editor);
 }
 

@@ -5,6 +5,7 @@
 #include "widgets/formulario.h"
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class frmSubconceptos;
@@ -27,12 +28,14 @@ public:
     frmSubconceptos();
     ~frmSubconceptos() override;
 
-    /// Lists only the items of this concept, 0 for all.
-    int concepto = 0;
-    /// Lists only the items of a law, 0 for all.
-    int ley = 0;
+    /// Lists only the items of a concept, where the user chooses none.
+    std::optional<int> concepto;
+    /// Lists only the items of a law.
+    std::optional<int> ley;
 
+    /// Runs the search: an item may have been changed.
     void alActivar() override;
+    /// Lists the items of the filters on the screen.
     void buscar_subconceptos();
 
 signals:

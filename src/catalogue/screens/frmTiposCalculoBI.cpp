@@ -2,7 +2,7 @@
 
 #include "catalogue/screens/frmTiposCalculoBI.h"
 
-#include "core/modGlobales.h"
+#include "catalogue/tipos_calculo.h"
 #include "ui_frmTiposCalculoBI.h"
 
 using namespace Qt::StringLiterals;
@@ -21,15 +21,14 @@ frmTiposCalculoBI::frmTiposCalculoBI() : ui(std::make_unique<Ui::frmTiposCalculo
             descargar();
     });
     ui->grillaTCBI->llenar([this] {
-        for (Recordset rs(cnRtn, u"select * from SEL_TB_TIPOS_CALCULO_BI"_s); !rs.eof(); rs.siguiente())
-            ui->grillaTCBI->agregar(
-                {rs.texto("SCBI_ID"), rs.texto("SCBI_DESCRIPCION"), rs.texto("SCBI_OBSERVACIONES")});
+        for (const clsTipoCalculoBI& tipo : tipos_calculo_bi())
+            ui->grillaTCBI->agregar(QStringList{QString::number(tipo.id), tipo.Descripcion, tipo.Observaciones});
     });
 }
 
 frmTiposCalculoBI::~frmTiposCalculoBI() = default;
 
-void frmTiposCalculoBI::fijarTCBI(int id)
+void frmTiposCalculoBI::fijarTCBI(std::optional<int> id)
 {
     for (int i = 0; i < ui->grillaTCBI->filas(); ++i)
         if (ui->grillaTCBI->celda(i, 0).toInt() == id)

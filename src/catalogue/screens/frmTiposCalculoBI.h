@@ -5,6 +5,7 @@
 #include "widgets/formulario.h"
 
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class frmTiposCalculoBI;
@@ -26,8 +27,8 @@ public:
     frmTiposCalculoBI();
     ~frmTiposCalculoBI() override;
 
-    /// The row to begin with, 0 for the first one.
-    void fijarTCBI(int id);
+    /// The row to begin with, the first one without it.
+    void fijarTCBI(std::optional<int> id);
 
 private:
     void mostrarFila();

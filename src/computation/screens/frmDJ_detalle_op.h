@@ -5,6 +5,7 @@
 #include "catalogue/subconcepto_memoria.h"
 #include "catalogue/screens/frmSubconceptos.h"
 #include "computation/calculo.h"
+#include "widgets/editor_celda.h"
 #include "widgets/formulario.h"
 
 #include <memory>
@@ -14,8 +15,10 @@ namespace Ui {
 class frmDJ_detalle_op;
 }
 struct ClaveOperacion;
+struct Operacion;
 struct ParteRol;
-class ctlNumero;
+struct ResultadoSubconcepto;
+class QComboBox;
 
 class frmDJ_detalle_op : public Formulario, public ReceptorSubconcepto
 {
@@ -25,6 +28,7 @@ public:
     frmDJ_detalle_op();
     ~frmDJ_detalle_op() override;
 
+    /// Reads the parties again: one may have been added or changed.
     void alActivar() override;
     /// The deed that the operation belongs to: its day, and the posición as yyyy/mm.
     void fijarRenglon(const QString& dj, const QString& renglon, const QString& dia, const QString& posicion);
@@ -39,46 +43,66 @@ signals:
 
 protected:
     bool consultarDescarga() override;
-    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
+    /// The places of the tabs.
+    enum Solapa { SOLAPA_BASE, SOLAPA_IMPUESTO, SOLAPA_ROLES };
+
+    void prepararGrillas();
+    void prepararEditorDeRoles();
+    void prepararLeyendas();
+    void conectar();
+    void conectarCalculo();
+    void conectarValores();
+
     // The states of the screen: which buttons, and whether the data may be edited.
     enum class Estado { nueva, consulta, cambiando, reciengrabada, editando };
     void ponerEstado(Estado estado);
-    void ponerMarcos(bool si);
     void alturaCompleta();
-    void conectar();
     void tlb_pulsada(const QString& clave);
+    void cancelar();
 
+    // The item of the operation.
     void habilitarEleccion(bool si);
     bool seleccionarPorCodigo();
-    bool cargarSubconcepto();
+    void cargarSubconcepto();
     void limpiarSubconcepto();
+    void mostrarSubconcepto(const ResultadoSubconcepto& r);
     void mostrarPorSubconcepto();
-    void guardarOperacion();
+    void mostrarValorContractual();
     void cambiarOperacion();
+    /// The item's identifier, or that of the law 0 without a law.
+    [[nodiscard]] int idSubconcepto() const;
+    [[nodiscard]] const clsSubconcepto* subconcepto() const { return subconcepto_ ? &*subconcepto_ : nullptr; }
+
+    // Saving and loading.
+    void guardarOperacion();
+    void agregarOperacion();
     void guardarDetalle();
     bool validarDetalle();
     bool guardarDatos();
-    void cancelar();
     void limpiarImportes();
     void cargarOperacion();
+    void mostrarObligacion(const ::Operacion& o);
     void leerInmuebles();
     void elegirInmueble(int fila);
-    void habilitarObligacion();
 
+    // The calculation.
     [[nodiscard]] CamposImpuesto campos();
     [[nodiscard]] EstadoOperacion estadoOperacion() const;
     void calcularImpuesto();
     void calcularBaseEImpuesto();
+    void habilitarObligacion();
 
     // Contract values.
     void tlbBI_pulsada(const QString& clave);
     void botonesValores(bool reposo, bool entrada);
+    void cerrarPanel();
     void limpiarPanel();
     void cambioMoneda();
     void calcularParcial();
     void editarValor();
+    bool validarValor();
     void guardarValor();
     void borrarValorElegido();
     void recargarValores();
@@ -90,24 +114,19 @@ private:
     [[nodiscard]] QList<ParteRol> partesDeGrilla() const;
     void colorearRoles();
     void adaptarRoles();
-    void abrirEditorDeCelda(int fila, int columna, const QString& tecla);
-    void cerrarEditorDeCelda(bool guardar);
-    bool teclaEnEditor(QObject* editor, class QKeyEvent* evento);
-    bool teclaEnGrillaRoles(class QKeyEvent* evento);
 
     [[nodiscard]] ClaveOperacion clave() const;
     [[nodiscard]] int codigo() const;
 
     std::unique_ptr<Ui::frmDJ_detalle_op> ui;
-    class QComboBox* cboRoles_;
-    class QLineEdit* txtRolObs_;
+    QComboBox* cboRoles_ = nullptr;
+    EditorCelda* editorRoles_ = nullptr;
     std::optional<clsSubconcepto> subconcepto_;
     bool guardado_ = false;
-    int ley_ = 0;
+    std::optional<int> ley_;
     int codigoAnterior_ = 0;
     Modo modoValor_ = Modo::nuevo;
     QString idValor_;
-    int inmuebleVinculado_ = 0;
-    QString textoRolesObligatorios_;
+    std::optional<int> inmuebleVinculado_;
     bool cargando_ = false;
 };

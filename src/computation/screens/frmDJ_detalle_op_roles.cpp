@@ -3,12 +3,15 @@
 
 #include "computation/screens/frmDJ_detalle_op.h"
 
-#include "computation/operacion.h"
-#include "widgets/ctlComunes.h"
+#include "computation/roles_operacion.h"
 #include "parties/screens/frmDJ_detalle_parte.h"
+#include "core/numero.h"
 #include "ui_frmDJ_detalle_op.h"
 
-#include <QKeyEvent>
+#include <QComboBox>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,8 +19,22 @@ constexpr int COL_ID_ROL = 4;
 constexpr int COL_ROL = 5;
 constexpr int COL_OBS = 6;
 constexpr int COL_EXENCION = 7;
+constexpr int LARGO_OBSERVACIONES = 50;
 
 }  // namespace
+
+void frmDJ_detalle_op::prepararEditorDeRoles()
+{
+    QWidget* celdas = ui->flxPartes->viewport();
+    cboRoles_ = new QComboBox(celdas);
+    cboRoles_->setObjectName(u"cboRoles"_s);
+    auto* txtRolObs = new QLineEdit(celdas);
+    txtRolObs->setObjectName(u"txtRolObs"_s);
+    txtRolObs->setMaxLength(LARGO_OBSERVACIONES);
+    editorRoles_ = new EditorCelda(ui->flxPartes, cboRoles_, txtRolObs,
+                                   {.dato = COL_ID_ROL, .lista = COL_ROL, .texto = COL_OBS});
+    connect(editorRoles_, &EditorCelda::listaEscrita, this, &frmDJ_detalle_op::colorearRoles);
+}
 
 void frmDJ_detalle_op::tlbPartes_pulsada(const QString& clave)
 {
@@ -25,7 +42,7 @@ void frmDJ_detalle_op::tlbPartes_pulsada(const QString& clave)
     const bool nueva = clave == u"agregar";
     if (!nueva && (clave != u"editar" || ui->flxPartes->filaActual() < 0))
         return;
-    cerrarEditorDeCelda(true);
+    editorRoles_->cerrar_celda(true);
     auto* hijo = cargar<frmDJ_detalle_parte>();
     hijo->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());
     hijo->permitirCuitEnTramite(subconcepto_ && subconcepto_->PermitirCUIT_EnTramite);
@@ -94,114 +111,4 @@ void frmDJ_detalle_op::adaptarRoles()
             ui->flxPartes->ponerCelda(i, COL_ROL, cboRoles_->itemText(0));
     }
     colorearRoles();
-}
-
-void frmDJ_detalle_op::abrirEditorDeCelda(int fila, int columna, const QString& tecla)
-{
-    cerrarEditorDeCelda(true);
-    if (fila < 0 || (columna != COL_ROL && columna != COL_OBS))
-        return;
-    ui->flxPartes->irAFila(fila, columna);
-    const QString texto = ui->flxPartes->celda(fila, columna);
-    QWidget* editor = columna == COL_ROL ? static_cast<QWidget*>(cboRoles_) : txtRolObs_;
-    editor->setFont(ui->flxPartes->font());
-    editor->setGeometry(ui->flxPartes->visualRect(ui->flxPartes->currentIndex()));
-    if (columna == COL_ROL) {
-        seleccionar_texto(cboRoles_, texto);
-    } else if (!tecla.isEmpty()) {
-        txtRolObs_->setText(tecla);
-    } else {
-        txtRolObs_->setText(texto);
-        txtRolObs_->selectAll();
-    }
-    editor->show();
-    editor->setFocus();
-}
-
-void frmDJ_detalle_op::cerrarEditorDeCelda(bool guardar)
-{
-    const int fila = ui->flxPartes->filaActual();
-    if (cboRoles_->isVisible()) {
-        const bool elegido = cboRoles_->currentIndex() >= 0;
-        if (guardar && fila >= 0) {
-            ui->flxPartes->ponerCelda(fila, COL_ID_ROL, elegido ? cboRoles_->currentData().toString() : QString());
-            ui->flxPartes->ponerCelda(fila, COL_ROL, elegido ? cboRoles_->currentText() : QString());
-            colorearRoles();
-        }
-        cboRoles_->hide();
-        ui->flxPartes->setFocus();
-    } else if (txtRolObs_->isVisible()) {
-        if (guardar && fila >= 0)
-            ui->flxPartes->ponerCelda(fila, COL_OBS, txtRolObs_->text());
-        txtRolObs_->hide();
-        ui->flxPartes->setFocus();
-    }
-}
-
-bool frmDJ_detalle_op::teclaEnEditor(QObject* editor, QKeyEvent* evento)
-{
-    const int fila = ui->flxPartes->filaActual();
-    const int columna = editor == cboRoles_ ? COL_ROL : COL_OBS;
-    const bool en_texto = editor == txtRolObs_;
-    switch (evento->key()) {
-    case Qt::Key_Escape: cerrarEditorDeCelda(false); return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter: cerrarEditorDeCelda(true); return true;
-    case Qt::Key_Left:
-        if (en_texto && txtRolObs_->cursorPosition() > 0)
-            return false;
-        cerrarEditorDeCelda(true);
-        ui->flxPartes->irAFila(fila, columna - 1);
-        abrirEditorDeCelda(fila, columna - 1, {});
-        return true;
-    case Qt::Key_Right:
-        if (en_texto && txtRolObs_->cursorPosition() < txtRolObs_->text().size())
-            return false;
-        cerrarEditorDeCelda(true);
-        ui->flxPartes->irAFila(fila, columna + 1);
-        abrirEditorDeCelda(fila, columna + 1, {});
-        return true;
-    case Qt::Key_Up:
-    case Qt::Key_Down: {
-        if (!en_texto)
-            return false;
-        const int destino = fila + (evento->key() == Qt::Key_Up ? -1 : 1);
-        if (destino >= 0 && destino < ui->flxPartes->filas())
-            abrirEditorDeCelda(destino, columna, {});
-        return true;
-    }
-    default: return false;
-    }
-}
-
-bool frmDJ_detalle_op::teclaEnGrillaRoles(QKeyEvent* evento)
-{
-    const int columna = ui->flxPartes->currentIndex().column();
-    if (columna != COL_ROL && columna != COL_OBS)
-        return false;
-    const int fila = ui->flxPartes->filaActual();
-    if (evento->key() == Qt::Key_Up || evento->key() == Qt::Key_Down) {
-        const int destino = fila + (evento->key() == Qt::Key_Up ? -1 : 1);
-        if (destino < 0 || destino >= ui->flxPartes->filas())
-            return false;
-        abrirEditorDeCelda(destino, columna, {});
-        return true;
-    }
-    const QString texto = evento->text();
-    const bool orden = evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    if (orden || texto.isEmpty()
-        || (texto.front() < u' ' && evento->key() != Qt::Key_Return && evento->key() != Qt::Key_Enter))
-        return false;
-    abrirEditorDeCelda(fila, columna, texto.front() > u' ' ? texto : QString());
-    return true;
-}
-
-bool frmDJ_detalle_op::eventFilter(QObject* objeto, QEvent* evento)
-{
-    if (evento->type() == QEvent::KeyPress) {
-        auto* k = static_cast<QKeyEvent*>(evento);
-        if (objeto == ui->flxPartes ? teclaEnGrillaRoles(k) : teclaEnEditor(objeto, k))
-            return true;
-    }
-    return Formulario::eventFilter(objeto, evento);
 }
