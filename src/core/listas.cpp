@@ -47,6 +47,6 @@ Entradas conceptos_sellos()
 {
     Entradas lista;
     for (Recordset rs(cnRtn, u"select SCON_ID, SCON_DESCRIPCION from SEL_TB_CONCEPTOS"_s); !rs.eof(); rs.siguiente())
-        lista.push_back({rs.texto("SCON_ID") + u" - "_s + rs.texto("SCON_DESCRIPCION"), rs.valor("SCON_ID")});
+        lista.push_back({u"%1 - %2"_s.arg(rs.texto("SCON_ID"), rs.texto("SCON_DESCRIPCION")), rs.valor("SCON_ID")});
     return lista;
 }

@@ -46,7 +46,7 @@ QString filtro_documento(const FiltroPartes& f, const QString& titulo, Dialogo& 
     const QString cuit = f.nroDoc.trimmed();
     (void)cuit.toLongLong(&es_numero);
     if (es_numero)
-        return u" P.SPIN_CUIT="_s + cuit;
+        return u" P.SPIN_CUIT=%1"_s.arg(cuit);
     dialogo.avisar({u"El valor ingresado para %1 no es válido"_s.arg(f.tipoDocTexto), titulo, Icono::ninguno});
     return u" P.SPIN_CUIT=-1"_s;
 }

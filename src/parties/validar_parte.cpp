@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SEGUIR = u"\n\n¿Esta seguro de ingresarlo de todas formas?"_s;
-
 Falla falla(const char* mensaje, const char* control, Icono icono = Icono::informacion)
 {
     return {QString::fromUtf8(mensaje), QString::fromLatin1(control), {}, icono};
@@ -116,7 +114,8 @@ Mensaje pregunta_colision(const ControlesParte& c, const Recordset& rs)
 {
     const QString nro = c.numero();
     const auto igual = [&](const char* que) {
-        return Mensaje{u"En la escritura ya existe otro contribuyente con el "_s + QString::fromUtf8(que) + SEGUIR,
+        return Mensaje{u"En la escritura ya existe otro contribuyente con el %1\n\n"
+                       u"¿Esta seguro de ingresarlo de todas formas?"_s.arg(QString::fromUtf8(que)),
                        c.titulo, Icono::pregunta};
     };
     if (c.esCuitOCuil() && !rs.nulo("SPIN_CUIT") && numero_sql(rs.real("SPIN_CUIT")) == nro)

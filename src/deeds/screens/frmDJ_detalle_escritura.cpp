@@ -73,7 +73,7 @@ void frmDJ_detalle::cambioAlcance()
             u"Esto se debe a que el sistema solo contiene las operaciones alcanzadas.\n"
             u"Una escritura No Alcanzada no puede contener operaciones asociadas.\n\n"
             u"¿Esta seguro de continuar con la acción?"_s,
-            windowTitle() + u" - Escritura No Alcanzada"_s);
+            u"%1 - Escritura No Alcanzada"_s.arg(windowTitle()));
         if (si)
             borrar_hijos_escritura();
         else

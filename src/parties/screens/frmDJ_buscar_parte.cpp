@@ -77,7 +77,7 @@ void frmDJ_buscar_parte::buscar_partes(bool limpiar)
     ui->txtRazonSocial->setText(filtro.razonSocial);
     ui->flx->llenar(
         [&] { leer_partes_halladas(sql, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
-    ui->lblEncontrados->setText(u"Registros encontrados: "_s + QString::number(ui->flx->filas()));
+    ui->lblEncontrados->setText(u"Registros encontrados: %1"_s.arg(ui->flx->filas()));
 }
 
 // The party is not stored here: the screen that takes it still checks it.
