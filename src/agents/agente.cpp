@@ -2,6 +2,8 @@
 
 #include "agents/agente.h"
 
+#include "core/asignaciones.h"
+#include "core/cuit.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 
@@ -39,23 +41,6 @@ const Columna<FilaAgente> COLUMNAS[] = {
     {"SRTN_ADSCRIPTO2_CUIT", &FilaAgente::adscripto2Cuit},
 };
 
-std::optional<qint64> numero_cuit(const QString& texto)
-{
-    const QString digitos = solo_digitos(texto);
-    return digitos.isEmpty() ? std::optional<qint64>() : digitos.toLongLong();
-}
-
-QString cuit_sql(const QString& texto)
-{
-    const QString digitos = solo_digitos(texto);
-    return digitos.isEmpty() ? u"null"_s : digitos;
-}
-
-bool mismo_cuit(const QString& a, const QString& b)
-{
-    return !a.isEmpty() && solo_digitos(a) == solo_digitos(b);
-}
-
 template <class F>
 bool guardar(const QString& titulo, Dialogo& dialogo, F escribir)
 {
@@ -70,46 +55,6 @@ bool guardar(const QString& titulo, Dialogo& dialogo, F escribir)
 
 }  // namespace
 
-std::optional<Falla> validar_agente(Agente& a)
-{
-    for (QString* texto :
-         {&a.titular, &a.domicilio, &a.email, &a.adscripto1, &a.adscripto2, &a.adscripto1Cuit, &a.adscripto2Cuit})
-        *texto = texto->trimmed();
-    if (a.adscripto1.isEmpty() && a.adscripto1Cuit.isEmpty()) {
-        a.adscripto1.swap(a.adscripto2);
-        a.adscripto1Cuit.swap(a.adscripto2Cuit);
-    }
-    const bool cuit_bien = cuit_valido(a.cuit);
-    const bool cuit1_bien = cuit_valido(a.adscripto1Cuit);
-    const bool cuit2_bien = cuit_valido(a.adscripto2Cuit);
-    return primera_falla({
-        {a.nroRegNotarial == 0, "Ingrese el Nº de Registro Notarial del titular", "nroRegNotarial"},
-        {a.titular.isEmpty(), "Ingrese el nombre del titular", "txtTitular"},
-        {a.cuit.isEmpty(), "Ingrese el CUIT del titular", "txtCUIT"},
-        {!cuit_bien, "El CUIT del titular no es válido", "txtCUIT"},
-        {a.domicilio.isEmpty(), "Ingrese el domicilio del titular", "txtDomicilio"},
-        {a.localidad == 0, "Ingrese la localidad del titular", "cboLocalidad"},
-        {a.codPostal.isEmpty(), "Ingrese el codigo postal del titular", "txtCodPostal"},
-        {!a.adscripto1.isEmpty() && a.adscripto1Cuit.isEmpty(), "Ingrese el cuit del primer adscripto",
-         "txtAdscripto1_cuit"},
-        {a.adscripto1.isEmpty() && !a.adscripto1Cuit.isEmpty(), "Ingrese el nombre del primer adscripto",
-         "txtAdscripto1_nombre"},
-        {!a.adscripto1Cuit.isEmpty() && !cuit1_bien, "El CUIT del primer adscripto no es válido", "txtAdscripto1_cuit"},
-        {!a.adscripto2.isEmpty() && a.adscripto2Cuit.isEmpty(), "Ingrese el cuit del segundo adscripto",
-         "txtAdscripto2_cuit"},
-        {a.adscripto2.isEmpty() && !a.adscripto2Cuit.isEmpty(), "Ingrese el nombre del segundo adscripto",
-         "txtAdscripto2_nombre"},
-        {!a.adscripto2Cuit.isEmpty() && !cuit2_bien, "El CUIT del segundo adscripto no es válido",
-         "txtAdscripto2_cuit"},
-        {mismo_cuit(a.adscripto1Cuit, a.cuit),
-         "El CUIT del primer adscripto no puede ser el mismo que el CUIT del titular", "txtAdscripto1_cuit"},
-        {mismo_cuit(a.adscripto2Cuit, a.cuit),
-         "El CUIT del segundo adscripto no puede ser el mismo que el CUIT del titular", "txtAdscripto2_cuit"},
-        {mismo_cuit(a.adscripto1Cuit, a.adscripto2Cuit), "Los CUITs de los adscriptos no pueden ser iguales",
-         "txtAdscripto1_cuit"},
-    });
-}
-
 bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo)
 {
     static const QString sentencia = sentencia_alta<FilaAgente>("SEL_TB_RTN_PADRON", COLUMNAS);
@@ -117,16 +62,16 @@ bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo)
         const FilaAgente f{a.nroRegNotarial,
                            a.nroRegNotarial,
                            toSQL(a.titular),
-                           numero_cuit(a.cuit),
+                           cuit_numero(a.cuit),
                            toSQL(a.domicilio),
                            toSQL(a.codPostal),
                            toSQL(a.telefono),
                            a.localidad,
                            toSQL(a.email),
                            toSQL(a.adscripto1),
-                           numero_cuit(a.adscripto1Cuit),
+                           cuit_numero(a.adscripto1Cuit),
                            toSQL(a.adscripto2),
-                           numero_cuit(a.adscripto2Cuit)};
+                           cuit_numero(a.adscripto2Cuit)};
         insertar_fila<FilaAgente>(cnRtn, sentencia, COLUMNAS, f);
     });
 }
@@ -134,34 +79,47 @@ bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo)
 bool modificar_agente(const Agente& a, int nro, const QString& titulo, Dialogo& dialogo)
 {
     return guardar(titulo, dialogo, [&] {
-        cnRtn.ejecutar(
-            u"update SEL_TB_RTN_PADRON set  SRTN_TITULAR_NOMBRE='"_s + toSQL(a.titular) + u"', SRTN_TITULAR_CUIT="_s
-            + cuit_sql(a.cuit) + u", SRTN_DOMICILIO="_s + texto_o_null(toSQL(a.domicilio)) + u", SRTN_TELEFONO="_s
-            + texto_o_null(toSQL(a.telefono)) + u", GLOC_ID="_s + QString::number(a.localidad) + u", SRTN_CODPOSTAL='"_s
-            + toSQL(a.codPostal) + u"', SRTN_EMAIL="_s + texto_o_null(toSQL(a.email)) + u", SRTN_ADSCRIPTO1_NOMBRE="_s
-            + texto_o_null(toSQL(a.adscripto1)) + u", SRTN_ADSCRIPTO1_CUIT="_s + cuit_sql(a.adscripto1Cuit)
-            + u", SRTN_ADSCRIPTO2_NOMBRE="_s + texto_o_null(toSQL(a.adscripto2)) + u", SRTN_ADSCRIPTO2_CUIT="_s
-            + cuit_sql(a.adscripto2Cuit) + u" where SRTN_NRO="_s + QString::number(nro));
+        cnRtn.ejecutar(u"update SEL_TB_RTN_PADRON set  %1 where SRTN_NRO=%2"_s.arg(
+            asignar_sql({
+                {"SRTN_TITULAR_NOMBRE", entre_comillas(toSQL(a.titular))},
+                {"SRTN_TITULAR_CUIT", cuit_sql(a.cuit)},
+                {"SRTN_DOMICILIO", texto_o_null(toSQL(a.domicilio))},
+                {"SRTN_TELEFONO", texto_o_null(toSQL(a.telefono))},
+                {"GLOC_ID", QString::number(a.localidad.value_or(0))},
+                {"SRTN_CODPOSTAL", entre_comillas(toSQL(a.codPostal))},
+                {"SRTN_EMAIL", texto_o_null(toSQL(a.email))},
+                {"SRTN_ADSCRIPTO1_NOMBRE", texto_o_null(toSQL(a.adscripto1))},
+                {"SRTN_ADSCRIPTO1_CUIT", cuit_sql(a.adscripto1Cuit)},
+                {"SRTN_ADSCRIPTO2_NOMBRE", texto_o_null(toSQL(a.adscripto2))},
+                {"SRTN_ADSCRIPTO2_CUIT", cuit_sql(a.adscripto2Cuit)},
+            }),
+            QString::number(nro)));
     });
 }
 
 std::optional<Agente> cargar_agente(int nro)
 {
-    const Recordset rs(cnRtn, u"select * from SEL_TB_RTN_PADRON where SRTN_NRO="_s + QString::number(nro));
+    const Recordset rs(cnRtn, u"select * from SEL_TB_RTN_PADRON where SRTN_NRO=%1"_s.arg(nro));
     if (rs.eof())
         return {};
     const auto texto = [&rs](const char* c) { return fromSQL(rs.texto(c)); };
-    return Agente{int(rs.entero("SRTN_NRO")),      texto("SRTN_TITULAR_NOMBRE"),
-                  texto("SRTN_TITULAR_CUIT"),      texto("SRTN_DOMICILIO"),
-                  int(rs.entero("GLOC_ID")),       texto("SRTN_CODPOSTAL"),
-                  texto("SRTN_TELEFONO"),          texto("SRTN_EMAIL"),
-                  texto("SRTN_ADSCRIPTO1_NOMBRE"), texto("SRTN_ADSCRIPTO1_CUIT"),
-                  texto("SRTN_ADSCRIPTO2_NOMBRE"), texto("SRTN_ADSCRIPTO2_CUIT")};
+    return Agente{int(rs.entero("SRTN_NRO")),
+                  texto("SRTN_TITULAR_NOMBRE"),
+                  texto("SRTN_TITULAR_CUIT"),
+                  texto("SRTN_DOMICILIO"),
+                  rs.nulo("GLOC_ID") ? std::optional<int>() : int(rs.entero("GLOC_ID")),
+                  texto("SRTN_CODPOSTAL"),
+                  texto("SRTN_TELEFONO"),
+                  texto("SRTN_EMAIL"),
+                  texto("SRTN_ADSCRIPTO1_NOMBRE"),
+                  texto("SRTN_ADSCRIPTO1_CUIT"),
+                  texto("SRTN_ADSCRIPTO2_NOMBRE"),
+                  texto("SRTN_ADSCRIPTO2_CUIT")};
 }
 
 int borrar_agente(int nro)
 {
-    return cnRtn.ejecutar(u"delete from SEL_TB_RTN_PADRON where SRTN_NRO="_s + QString::number(nro));
+    return cnRtn.ejecutar(u"delete from SEL_TB_RTN_PADRON where SRTN_NRO=%1"_s.arg(nro));
 }
 
 void leer_padron(const AgregarFila& fila)
@@ -173,9 +131,8 @@ void leer_padron(const AgregarFila& fila)
 
 std::optional<DatosAgenteDJ> datos_agente_dj(int nro)
 {
-    const Recordset rs(
-        cnRtn, u"select P.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_PADRON P, GLB_TB_LOCALIDADES L where p.SRTN_NRO = "_s
-                   + QString::number(nro) + u" and P.GLOC_ID=L.GLOC_ID"_s);
+    const Recordset rs(cnRtn, u"select P.*, L.GLOC_DESCRIPCION from SEL_TB_RTN_PADRON P, GLB_TB_LOCALIDADES L"
+                              u" where p.SRTN_NRO = %1 and P.GLOC_ID=L.GLOC_ID"_s.arg(nro));
     if (rs.eof())
         return {};
     return DatosAgenteDJ{int(rs.entero("SRTN_NRO")),         rs.texto("SRTN_TITULAR_NOMBRE"),
@@ -187,8 +144,14 @@ std::optional<DatosAgenteDJ> datos_agente_dj(int nro)
                          int(rs.entero("GLOC_ID"))};
 }
 
-QString consulta_agentes()
+Entradas agentes_por_nombre(Dialogo& dialogo)
 {
-    return u"select AR.SRTN_NRO, AR.SRTN_TITULAR_NOMBRE  from SEL_TB_RTN_PADRON as AR"
-           u" order by AR.SRTN_TITULAR_NOMBRE collate ESPANOL "_s;
+    try {
+        return leer_entradas(u"select AR.SRTN_NRO, AR.SRTN_TITULAR_NOMBRE  from SEL_TB_RTN_PADRON as AR"
+                             u" order by AR.SRTN_TITULAR_NOMBRE collate ESPANOL "_s,
+                             "SRTN_TITULAR_NOMBRE", "SRTN_NRO");
+    } catch (const ErrorAlmacen&) {
+        dialogo.avisar({u"Error al cargar los agentes de retención"_s, {}, Icono::ninguno});
+        return {};
+    }
 }

@@ -5,6 +5,7 @@
 #include "core/columnas.h"
 #include "core/dialogo.h"
 #include "core/filas.h"
+#include "core/listas.h"
 
 #include <QStringList>
 
@@ -15,7 +16,7 @@ struct Agente
     QString titular;
     QString cuit;
     QString domicilio;
-    int localidad = 0;  ///< 0 without a selection
+    std::optional<int> localidad;
     QString codPostal;
     QString telefono;
     QString email;
@@ -33,6 +34,7 @@ struct Agente
 [[nodiscard]] bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo);
 /// The agent's number is its key and stays, whatever `a` holds.
 [[nodiscard]] bool modificar_agente(const Agente& a, int nro, const QString& titulo, Dialogo& dialogo);
+/// The agent of this number, or nothing. Throws ErrorAlmacen.
 [[nodiscard]] std::optional<Agente> cargar_agente(int nro);
 /// Rows deleted; the DJs of the agent are not looked at.
 int borrar_agente(int nro);
@@ -50,5 +52,5 @@ struct DatosAgenteDJ
 /// An agent without a locality is not found.
 [[nodiscard]] std::optional<DatosAgenteDJ> datos_agente_dj(int nro);
 
-/// Statement of the lists of agents by name: number and name.
-[[nodiscard]] QString consulta_agentes();
+/// The agents by name, each with its number. A failure of the store is told and gives none.
+[[nodiscard]] Entradas agentes_por_nombre(Dialogo& dialogo);

@@ -28,10 +28,10 @@ Entradas provincias()
                          "GPRO_DESCRIPCION", "GPRO_ID");
 }
 
-Entradas localidades(int provincia)
+Entradas localidades(std::optional<int> provincia)
 {
-    return leer_entradas(u"select GLOC_ID, GLOC_DESCRIPCION, GPRO_ID from GLB_TB_LOCALIDADES where GPRO_ID="_s
-                             + QString::number(provincia) + u" order by GLOC_DESCRIPCION collate ESPANOL"_s,
+    return leer_entradas(u"select GLOC_ID, GLOC_DESCRIPCION, GPRO_ID from GLB_TB_LOCALIDADES where GPRO_ID=%1"
+                         u" order by GLOC_DESCRIPCION collate ESPANOL"_s.arg(QString::number(provincia.value_or(0))),
                          "GLOC_DESCRIPCION", "GLOC_ID");
 }
 
@@ -47,6 +47,6 @@ Entradas conceptos_sellos()
 {
     Entradas lista;
     for (Recordset rs(cnRtn, u"select SCON_ID, SCON_DESCRIPCION from SEL_TB_CONCEPTOS"_s); !rs.eof(); rs.siguiente())
-        lista.push_back({rs.texto("SCON_ID") + u" - "_s + rs.texto("SCON_DESCRIPCION"), rs.valor("SCON_ID")});
+        lista.push_back({u"%1 - %2"_s.arg(rs.texto("SCON_ID"), rs.texto("SCON_DESCRIPCION")), rs.valor("SCON_ID")});
     return lista;
 }

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <optional>
 #include <vector>
 
 /// One entry: its text and its item data.
@@ -23,7 +24,9 @@ using Entradas = std::vector<Entrada>;
 [[nodiscard]] Entradas con_sin_filtro(const Entradas& leidas);
 
 [[nodiscard]] Entradas provincias();
-[[nodiscard]] Entradas localidades(int provincia);
+/// The localities of a province, none without one.
+[[nodiscard]] Entradas localidades(std::optional<int> provincia);
+/// The localities of the home province.
 [[nodiscard]] Entradas localidades_propias();
 /// The concepts of the catalogue, each as its number, " - " and its name.
 [[nodiscard]] Entradas conceptos_sellos();

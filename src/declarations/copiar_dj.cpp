@@ -30,7 +30,7 @@ public:
 
 QString todo(const char* tabla, const QString& nro)
 {
-    return u"select * from "_s + QLatin1String(tabla) + u" where SEDJ_NRO='"_s + nro + u"'"_s;
+    return u"select * from %1 where SEDJ_NRO='%2'"_s.arg(QLatin1String(tabla), nro);
 }
 
 template <class T, class Alta>

@@ -4,6 +4,7 @@
 
 #include "core/modGlobales.h"
 #include "core/numero.h"
+#include "tree/renglon.h"
 
 using namespace Qt::StringLiterals;
 
@@ -37,8 +38,7 @@ QString consulta_renglones(const QString& nro)
            u" from SEL_VW_DJ_DETALLE D left join          (select SEDJ_NRO, SEDD_ID, SSUB_TESTIMONIO "
            u"          from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O "
            u"          on S.SSUB_ID=O.SSUB_ID) as A  on  D.SEDJ_NRO=A.SEDJ_NRO and D.SEDD_ID=A.SEDD_ID "
-           u" where D.SEDJ_NRO='"_s
-           + nro + u"' order by D.SEDD_ESCRITURA_NRO"_s;
+           u" where D.SEDJ_NRO='%1' order by D.SEDD_ESCRITURA_NRO"_s.arg(nro);
 }
 
 void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila)
@@ -60,11 +60,11 @@ void leer_renglones(const QString& nro, const std::function<void(const FilaRengl
 
 bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
 {
-    const QString donde = u" where SEDJ_NRO='"_s + nro + u"' and SEDD_ID="_s + QString::number(id);
+    const QString donde = RenglonDJ{nro, QString::number(id)}.donde();
     try {
         Transaccion t(cnRtn);
-        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES"_s + donde);
-        cnRtn.ejecutar(u"delete from SEL_TB_RTN_DETDJ"_s + donde);
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES%1"_s.arg(donde));
+        cnRtn.ejecutar(u"delete from SEL_TB_RTN_DETDJ%1"_s.arg(donde));
         Comando resta(cnRtn,
                       u"update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-? where SEDJ_NRO=?"_s);
         resta.parametro("p_monto", monto);

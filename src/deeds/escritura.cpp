@@ -2,6 +2,7 @@
 
 #include "deeds/escritura.h"
 
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 
@@ -33,19 +34,30 @@ QString letra_estado(int indice)
     return lista_estados().value(indice).mid(POSICION_LETRA, 1);
 }
 
+Entradas motivos_no_alcanzado()
+{
+    return leer_entradas(u"select * from SEL_TB_NO_ALCANZADOS_DESC order by SNAD_ORDEN"_s, "SNAD_DESCRIPCION",
+                         "SNAD_ID");
+}
+
+bool es_otro_motivo(const QString& motivo)
+{
+    return motivo.toUpper() == u"OTRO";
+}
+
 bool requiere_testimonio(const ControlesEscritura& c)
 {
     if (!c.noAlcanzado()) {
         if (c.renglon.isEmpty())
             return true;
         const Recordset rs(
-            cnRtn, u" select SSUB_TESTIMONIO from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O "
-                   u" on S.SSUB_ID=O.SSUB_ID  where O.SEDJ_NRO='"_s
-                       + c.dj + u"' and SEDD_ID="_s + c.renglon + u" order by O.SEDO_ID"_s);
+            cnRtn,
+            u" select SSUB_TESTIMONIO from SEL_TB_SUBCONCEPTOS as S inner join SEL_TB_RTN_INS_OPERACIONES as O "
+            u" on S.SSUB_ID=O.SSUB_ID  where O.SEDJ_NRO='%1' and SEDD_ID=%2 order by O.SEDO_ID"_s.arg(c.dj, c.renglon));
         return rs.eof() || rs.entero(0) != 0;
     }
-    const Recordset rs(cnRtn, u"select SNAD_TESTIMONIO from SEL_TB_NO_ALCANZADOS_DESC where SNAD_ID="_s
-                                  + QString::number(c.motivo));
+    const Recordset rs(
+        cnRtn, u"select SNAD_TESTIMONIO from SEL_TB_NO_ALCANZADOS_DESC where SNAD_ID=%1"_s.arg(c.motivo.value_or(0)));
     return !rs.eof() && rs.entero(0) != 0;
 }
 
@@ -60,7 +72,7 @@ Escritura escritura_nueva(const ControlesEscritura& c)
     e.observaciones = c.observaciones;
     e.estado = letra_estado(c.estado);
     e.alcanzado = c.noAlcanzado() ? u"N"_s : u"S"_s;
-    if (c.noAlcanzado() && c.motivo != 0)
+    if (c.noAlcanzado())
         e.motivo = c.motivo;
     if (c.noAlcanzado() && c.motivoOtroActivo)
         e.motivoOtro = c.motivoOtro;
@@ -71,29 +83,33 @@ Escritura escritura_nueva(const ControlesEscritura& c)
 
 int actualizar_escritura(const ControlesEscritura& c)
 {
-    const bool otro = c.noAlcanzado() && c.motivoOtroActivo && c.motivoTexto.toUpper() == u"OTRO";
+    const bool otro = c.noAlcanzado() && c.motivoOtroActivo && es_otro_motivo(c.motivoTexto);
     const bool con_testimonio = !c.anulada() && !c.testimonio.isEmpty();
-    // The remark goes as it stands: an apostrophe in it breaks the statement, which is deliberate.
-    return cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set  SEDD_DIA="_s + c.dia.toSQL() + u", SEDD_ESCRITURA_NRO="_s
-                          + c.nro + u", SEDD_FOLIO="_s + c.folio + u", SEDD_TOTAL_IMPUESTO="_s + c.totalImpuesto.toSQL()
-                          + u", SEDD_OBSERVACIONES="_s + texto_o_null(c.observaciones) + u", SEDD_ESTADO='"_s
-                          + letra_estado(c.estado) + u"', SEDD_ALCANZADO="_s + (c.noAlcanzado() ? u"'N'"_s : u"'S'"_s)
-                          + (c.noAlcanzado() ? u", SNAD_ID="_s + QString::number(c.motivo) : u", SNAD_ID=null"_s)
-                          + u", SNAD_DESC_OTRO="_s + (otro ? entre_comillas(toSQL(c.motivoOtro)) : u"null"_s)
-                          + (con_testimonio ? u", SEDD_FNAME_TESTIMONIO='"_s + toSQL(c.testimonio) + u"'"_s
-                                            : u", SEDD_FNAME_TESTIMONIO=null"_s)
-                          + RenglonDJ{c.dj, c.renglon}.donde());
+    const QString columnas = asignar_sql({
+        {"SEDD_DIA", c.dia.toSQL()},
+        {"SEDD_ESCRITURA_NRO", c.nro},
+        {"SEDD_FOLIO", c.folio},
+        {"SEDD_TOTAL_IMPUESTO", c.totalImpuesto.toSQL()},
+        // The remark goes as it stands: an apostrophe in it breaks the statement, which is deliberate.
+        {"SEDD_OBSERVACIONES", texto_o_null(c.observaciones)},
+        {"SEDD_ESTADO", entre_comillas(letra_estado(c.estado))},
+        {"SEDD_ALCANZADO", c.noAlcanzado() ? u"'N'"_s : u"'S'"_s},
+        {"SNAD_ID", c.noAlcanzado() ? QString::number(c.motivo.value_or(0)) : u"null"_s},
+        {"SNAD_DESC_OTRO", otro ? entre_comillas(toSQL(c.motivoOtro)) : u"null"_s},
+        {"SEDD_FNAME_TESTIMONIO", con_testimonio ? entre_comillas(toSQL(c.testimonio)) : u"null"_s},
+    });
+    return cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set  %1%2"_s.arg(columnas, RenglonDJ{c.dj, c.renglon}.donde()));
 }
 
 void anular_escritura(const RenglonDJ& r, const QString& estado)
 {
-    cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set  SEDD_ESTADO='%1', SEDD_FNAME_TESTIMONIO=NULL "_s.arg(estado)
-                   + r.donde());
+    cnRtn.ejecutar(
+        u"update SEL_TB_RTN_DETDJ set  SEDD_ESTADO='%1', SEDD_FNAME_TESTIMONIO=NULL %2"_s.arg(estado, r.donde()));
 }
 
 void desanular_escritura(const RenglonDJ& r, const QString& impuesto)
 {
-    cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set  SEDD_ESTADO='P'"_s + r.donde());
+    cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set  SEDD_ESTADO='P'%1"_s.arg(r.donde()));
     cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set  SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO+%1 where SEDJ_NRO='%2'"_s.arg(
         impuesto, r.dj));
 }
@@ -101,7 +117,7 @@ void desanular_escritura(const RenglonDJ& r, const QString& impuesto)
 std::optional<Escritura> cargar_escritura(const QString& dj, int renglon)
 {
     auto e = leer_fila<Escritura>(
-        cnRtn, u"select * from SEL_TB_RTN_DETDJ "_s + RenglonDJ{dj, QString::number(renglon)}.donde(),
+        cnRtn, u"select * from SEL_TB_RTN_DETDJ %1"_s.arg(RenglonDJ{dj, QString::number(renglon)}.donde()),
         columnas_escritura());
     if (e)
         e->testimonio = fromSQL(e->testimonio);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/dialogo.h"
+#include "core/listas.h"
 #include "core/numero.h"
 #include "tree/arbol_dj.h"
 #include "tree/renglon.h"
@@ -10,10 +11,14 @@
 /// State of a deed, in the order of its list.
 enum class EstadoEscritura { paso = 0, errose = 1, noPaso = 2 };
 
-/// "P", "E" or "N".
+/// "P", "E" or "N" of an index of the list of states.
 [[nodiscard]] QString letra_estado(int indice);
 /// Entries of the list of states: the caption, blanks up to 50 characters, the letter.
 [[nodiscard]] QStringList lista_estados();
+/// Why a deed may be not reached, in the order of its list. Throws ErrorAlmacen.
+[[nodiscard]] Entradas motivos_no_alcanzado();
+/// Whether this name of a reason asks for words of its own.
+[[nodiscard]] bool es_otro_motivo(const QString& motivo);
 
 /// What a deed's screen knows of its DJ.
 struct DatosDJ
@@ -36,9 +41,9 @@ struct ControlesEscritura
     QString nro;
     QString folio;
     Numero dia;
-    int estado = 0;     ///< index of its list, -1 without a selection
-    int alcanzado = 0;  ///< index: 0 reached, 1 not
-    int motivo = 0;     ///< item data, 0 without a selection
+    int estado = 0;             ///< index of its list, -1 without a selection
+    int alcanzado = 0;          ///< index: 0 reached, 1 not
+    std::optional<int> motivo;  ///< item data
     QString motivoTexto;
     QString motivoOtro;
     bool motivoOtroActivo = false;
@@ -70,4 +75,5 @@ int actualizar_escritura(const ControlesEscritura& c);
 void anular_escritura(const RenglonDJ& r, const QString& estado);
 /// Takes an annulment back and adds the deed's tax, in SQL form, to the DJ. Throws ErrorAlmacen.
 void desanular_escritura(const RenglonDJ& r, const QString& impuesto);
+/// The deed of a renglón, or nothing. Throws ErrorAlmacen.
 [[nodiscard]] std::optional<Escritura> cargar_escritura(const QString& dj, int renglon);

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What hangs from a deed: the rows of its three lists, their deletion, and the totals that
-// deletion lowers.
+// deletion lowers. All of it throws ErrorAlmacen.
 #pragma once
 
 #include "core/dialogo.h"
 #include "core/filas.h"
 #include "tree/renglon.h"
 
+/// The parties of a deed: identifier, type and number of document, name, nationality.
 void leer_partes(const RenglonDJ& r, const AgregarFila& fila);
-/// Gives the sum of the operations, in pesos.
+/// The operations of a deed: number, code, description, base, tax. Gives the sum of their taxes, in pesos.
 double leer_operaciones(const RenglonDJ& r, const AgregarFila& fila);
+/// The real estate of a deed: number, partida, location, fiscal value.
 void leer_inmuebles(const RenglonDJ& r, const AgregarFila& fila);
 
 void borrar_parte(const RenglonDJ& r, const QString& id);

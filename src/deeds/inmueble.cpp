@@ -2,10 +2,16 @@
 
 #include "deeds/inmueble.h"
 
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 
 using namespace Qt::StringLiterals;
+
+Entradas caracteres_ubicacion()
+{
+    return leer_entradas(u"select * from GLB_TB_TIPOS_UBICACION order by GTUB_ID"_s, "GTUB_DESCRIPCION", "GTUB_ID");
+}
 
 std::optional<Falla> validar_inmueble(Inmueble& i)
 {
@@ -20,30 +26,28 @@ std::optional<Falla> validar_inmueble(Inmueble& i)
 
 void modificar_inmueble(const Inmueble& i, const QString& valFiscalSQL)
 {
-    QString sql = u"update SEL_TB_RTN_INS_INMUEBLES set "_s;
-    QString separador;
+    Asignaciones fila;
     for (const Columna<Inmueble>& c : columnas_inmueble()) {
         const std::string_view nombre(c.nombre);
         if (nombre == "SEDJ_NRO" || nombre == "SEDD_ID" || nombre == "SEII_ID")
             continue;
-        const QVariant valor = valor_columna(i, c);
-        sql += separador + u" "_s + QLatin1String(c.nombre) + u"="_s;
+        const QString valor = valor_columna(i, c).toString();
         if (nombre == "SEII_VAL_FISCAL")
-            sql += valFiscalSQL;
+            fila << Asignacion{c.nombre, valFiscalSQL};
         else if (nombre == "GTUB_ID")
-            sql += valor.toString();
+            fila << Asignacion{c.nombre, valor};
         else
-            sql += texto_o_null(valor.toString());  // not through toSQL, deliberately
-        separador = u","_s;
+            fila << Asignacion{c.nombre, texto_o_null(valor)};  // not through toSQL, deliberately
     }
-    cnRtn.ejecutar(sql + u" where SEDJ_NRO="_s + entre_comillas(i.dj) + u" and SEDD_ID="_s + QString::number(i.renglon)
-                   + u" and SEII_ID="_s + QString::number(i.id));
+    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_INMUEBLES set  %1 where SEDJ_NRO='%2' and SEDD_ID=%3 and SEII_ID=%4"_s.arg(
+        asignar_sql(fila), i.dj, QString::number(i.renglon), QString::number(i.id)));
 }
 
 std::optional<Inmueble> cargar_inmueble(const QString& dj, const QString& renglon, int id)
 {
-    return leer_fila<Inmueble>(cnRtn,
-                               u"select * from SEL_TB_RTN_INS_INMUEBLES where SEDJ_NRO="_s + entre_comillas(dj)
-                                   + u" and SEDD_ID="_s + renglon + u" and SEII_ID="_s + QString::number(id),
-                               columnas_inmueble());
+    return leer_fila<Inmueble>(
+        cnRtn,
+        u"select * from SEL_TB_RTN_INS_INMUEBLES where SEDJ_NRO='%1' and SEDD_ID=%2 and SEII_ID=%3"_s.arg(
+            dj, renglon, QString::number(id)),
+        columnas_inmueble());
 }

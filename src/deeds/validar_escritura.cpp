@@ -31,8 +31,8 @@ std::optional<Solape> buscar_solape(const ControlesEscritura& c, Vecina& v)
         for (Recordset rs(
                  cnRtn,
                  u" select SEDD_ID, SEDD_DIA, SEDD_ESCRITURA_NRO, SEDD_FOLIO,  SEDD_DIA, SEDD_ESTADO, SEDD_ALCANZADO "
-                 u" from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s
-                     + c.dj + u"' and SEDD_ESTADO<>'E' order by SEDD_ESCRITURA_NRO "_s);
+                 u" from SEL_TB_RTN_DETDJ  where SEDJ_NRO='%1' and SEDD_ESTADO<>'E' order by SEDD_ESCRITURA_NRO "_s.arg(
+                     c.dj));
              !rs.eof(); rs.siguiente()) {
             if (c.operacion == Modo::modificar && rs.texto("SEDD_ID") == c.renglon)
                 continue;
@@ -63,18 +63,19 @@ bool verificar_solapamiento(ControlesEscritura& c, Dialogo& dialogo, QString& fo
     const QString dia = QString::number(v.dia);
     // "del dia" in one message and "del día" in the other are both the system's own.
     if (*solape == Solape::dia) {
-        dialogo.avisar({u"Atención: El día se solapa con una escritura anterior\nExiste una escritura Nº "_s + nro
-                            + u" Folio "_s + folio + u" del día "_s + dia + u"\n\n"_s,
+        dialogo.avisar({u"Atención: El día se solapa con una escritura anterior\n"
+                        u"Existe una escritura Nº %1 Folio %2 del día %3\n\n"_s.arg(nro, folio, dia),
                         c.titulo, Icono::informacion});
         foco = u"nroDia"_s;
         return false;
     }
     const bool mismo = *solape == Solape::numero;
-    const bool errose = dialogo.preguntar({u"Atención: Se solapa el Nº "_s + (mismo ? u"Escritura"_s : u"Folio"_s)
-                                               + u"\nExiste una escritura Nº "_s + nro + u" con folio "_s + folio
-                                               + u" del dia "_s + dia + u"\n\nDesea cargar un ERROSE para "_s
-                                               + (mismo ? u"la escritura "_s + nro : u"el folio "_s + folio) + u'?',
-                                           u"Duplicación de números"_s, Icono::pregunta});
+    const QString pregunta = u"Atención: Se solapa el Nº %1\n"
+                             u"Existe una escritura Nº %2 con folio %3 del dia %4\n\n"
+                             u"Desea cargar un ERROSE para %5?"_s.arg(
+                                 mismo ? u"Escritura"_s : u"Folio"_s, nro, folio, dia,
+                                 mismo ? u"la escritura "_s + nro : u"el folio "_s + folio);
+    const bool errose = dialogo.preguntar({pregunta, u"Duplicación de números"_s, Icono::pregunta});
     if (!errose)
         return false;
     c.estado = int(EstadoEscritura::errose);
@@ -86,14 +87,14 @@ bool verificar_solapamiento(ControlesEscritura& c, Dialogo& dialogo, QString& fo
 bool verificar_testimonio_unico(const ControlesEscritura& c, Dialogo& dialogo)
 {
     try {
-        const Recordset rs(cnRtn,
-                           u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_DIA  from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s
-                               + c.dj + u"' and SEDD_FNAME_TESTIMONIO='"_s + toSQL(c.testimonio) + u"'"_s
-                               + (c.operacion == Modo::modificar ? u" and SEDD_ID<>"_s + c.renglon : QString()));
+        const QString otra = c.operacion == Modo::modificar ? u" and SEDD_ID<>%1"_s.arg(c.renglon) : QString();
+        const Recordset rs(
+            cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_DIA  from SEL_TB_RTN_DETDJ "
+                   u" where SEDJ_NRO='%1' and SEDD_FNAME_TESTIMONIO='%2'%3"_s.arg(c.dj, toSQL(c.testimonio), otra));
         if (rs.eof())
             return true;
-        dialogo.avisar({u"Atención: El archivo ya fue asociado a la escritura Nº "_s + rs.texto("SEDD_ESCRITURA_NRO")
-                            + u" del dia "_s + rs.texto("SEDD_DIA"),
+        dialogo.avisar({u"Atención: El archivo ya fue asociado a la escritura Nº %1 del dia %2"_s.arg(
+                            rs.texto("SEDD_ESCRITURA_NRO"), rs.texto("SEDD_DIA")),
                         u"Testimonio"_s, Icono::informacion});
     } catch (const ErrorAlmacen&) {
         return false;
@@ -121,10 +122,9 @@ std::optional<Falla> falta_en_campos(const ControlesEscritura& c)
 
 std::optional<Falla> falta_motivo(const ControlesEscritura& c)
 {
-    const bool otro = c.motivoTexto.toUpper() == u"OTRO";
+    const bool otro = es_otro_motivo(c.motivoTexto);
     return primera_falla({
-        {c.noAlcanzado() && c.motivo == 0, "Seleccione la descripcion de la operación No Alcanzada",
-         "cboDesc_NoAlcanzado"},
+        {c.noAlcanzado() && !c.motivo, "Seleccione la descripcion de la operación No Alcanzada", "cboDesc_NoAlcanzado"},
         {c.noAlcanzado() && otro && c.motivoOtro.isEmpty() && c.motivoOtroActivo,
          "Ingrese la descripcion de la operación No Alcanzada", "txtNoAlcanzado_Otro"},
     });

@@ -13,10 +13,10 @@ struct FiltroPartes
 {
     QString dj = {};       ///< parties of this DJ are left out,
     QString renglon = {};  ///< and so are those of this deed's number in any DJ
-    int tipoSociedad = 0;  ///< 0 without filter
+    std::optional<int> tipoSociedad = {};
     Criterio criterio = Criterio::sin_filtro;
     QString razonSocial = {};
-    int tipoDoc = 0;  ///< 0 without filter
+    std::optional<int> tipoDoc = {};  ///< the type 0 filters as little as none
     QString tipoDocTexto = {};
     QString nroDoc = {};
 };

@@ -2,6 +2,7 @@
 
 #include "parties/parte.h"
 
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "tree/renglon.h"
@@ -10,41 +11,39 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString codigo_pais(const QString& entrada)
+QString id_o_null(std::optional<int> id)
 {
-    const auto apertura = entrada.lastIndexOf(u'(');
-    return apertura < 0 ? QString() : entrada.mid(apertura + 1, entrada.lastIndexOf(u')') - apertura - 1);
+    return id ? QString::number(*id) : u"null"_s;
 }
 
-QString id_o_null(int id)
+// The document's number and the CUIT as the update takes them; they hang on the type.
+struct DocumentoSQL
 {
-    return id == 0 ? u"null"_s : QString::number(id);
-}
-
-// The assignments of the document's number and the CUIT, which hang on the type.
-QString asignar_documento(const ControlesParte& c)
+    QString nroDoc;
+    QString cuit = u"null"_s;
+};
+DocumentoSQL documento_sql(const ControlesParte& c)
 {
-    const QString sin_cuit = u", SPIN_CUIT=null"_s;
-    if (c.es(u"CUIT") && c.enTramite)
-        return u", SPIN_NRODOC=null"_s + sin_cuit;
+    if (c.es(tipo_documento::CUIT) && c.enTramite)
+        return {u"null"_s};
     // The passport goes as it stands, deliberately.
-    if (c.es(u"PASAPORTE"))
-        return u", SPIN_NRODOC='"_s + c.pasaporte + u"'"_s + sin_cuit;
+    if (c.esPasaporte())
+        return {entre_comillas(c.pasaporte)};
     if (c.esCuitOCuil())
-        return u", SPIN_NRODOC="_s + c.nroDoc.toSQL() + u", SPIN_CUIT="_s + c.nroDoc.toSQL();
-    if (c.es(u"SIN IDENTIFICAR"))
-        return u", SPIN_NRODOC=NULL"_s + sin_cuit;
-    return u", SPIN_NRODOC='"_s + c.nroDoc.toSQL() + u"'"_s + sin_cuit;
+        return {c.nroDoc.toSQL(), c.nroDoc.toSQL()};
+    if (c.es(tipo_documento::SIN_IDENTIFICAR))
+        return {u"NULL"_s};
+    return {entre_comillas(c.nroDoc.toSQL())};
+}
+
+QString exencion_sql(const ControlesParte& c)
+{
+    return c.exento ? sql_o_cero(c.exencionPorc) : u"null"_s;
 }
 
 }  // namespace
 
-QString nombre_sociedad(const QString& entrada)
-{
-    return entrada.left(POSICION_DIGITO_CUIT).trimmed();
-}
-
-bool es_cuit(const Numero& nro)
+bool cuit_valido(const Numero& nro)
 {
     QString texto = nro.toSQL();
     return cuit_valido(texto);
@@ -58,7 +57,7 @@ Parte parte_de(const ControlesParte& c)
     p.renglon = c.renglon.toInt();
     if (c.tipoDoc)
         p.tipoDoc = QString::number(*c.tipoDoc);
-    if (!(c.es(u"CUIT") && c.enTramite))
+    if (!(c.es(tipo_documento::CUIT) && c.enTramite))
         p.nroDoc = c.numero();
     if (c.esCuitOCuil() && !p.nroDoc.isEmpty())
         p.cuit = c.nroDoc.Value();
@@ -67,46 +66,48 @@ Parte parte_de(const ControlesParte& c)
     if (c.exento)
         p.porcExento = c.exencionPorc.Value();
     p.observaciones = c.observaciones;
-    if (c.tipoSociedad != 0)
-        p.tipoSociedad = c.tipoSociedad;
+    p.tipoSociedad = c.tipoSociedad;
     p.domicilio = c.domicilio;
     p.codPostal = c.codPostal;
-    if (c.localidad != 0)
-        p.localidad = c.localidad;
-    if (c.provincia != 0)
-        p.provincia = c.provincia;
+    p.localidad = c.localidad;
+    p.provincia = c.provincia;
     p.nacionalidad = c.extranjera ? u"E"_s : u"A"_s;
     if (c.extranjera)
-        p.codigoPais = codigo_pais(c.codigoPaisTexto);
+        p.codigoPais = codigo_pais(c.paisTexto);
     return p;
 }
 
 void modificar_parte(const ControlesParte& c)
 {
-    const auto texto = [](const char* columna, const QString& valor) {
-        return u", "_s + QLatin1StringView(columna) + u"="_s + texto_o_null(toSQL(valor));
-    };
     const QString id = QString::number(c.id);
-    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_PARTES set   SPIN_ID="_s + id + u", SEDJ_NRO='"_s + c.dj + u"', SEDD_ID="_s
-                   + c.renglon
-                   + (c.tipoDoc ? u", GTDC_ID='"_s + QString::number(*c.tipoDoc) + u"'"_s : u", GTDC_ID=null"_s)
-                   + asignar_documento(c) + u", SPIN_CUIT_EN_TRAMITE="_s + logico_sql(c.enTramite)
-                   + texto("SPIN_RSOCIAL", c.razonSocial) + u", SPIN_PORCEXENTO="_s
-                   + (c.exento && !c.exencionPorc.vacio() ? c.exencionPorc.toSQL()
-                      : c.exento                          ? u"0"_s
-                                                          : u"null"_s)
-                   + texto("SPIN_OBS", c.observaciones) + u", GTSO_ID="_s + id_o_null(c.tipoSociedad)
-                   + texto("SPIN_DOMICILIO", c.domicilio) + texto("SPIN_CODPOSTAL", c.codPostal) + u", GLOC_ID="_s
-                   + id_o_null(c.localidad) + u", GPRO_ID="_s + id_o_null(c.provincia) + u", SPIN_NACIONALIDAD="_s
-                   + (c.extranjera ? u"'E'"_s : u"'A'"_s) + u", CPAI_CODIGO="_s
-                   + (c.extranjera ? texto_o_null(codigo_pais(c.codigoPaisTexto)) : u"null"_s)
-                   + RenglonDJ{c.dj, c.renglon}.donde() + u" and SPIN_ID="_s + id);
+    const DocumentoSQL documento = documento_sql(c);
+    const QString columnas = asignar_sql({
+        {"SPIN_ID", id},
+        {"SEDJ_NRO", entre_comillas(c.dj)},
+        {"SEDD_ID", c.renglon},
+        {"GTDC_ID", c.tipoDoc ? entre_comillas(QString::number(*c.tipoDoc)) : u"null"_s},
+        {"SPIN_NRODOC", documento.nroDoc},
+        {"SPIN_CUIT", documento.cuit},
+        {"SPIN_CUIT_EN_TRAMITE", logico_sql(c.enTramite)},
+        {"SPIN_RSOCIAL", texto_o_null(toSQL(c.razonSocial))},
+        {"SPIN_PORCEXENTO", exencion_sql(c)},
+        {"SPIN_OBS", texto_o_null(toSQL(c.observaciones))},
+        {"GTSO_ID", id_o_null(c.tipoSociedad)},
+        {"SPIN_DOMICILIO", texto_o_null(toSQL(c.domicilio))},
+        {"SPIN_CODPOSTAL", texto_o_null(toSQL(c.codPostal))},
+        {"GLOC_ID", id_o_null(c.localidad)},
+        {"GPRO_ID", id_o_null(c.provincia)},
+        {"SPIN_NACIONALIDAD", c.extranjera ? u"'E'"_s : u"'A'"_s},
+        {"CPAI_CODIGO", c.extranjera ? texto_o_null(codigo_pais(c.paisTexto)) : u"null"_s},
+    });
+    cnRtn.ejecutar(u"update SEL_TB_RTN_INS_PARTES set   %1%2 and SPIN_ID=%3"_s.arg(
+        columnas, RenglonDJ{c.dj, c.renglon}.donde(), id));
 }
 
 std::optional<Parte> cargar_parte(const QString& dj, const QString& renglon, int id)
 {
     return leer_fila<Parte>(cnRtn,
-                            u"select * from SEL_TB_RTN_INS_PARTES "_s + RenglonDJ{dj, renglon}.donde()
-                                + u" and SPIN_ID="_s + QString::number(id),
+                            u"select * from SEL_TB_RTN_INS_PARTES %1 and SPIN_ID=%2"_s.arg(
+                                RenglonDJ{dj, renglon}.donde(), QString::number(id)),
                             columnas_parte());
 }

@@ -4,6 +4,7 @@
 
 #include "core/dialogo.h"
 #include "core/numero.h"
+#include "parties/listas_parte.h"
 #include "tree/arbol_dj.h"
 
 /// The party as the screen holds it.
@@ -17,11 +18,11 @@ struct ControlesParte
 
     bool argentina = false;
     bool extranjera = false;
-    int codigoPais = -1;         ///< index, -1 without a selection
-    QString codigoPaisTexto;     ///< "PAÍS - Persona (código)"
-    int tipoSociedad = 0;        ///< item data, 0 without a selection
-    QString tipoSociedadTexto;   ///< the description, and the CUIT digit at position 201
-    std::optional<int> tipoDoc;  ///< item data
+    int pais = -1;                    ///< index, -1 without a selection
+    QString paisTexto;                ///< "PAÍS - Persona (código)"
+    std::optional<int> tipoSociedad;  ///< item data
+    QString tipoSociedadTexto;        ///< the entry: the name, and the digit of its CUITs
+    std::optional<int> tipoDoc;       ///< item data; one of the types is 0
     QString tipoDocTexto;
     Numero nroDoc;
     QString pasaporte;
@@ -32,22 +33,19 @@ struct ControlesParte
     Numero exencionPorc;
     QString domicilio, codPostal, observaciones;
     QString provinciaTexto, localidadTexto;
-    int provincia = 0, localidad = 0;  ///< item data, 0 when the text is no item
+    std::optional<int> provincia, localidad;  ///< item data, nothing when the text is no item
     bool rolActivo = false;
     bool rolElegido = false;
 
     [[nodiscard]] bool es(QStringView tipo) const { return tipoDocTexto.toUpper() == tipo; }
-    [[nodiscard]] bool esCuitOCuil() const { return es(u"CUIT") || es(u"CUIL"); }
+    [[nodiscard]] bool esCuitOCuil() const { return es_cuit_o_cuil(tipoDocTexto.toUpper()); }
+    [[nodiscard]] bool esPasaporte() const { return es(tipo_documento::PASAPORTE); }
     /// The number of the document for the type chosen.
-    [[nodiscard]] QString numero() const { return es(u"PASAPORTE") ? pasaporte : nroDoc.toSQL(); }
+    [[nodiscard]] QString numero() const { return esPasaporte() ? pasaporte : nroDoc.toSQL(); }
 };
 
-constexpr int POSICION_DIGITO_CUIT = 200;
-
-/// The type of company, without the digit that its entry carries.
-[[nodiscard]] QString nombre_sociedad(const QString& entrada);
-/// Whether the number of a field passes the CUIT check.
-[[nodiscard]] bool es_cuit(const Numero& nro);
+/// Whether the number of a field is a CUIT with a right check digit.
+[[nodiscard]] bool cuit_valido(const Numero& nro);
 
 /// Trims the texts; gives the first thing wrong.
 [[nodiscard]] std::optional<Falla> validar_parte(ControlesParte& c);
@@ -57,6 +55,7 @@ constexpr int POSICION_DIGITO_CUIT = 200;
 
 /// The row that the screen stands for.
 [[nodiscard]] Parte parte_de(const ControlesParte& c);
-/// Throws ErrorAlmacen.
+/// Writes the row of `c.id`. Throws ErrorAlmacen.
 void modificar_parte(const ControlesParte& c);
+/// The party with this identifier, or nothing. Throws ErrorAlmacen.
 [[nodiscard]] std::optional<Parte> cargar_parte(const QString& dj, const QString& renglon, int id);

@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SEGUIR = u"\n\n¿Esta seguro de ingresarlo de todas formas?"_s;
-
 Falla falla(const char* mensaje, const char* control, Icono icono = Icono::informacion)
 {
     return {QString::fromUtf8(mensaje), QString::fromLatin1(control), {}, icono};
@@ -26,20 +24,20 @@ std::optional<Falla> validar_cuit(const ControlesParte& c)
     if (texto.size() != 11)
         return invalido;
     const double medio = numero_inicial(texto.mid(2, 8));
-    if (medio <= 100 || medio >= 99999999 || !es_cuit(c.nroDoc))
+    if (medio <= 100 || medio >= 99999999 || !cuit_valido(c.nroDoc))
         return invalido;
-    if (numero_inicial(texto.left(1)) == numero_inicial(c.tipoSociedadTexto.mid(POSICION_DIGITO_CUIT)))
+    if (numero_inicial(texto.left(1)) == numero_inicial(digito_sociedad(c.tipoSociedadTexto)))
         return {};
-    return Falla{u"El "_s + c.tipoDocTexto + u" comenzado con "_s + texto.left(2)
-                     + u" no coincide con el tipo de sociedad seleccionado"_s,
-                 u"nroDoc"_s,
-                 {}};
+    return Falla{
+        u"El %1 comenzado con %2 no coincide con el tipo de sociedad seleccionado"_s.arg(c.tipoDocTexto, texto.left(2)),
+        u"nroDoc"_s,
+        {}};
 }
 
 bool fuera_de_rango(const ControlesParte& c)
 {
     const QString tipo = c.tipoDocTexto.toUpper();
-    if (c.esCuitOCuil() || tipo == u"PASAPORTE" || tipo.startsWith(u"LC") || tipo.startsWith(u"CI"))
+    if (c.esCuitOCuil() || c.esPasaporte() || tipo.startsWith(u"LC") || tipo.startsWith(u"CI"))
         return false;
     const double n = c.nroDoc.Value();
     return n != 0 && (n < 100000 || n >= 99999999);
@@ -47,12 +45,12 @@ bool fuera_de_rango(const ControlesParte& c)
 
 std::optional<Falla> validar_identidad(const ControlesParte& c)
 {
-    const bool pasaporte = c.es(u"PASAPORTE");
+    const bool pasaporte = c.esPasaporte();
     if (c.argentina) {
         if (auto f = primera_falla({
-                {c.tipoSociedad == 0, "Seleccione el tipo de sociedad", "cboTipoSociedad"},
+                {!c.tipoSociedad, "Seleccione el tipo de sociedad", "cboTipoSociedad"},
                 {!c.tipoDoc, "Ingrese el tipo de documento del participante", "cboTipoDoc"},
-                {nombre_sociedad(c.tipoSociedadTexto) != u"UNIPERSONAL" && !c.es(u"CUIT"),
+                {nombre_sociedad(c.tipoSociedadTexto) != UNIPERSONAL && !c.es(tipo_documento::CUIT),
                  "El tipo de documento no coincide con el tipo de sociedad seleccionado", "cboTipoDoc"},
                 {!c.enTramite && c.esCuitOCuil() && c.nroDoc.Value() == 0, "Ingrese el CUIT o CUIL del participante",
                  "nroDoc"},
@@ -83,12 +81,12 @@ std::optional<Falla> validar_parte(ControlesParte& c)
         return f;
     const double porcentaje = c.exencionPorc.Value();
     return primera_falla({
-        {c.extranjera && c.codigoPais < 0, "Ingrese el código pais del participante", "cboCodigoPais"},
-        {c.tipoSociedad == 0, "Ingrese el tipo de sociedad", "cboTipoSociedad"},
+        {c.extranjera && c.pais < 0, "Ingrese el código pais del participante", "cboCodigoPais"},
+        {!c.tipoSociedad, "Ingrese el tipo de sociedad", "cboTipoSociedad"},
         {c.razonSocial.isEmpty(), "Ingrese la denominación/razón social de la parte", "txtRazonSocial"},
-        {!c.provinciaTexto.isEmpty() && c.provincia == 0, "El texto ingresado no es una provincia válida", "cboProv"},
-        {!c.localidadTexto.isEmpty() && c.localidad == 0, "El texto ingresado no es una localidad válida", "cboLoc"},
-        {c.es(u"CUIT") && c.exento && porcentaje == 0,
+        {!c.provinciaTexto.isEmpty() && !c.provincia, "El texto ingresado no es una provincia válida", "cboProv"},
+        {!c.localidadTexto.isEmpty() && !c.localidad, "El texto ingresado no es una localidad válida", "cboLoc"},
+        {c.es(tipo_documento::CUIT) && c.exento && porcentaje == 0,
          "Ingrese el porcentaje de exención sobre el impuesto de sellos que tiene el participante", "nroExencionPorc"},
         {(c.exentoActivo && c.exento && porcentaje < 0) || porcentaje > 100,
          "El porcentaje de exención ingresado no es válido", "nroExencionPorc", Icono::exclamacion},
@@ -105,33 +103,31 @@ QString condicion_colision(const ControlesParte& c)
     const QString id = c.tipoDoc ? QString::number(*c.tipoDoc) : QString();
     const QString nro = c.numero();
     if (c.esCuitOCuil())
-        return u" and (GTDC_ID='"_s + id + u"'  and (SPIN_CUIT="_s + nro + u" or SPIN_NRODOC='"_s + nro + u"'))  "_s;
+        return u" and (GTDC_ID='%1'  and (SPIN_CUIT=%2 or SPIN_NRODOC='%2'))  "_s.arg(id, nro);
     if (c.es(u"DNI") || c.es(u"LE") || c.es(u"LC"))
-        return u" and ( (GTDC_ID='"_s + id + u"' and SPIN_NRODOC='"_s + nro
-               + u"')   or  ( mid(trim(str(SPIN_CUIT)),1,1)='2'    and substr(mid(trim(str(SPIN_CUIT)),1,10),-8) = '"_s
-               + nro + u"') )"_s;
-    return u" and (SPIN_NRODOC='"_s + toSQL(nro) + u"')"_s;
+        return u" and ( (GTDC_ID='%1' and SPIN_NRODOC='%2')   or  ( mid(trim(str(SPIN_CUIT)),1,1)='2' "
+               u"   and substr(mid(trim(str(SPIN_CUIT)),1,10),-8) = '%2') )"_s.arg(id, nro);
+    return u" and (SPIN_NRODOC='%1')"_s.arg(toSQL(nro));
 }
 
 Mensaje pregunta_colision(const ControlesParte& c, const Recordset& rs)
 {
     const QString nro = c.numero();
     const auto igual = [&](const char* que) {
-        return Mensaje{u"En la escritura ya existe otro contribuyente con el "_s + QString::fromUtf8(que) + SEGUIR,
+        return Mensaje{u"En la escritura ya existe otro contribuyente con el %1\n\n"
+                       u"¿Esta seguro de ingresarlo de todas formas?"_s.arg(QString::fromUtf8(que)),
                        c.titulo, Icono::pregunta};
     };
     if (c.esCuitOCuil() && !rs.nulo("SPIN_CUIT") && numero_sql(rs.real("SPIN_CUIT")) == nro)
         return igual("mismo número de CUIT/CUIL");
-    if (c.es(u"PASAPORTE") && rs.texto("SPIN_NRODOC") == nro)
+    if (c.esPasaporte() && rs.texto("SPIN_NRODOC") == nro)
         return igual("Nº de Pasaporte ingresado");
     if (rs.texto("SPIN_NRODOC") == nro)
         return igual("Nº de Documento ingresado");
-    return {u"Hay colisión de CUITs/CUILs/NºDocumento entre las partes del instrumento.\n"_s
-                + (c.esCuitOCuil() ? u"Ya existe otro contribuyente con Nºde documento que se corresponde con el "_s
-                                         + c.tipoDocTexto + u" ingresado"_s
-                                   : u"Ya existe otro contribuyente cuyo CUIT/CUIL se corresponde con el "_s
-                                         + c.tipoDocTexto + u" ingresado"_s)
-                + u"\n\n¿Desea darlo de alta con el mismo número de todas formas?"_s,
+    return {u"Hay colisión de CUITs/CUILs/NºDocumento entre las partes del instrumento.\n"
+            u"Ya existe otro contribuyente %1 se corresponde con el %2 ingresado\n\n"
+            u"¿Desea darlo de alta con el mismo número de todas formas?"_s.arg(
+                c.esCuitOCuil() ? u"con Nºde documento que"_s : u"cuyo CUIT/CUIL"_s, c.tipoDocTexto),
             u"Advertencia"_s, Icono::pregunta};
 }
 
@@ -142,12 +138,10 @@ bool verificar_colision_partes(const ControlesParte& c, Dialogo& dialogo)
     if (c.enTramite)
         return true;
     try {
+        const QString otra = c.operacion == Modo::modificar ? u" and SPIN_ID<>%1"_s.arg(c.id) : QString();
         const Recordset rs(
             cnRtn, u"select *, substr(mid(trim(str(SPIN_CUIT)),1,11),-8) as exp_cuit from SEL_TB_RTN_INS_PARTES "
-                   u" where (SEDJ_NRO='"_s
-                       + c.dj + u"' and SEDD_ID="_s + c.renglon + u") "_s
-                       + (c.operacion == Modo::modificar ? u" and SPIN_ID<>"_s + QString::number(c.id) : QString())
-                       + condicion_colision(c));
+                   u" where (SEDJ_NRO='%1' and SEDD_ID=%2) %3%4"_s.arg(c.dj, c.renglon, otra, condicion_colision(c)));
         return rs.eof() || dialogo.preguntar(pregunta_colision(c, rs));
     } catch (const ErrorAlmacen& e) {
         dialogo.avisar({e.descripcion, c.titulo, Icono::informacion});

@@ -8,13 +8,17 @@
 #include <QDate>
 #include <QString>
 
+/// State of a DJ.
+inline constexpr int DJ_NORMAL = 0;
+inline constexpr int DJ_SIN_MOVIMIENTOS = 1;
+
 struct CabeceraDJ
 {
     QString nro;
     int anio = 0;
     int mes = 0;
     int secuencia = 0;
-    int estado = 0;  ///< 0 "NORMAL", 1 "SIN MOVIMIENTOS"
+    int estado = DJ_NORMAL;
     QString observaciones;
     double totalRetenido = 0;
     QDate vencimiento;

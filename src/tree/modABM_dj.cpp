@@ -17,16 +17,6 @@ int proximo_id(const QString& consulta)
     return rs.eof() || rs.nulo(0) ? 1 : int(rs.entero(0)) + 1;
 }
 
-QString donde(const QString& dj)
-{
-    return u" where SEDJ_NRO='"_s + dj + u"'"_s;
-}
-
-QString donde(const QString& dj, int renglon)
-{
-    return donde(dj) + u" and SEDD_ID="_s + QString::number(renglon);
-}
-
 // Inserts; false after an error, which is told: the words of `duplicado` for a key that stands
 // already (when there are any), else the engine's.
 template <class T>
@@ -48,16 +38,16 @@ bool insertar(const char* tabla, std::span<const Columna<T>> columnas, const T& 
 
 bool alta_cabecera_dj(const CabeceraDJ& dj, Dialogo& dialogo)
 {
-    const QString existe = u"Ya existe la "_s
-                           + (dj.secuencia == 0 ? u" Original"_s : u" Rectificativa "_s + QString::number(dj.secuencia))
-                           + u" para la posicion "_s + con_ceros(dj.mes, 2) + u'/' + QString::number(dj.anio);
+    const QString cual = dj.secuencia == 0 ? u" Original"_s : u" Rectificativa %1"_s.arg(dj.secuencia);
+    const QString existe = u"Ya existe la %1 para la posicion %2/%3"_s.arg(cual, con_ceros(dj.mes, 2),
+                                                                           QString::number(dj.anio));
     return insertar("SEL_TB_RTN_CABDJ", columnas_cabecera(), dj, "Nueva DJ", dialogo, existe);
 }
 
 bool alta_detalle_dj(Escritura& e, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        e.id = proximo_id(u"select max(SEDD_ID) as MAX_SEDD_ID from SEL_TB_RTN_DETDJ "_s + donde(e.dj));
+        e.id = proximo_id(u"select max(SEDD_ID) as MAX_SEDD_ID from SEL_TB_RTN_DETDJ  where SEDJ_NRO='%1'"_s.arg(e.dj));
     if (e.id < 0) {
         dialogo.avisar({u"No se puede dar de alta el detalle de la DJ"_s, u"Detalle DJ"_s, Icono::informacion});
         return false;
@@ -70,16 +60,18 @@ bool alta_detalle_dj(Escritura& e, bool generar_id, Dialogo& dialogo)
 bool alta_inmueble(Inmueble& i, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        i.id = proximo_id(u"select max(SEII_ID) as MAX_SEII_ID  from SEL_TB_RTN_INS_INMUEBLES "_s
-                          + donde(i.dj, i.renglon) + u" group by SEDJ_NRO, SEDD_ID"_s);
+        i.id = proximo_id(
+            u"select max(SEII_ID) as MAX_SEII_ID  from SEL_TB_RTN_INS_INMUEBLES  where SEDJ_NRO='%1' and SEDD_ID=%2"
+            u" group by SEDJ_NRO, SEDD_ID"_s.arg(i.dj, QString::number(i.renglon)));
     return insertar("SEL_TB_RTN_INS_INMUEBLES", columnas_inmueble(), i, "Alta inmueble", dialogo);
 }
 
 bool alta_parte(Parte& p, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        p.id = proximo_id(u"select max(SPIN_ID) as MAX_SPIN_ID  from SEL_TB_RTN_INS_PARTES "_s + donde(p.dj, p.renglon)
-                          + u" group by SEDJ_NRO, SEDD_ID "_s);
+        p.id = proximo_id(
+            u"select max(SPIN_ID) as MAX_SPIN_ID  from SEL_TB_RTN_INS_PARTES  where SEDJ_NRO='%1' and SEDD_ID=%2"
+            u" group by SEDJ_NRO, SEDD_ID "_s.arg(p.dj, QString::number(p.renglon)));
     if (p.id < 0) {
         dialogo.avisar({u"No se pude guardar el participante"_s, u"Nuevo participante"_s, Icono::informacion});
         return false;
@@ -90,16 +82,17 @@ bool alta_parte(Parte& p, bool generar_id, Dialogo& dialogo)
 bool alta_operacion(Operacion& o, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        o.id = proximo_id(u"select max(SEDO_ID) as MAX_SEDO_ID from SEL_TB_RTN_INS_OPERACIONES "_s
-                          + donde(o.dj, o.renglon));
+        o.id = proximo_id(u"select max(SEDO_ID) as MAX_SEDO_ID from SEL_TB_RTN_INS_OPERACIONES "
+                          u" where SEDJ_NRO='%1' and SEDD_ID=%2"_s.arg(o.dj, QString::number(o.renglon)));
     return insertar("SEL_TB_RTN_INS_OPERACIONES", columnas_operacion(), o, "Nueva operación", dialogo);
 }
 
 bool alta_valor_contractual(ValorContractual& v, bool generar_id, Dialogo& dialogo)
 {
     if (generar_id)
-        v.id = proximo_id(u"select max(SVCI_ID) as MAX_SVCI_ID from SEL_TB_RTN_INS_VC "_s + donde(v.dj, v.renglon)
-                          + u" and SEDO_ID="_s + QString::number(v.operacion));
+        v.id = proximo_id(u"select max(SVCI_ID) as MAX_SVCI_ID from SEL_TB_RTN_INS_VC "
+                          u" where SEDJ_NRO='%1' and SEDD_ID=%2 and SEDO_ID=%3"_s.arg(v.dj, QString::number(v.renglon),
+                                                                                      QString::number(v.operacion)));
     return insertar("SEL_TB_RTN_INS_VC", columnas_valor(), v, "Nuevo valor contractual parcial", dialogo);
 }
 

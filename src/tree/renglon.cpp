@@ -21,6 +21,5 @@ QString consulta_partes_renglon(const RenglonDJ& r)
            u" from SEL_TB_RTN_INS_PARTES inner join GLB_TB_AFIP_TIPOS_DOC"
            u" on GLB_TB_AFIP_TIPOS_DOC.GTDC_ID = SEL_TB_RTN_INS_PARTES.GTDC_ID left join GLB_TB_AFIP_CODIGOS_PAIS"
            u" on GLB_TB_AFIP_CODIGOS_PAIS.CPAI_CODIGO = SEL_TB_RTN_INS_PARTES.CPAI_CODIGO"
-           u" where SEL_TB_RTN_INS_PARTES.SEDJ_NRO='"_s
-           + r.dj + u"' and SEL_TB_RTN_INS_PARTES.SEDD_ID="_s + r.renglon;
+           u" where SEL_TB_RTN_INS_PARTES.SEDJ_NRO='%1' and SEL_TB_RTN_INS_PARTES.SEDD_ID=%2"_s.arg(r.dj, r.renglon);
 }

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Caso{[](C&) {}, "", ""},
         Caso{[](C& c) { c.argentina = false; }, "optArgentina", "Indique la nacionalidad del contribuyente"},
-        Caso{[](C& c) { c.tipoSociedad = 0; }, "cboTipoSociedad", "Seleccione el tipo de sociedad"},
+        Caso{[](C& c) { c.tipoSociedad.reset(); }, "cboTipoSociedad", "Seleccione el tipo de sociedad"},
         Caso{[](C& c) {
                  c.tipoDoc.reset();
                  c.tipoDocTexto.clear();
@@ -100,8 +100,8 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{[](C& c) {
                  c.argentina = false;
                  c.extranjera = true;
-                 c.codigoPais = 1;
-                 c.tipoSociedad = 0;
+                 c.pais = 1;
+                 c.tipoSociedad.reset();
              },
              "cboTipoSociedad", "Ingrese el tipo de sociedad"},
         Caso{[](C& c) { c.razonSocial = "  "_u; }, "txtRazonSocial",
@@ -193,7 +193,7 @@ TEST_F(Parte2, LoQueSeGuardaPorTipo)
     c.pasaporte = "XY9"_u;
     c.argentina = false;
     c.extranjera = true;
-    c.codigoPaisTexto = "BRASIL - Física (50000000316)"_u;
+    c.paisTexto = "BRASIL - Física (50000000316)"_u;
     modificar_parte(c);
     EXPECT_EQ(filas(fila), "94|XY9|null|0|O'BRIEN|0.0|E|50000000316"_u);
     documento(c, "SIN IDENTIFICAR", 99, "5");

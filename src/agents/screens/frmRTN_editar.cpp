@@ -3,6 +3,7 @@
 #include "agents/screens/frmRTN_editar.h"
 
 #include "widgets/ctlComunes.h"
+#include "widgets/enlaces.h"
 #include "widgets/mensajes.h"
 #include "agents/agente.h"
 #include "ui_frmRTN_editar.h"
@@ -13,14 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Text controls and the fields that they show.
-struct Enlace
-{
-    const char* control;
-    QString Agente::*campo;
-};
-
-constexpr Enlace CAMPOS[] = {
+constexpr Enlace<Agente> CAMPOS[] = {
     {"txtTitular", &Agente::titular},
     {"txtCUIT", &Agente::cuit},
     {"txtDomicilio", &Agente::domicilio},
@@ -69,18 +63,16 @@ Agente frmRTN_editar::leer_controles() const
 {
     Agente a;
     a.nroRegNotarial = int(ui->nroRegNotarial->Value());
-    a.localidad = item_data(ui->cboLocalidad);
-    for (const Enlace& e : CAMPOS)
-        a.*e.campo = findChild<QLineEdit*>(QLatin1String(e.control))->text();
+    a.localidad = elegido(ui->cboLocalidad);
+    leer_textos(this, CAMPOS, a);
     return a;
 }
 
 void frmRTN_editar::mostrarAgente(const Agente& a)
 {
     ui->nroRegNotarial->setValue(a.nroRegNotarial);
-    seleccionar_item(ui->cboLocalidad, a.localidad);
-    for (const Enlace& e : CAMPOS)
-        findChild<QLineEdit*>(QLatin1String(e.control))->setText(a.*e.campo);
+    seleccionar_item(ui->cboLocalidad, a.localidad.value_or(-1));
+    mostrar_textos(this, CAMPOS, a);
 }
 
 void frmRTN_editar::aceptar()

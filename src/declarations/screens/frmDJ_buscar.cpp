@@ -91,13 +91,8 @@ bool frmDJ_buscar::aceptarMes()
 
 void frmDJ_buscar::cargar_agentes()
 {
-    Entradas leidas;
-    try {
-        leidas = leer_entradas(consulta_agentes(), "SRTN_TITULAR_NOMBRE", "SRTN_NRO");
-    } catch (const ErrorAlmacen&) {
-        avisar(u"Error al cargar los agentes de retención"_s, {}, Icono::ninguno);
-    }
-    llenar_combo(ui->cboRTN, con_sin_filtro(leidas));
+    DialogoPantalla dialogo(this);
+    llenar_combo(ui->cboRTN, con_sin_filtro(agentes_por_nombre(dialogo)));
     ui->cboRTN->setCurrentIndex(0);
 }
 

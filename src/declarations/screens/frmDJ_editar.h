@@ -2,9 +2,14 @@
 // One sworn return: header, deeds and slips.
 #pragma once
 
+#include "payment/boletas.h"
+#include "declarations/cabecera_dj.h"
 #include "widgets/formulario.h"
 
+#include <array>
 #include <memory>
+
+class QLineEdit;
 
 namespace Ui {
 class frmDJ_editar;
@@ -27,36 +32,44 @@ protected:
     void alDescargar() override;
 
 private:
-    void mostrarTotal(double total);
     void cerrarPosicion();
-    void devolverBoletas();
-    bool componer_nro_dj();
-    void calcular_vencimiento();
-    void actualizar_totales();
-    bool cargar_cabecera(const QString& nro);
-    void mostrarAgente(int nro);
-    void limpiar_agente();
-    void cargar_detalle();
-    void habilitar_tlbDetalle();
-    void marcar_sin_movimientos();
-    void aceptar();
     void estado_botones(bool aceptar, bool editar, bool general, bool detalle, bool boletas);
     void tlbDJ_pulsada(const QString& clave);
-    void tlbDetalle_pulsada(const QString& clave);
-    void abrirRenglon(Modo operacion);
-    [[nodiscard]] struct ControlesCabecera leer_controles() const;
-    [[nodiscard]] struct CabeceraDJ leer_cabecera() const;
+
+    void conectarCabecera();
+    [[nodiscard]] int estado() const;
+    bool componer_nro_dj();
+    void calcular_vencimiento();
     void salirDeAgente();
-    void conectar();
+    void cargar_agente_dj(int nro);
+    void mostrarAgente(const DatosAgenteDJ& agente);
+    bool cargar_cabecera(const QString& nro);
+    void marcar_sin_movimientos();
+    [[nodiscard]] ControlesCabecera leer_controles() const;
+    [[nodiscard]] CabeceraDJ leer_cabecera(const ControlesCabecera& c) const;
+    void aceptar();
+
+    void conectarRenglones();
+    void mostrarTotal(double total);
+    void actualizar_totales();
+    void cargar_detalle();
+    void habilitar_tlbDetalle();
+    void abrirRenglon(Modo operacion);
+    void tlbDetalle_pulsada(const QString& clave);
+
     void conectarBoletas();
+    void sumarDeposito();
+    void sumarBoleta();
+    void devolverBoletas();
     void cargar_boletas();
     void habilitar_botones_boleta();
+    [[nodiscard]] std::array<std::pair<QString*, QLineEdit*>, 4> textos_cheques(ControlesBoleta& c) const;
+    [[nodiscard]] ControlesBoleta leer_boleta_de_pantalla() const;
     void generar_boleta();
     void imprimir_boleta(const QString& nro);
     void tlbB_pulsada(const QString& clave);
-    [[nodiscard]] struct ControlesBoleta leer_boleta_de_pantalla() const;
 
     std::unique_ptr<Ui::frmDJ_editar> ui;
     QString nroInicial_;
-    int localidad_ = 0;
+    std::optional<int> localidad_;  ///< of the agent
 };

@@ -17,14 +17,21 @@ void frmDJ_editar::conectarBoletas()
     connect(ui->tlbB, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbB_pulsada);
     connect(ui->flxB, &Grilla::elegida, this, [this] { ui->tlbB->pulsar(u"imprimir"_s); });
     for (ctlNumero* n : {ui->nroImpuesto, ui->nroInteres})
-        connect(n, &ctlNumero::cambiado, this,
-                [this] { ui->nroBOL_Total_depositar->setValue(ui->nroImpuesto->Value() + ui->nroInteres->Value()); });
+        connect(n, &ctlNumero::cambiado, this, &frmDJ_editar::sumarDeposito);
     for (ctlNumero* n : {ui->nroEfectivo, ui->nroCheque1_monto, ui->nroCheque2_monto})
-        connect(n, &ctlNumero::cambiado, this, [this] {
-            ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value()
-                                         + ui->nroEfectivo->Value());
-        });
+        connect(n, &ctlNumero::cambiado, this, &frmDJ_editar::sumarBoleta);
     habilitar_botones_boleta();
+}
+
+void frmDJ_editar::sumarDeposito()
+{
+    ui->nroBOL_Total_depositar->setValue(ui->nroImpuesto->Value() + ui->nroInteres->Value());
+}
+
+void frmDJ_editar::sumarBoleta()
+{
+    ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value()
+                                 + ui->nroEfectivo->Value());
 }
 
 void frmDJ_editar::alDescargar()
@@ -50,6 +57,14 @@ void frmDJ_editar::habilitar_botones_boleta()
         ui->tlbB->habilitar(QLatin1String(clave), ui->flxB->filas() > 0);
 }
 
+std::array<std::pair<QString*, QLineEdit*>, 4> frmDJ_editar::textos_cheques(ControlesBoleta& c) const
+{
+    return {{{&c.cheques[0].nro, ui->txtCheque1_nro},
+             {&c.cheques[0].banco, ui->txtCheque1_banco},
+             {&c.cheques[1].nro, ui->txtCheque2_nro},
+             {&c.cheques[1].banco, ui->txtCheque2_banco}}};
+}
+
 ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
 {
     ControlesBoleta c;
@@ -57,8 +72,8 @@ ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
     c.agenteNro = ui->txtRTN_nro->text();
     c.agenteNombre = ui->cboRTN->currentText();
     c.anio = ui->txtAnio->text();
-    c.mes = item_data(ui->cboMes);
-    c.secuencia = item_data(ui->cboRectificativa);
+    c.mes = elegido(ui->cboMes).value_or(0);
+    c.secuencia = elegido(ui->cboRectificativa).value_or(0);
     c.emision = ui->dtpBOL_emision->date();
     c.vencimiento = ui->dtpBOL_venc->date();
     const std::pair<Numero*, ctlNumero*> numeros[] = {{&c.impuesto, ui->nroImpuesto},
@@ -70,10 +85,8 @@ ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
                                                       {&c.totalBoleta, ui->nroTotalBoleta}};
     for (const auto& [numero, campo] : numeros)
         numero->escribirTexto(campo->toString());
-    c.cheques[0].nro = ui->txtCheque1_nro->text();
-    c.cheques[0].banco = ui->txtCheque1_banco->text();
-    c.cheques[1].nro = ui->txtCheque2_nro->text();
-    c.cheques[1].banco = ui->txtCheque2_banco->text();
+    for (const auto& [texto, campo] : textos_cheques(c))
+        *texto = campo->text();
     c.filial = ui->txtFilialBanco->text();
     return c;
 }
@@ -84,14 +97,11 @@ void frmDJ_editar::generar_boleta()
 {
     ui->tlbB->setEnabled(false);
     puntero_de_espera();
-    ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value()
-                                 + ui->nroEfectivo->Value());
+    sumarBoleta();
     ControlesBoleta c = leer_boleta_de_pantalla();
     const auto falla = validar_boleta(c);
-    ui->txtCheque1_nro->setText(c.cheques[0].nro);
-    ui->txtCheque1_banco->setText(c.cheques[0].banco);
-    ui->txtCheque2_nro->setText(c.cheques[1].nro);
-    ui->txtCheque2_banco->setText(c.cheques[1].banco);
+    for (const auto& [texto, campo] : textos_cheques(c))
+        campo->setText(*texto);
     if (falla) {
         mostrarFalla(*falla);
         return;

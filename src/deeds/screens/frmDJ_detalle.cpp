@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// Setting the deed's screen up, and which of its parts are open to the user.
 
 #include "deeds/screens/frmDJ_detalle.h"
 
 #include "widgets/ctlComunes.h"
-#include "core/modGlobales.h"
-#include "core/modUtiles.h"
-#include "core/numero.h"
-#include "deeds/escritura.h"
-#include "deeds/hijos_escritura.h"
-#include "tree/modABM_dj.h"
-#include "widgets/mensajes.h"
 #include "ui_frmDJ_detalle.h"
-
-#include <QFileDialog>
 
 using namespace Qt::StringLiterals;
 
@@ -38,9 +30,7 @@ frmDJ_detalle::frmDJ_detalle() : ui(std::make_unique<Ui::frmDJ_detalle>())
     ui->nroDia->ClearText();
     llenar_combo(ui->cboDET_Estado, entradas_estado());
     ui->cboDET_Estado->setCurrentIndex(int(EstadoEscritura::paso));
-    llenar_combo(
-        ui->cboDesc_NoAlcanzado,
-        leer_entradas(u"select * from SEL_TB_NO_ALCANZADOS_DESC order by SNAD_ORDEN"_s, "SNAD_DESCRIPCION", "SNAD_ID"));
+    llenar_combo(ui->cboDesc_NoAlcanzado, motivos_no_alcanzado());
     ui->cboAlcanzado->setCurrentIndex(0);
     preparar_grilla(ui->flxPartes, {u"Id.Parte"_s, u"TipoDoc"_s, u"NroDoc"_s, u"Denominación"_s, u"Nacionalidad"_s},
                     {800, 1200, 1200, 4000, 3000});
@@ -107,30 +97,6 @@ void frmDJ_detalle::Inicializar(Modo operacion, const DatosDJ& dj, const QString
     habilitar_solapas(true);
 }
 
-void frmDJ_detalle::cargar_renglon()
-{
-    ui->nroTotalImpuesto->setValue(0);
-    const auto e = cargar_escritura(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text().toInt());
-    if (!e)
-        return;
-    ui->txtNroEscritura->setText(QString::number(e->nro));
-    ui->txtFolio->setText(QString::number(e->folio));
-    ui->nroDia->setValue(e->dia);
-    ui->txtObs->setText(e->observaciones);
-    for (int i = 0; i < ui->cboDET_Estado->count(); ++i)
-        if (letra_estado(i) == e->estado)
-            ui->cboDET_Estado->setCurrentIndex(i);
-    ui->cboAlcanzado->setCurrentIndex(e->alcanzado == u"S" ? 0 : 1);
-    if (e->motivo)
-        seleccionar_item(ui->cboDesc_NoAlcanzado, *e->motivo);
-    else
-        ui->cboDesc_NoAlcanzado->setCurrentIndex(-1);
-    ui->txtNoAlcanzado_Otro->setText(e->motivoOtro);
-    habilitarMotivo();
-    ui->txtTestimonio->setText(e->testimonio);
-    cargar_operaciones();
-}
-
 void frmDJ_detalle::alActivar()
 {
     if (ui->txtRenglonDJ->text().isEmpty())
@@ -166,154 +132,23 @@ void frmDJ_detalle::habilitar_botones_edicion(bool si)
     ui->tlbDetalle->habilitar(u"recibo"_s, !si && alcanzado() && ui->flxOp->filas() > 0);
 }
 
+void frmDJ_detalle::habilitar_tlb(BarraHerramientas* barra, const Grilla* grilla)
+{
+    for (const char* clave : {"quitar", "editar"})
+        barra->habilitar(QLatin1String(clave), grilla->filas() > 0 && alcanzado());
+}
+
+void frmDJ_detalle::habilitar_barras()
+{
+    habilitar_tlb(ui->tlbPartes, ui->flxPartes);
+    habilitar_tlb(ui->tlbInm, ui->flxInm);
+    habilitar_tlb(ui->tlbOp, ui->flxOp);
+}
+
 void frmDJ_detalle::enReposo()
 {
     habilitar_botones_edicion(false);
     ui->fraCab->setEnabled(false);
-}
-
-void frmDJ_detalle::habilitarMotivo()
-{
-    const bool no = !alcanzado();
-    ui->cboDesc_NoAlcanzado->setEnabled(no);
-    ui->txtNoAlcanzado_Otro->setEnabled(no && ui->cboDesc_NoAlcanzado->currentText().toUpper() == u"OTRO");
-}
-
-void frmDJ_detalle::cambioEstado()
-{
-    const bool paso = ui->cboDET_Estado->currentIndex() == int(EstadoEscritura::paso);
-    if (!paso)
-        ui->txtTestimonio->clear();
-    ui->txtTestimonio->setEnabled(paso);
-    ui->cmdExaminar->setEnabled(paso);
-}
-
-void frmDJ_detalle::cambioAlcance()
-{
-    if (!alcanzado() && hayHijos()) {
-        const bool si = preguntar(
-            u"La acción de marcar una escritura como NO ALCANZADA borrará las operaciones, partes e inmuebles asociados a la misma.\n"
-            u"Esto se debe a que el sistema solo contiene las operaciones alcanzadas.\n"
-            u"Una escritura No Alcanzada no puede contener operaciones asociadas.\n\n"
-            u"¿Esta seguro de continuar con la acción?"_s,
-            windowTitle() + u" - Escritura No Alcanzada"_s);
-        if (si)
-            borrar_hijos_escritura();
-        else
-            ui->cboAlcanzado->setCurrentIndex(0);
-    }
-    habilitarMotivo();
-    cambioEstado();
-    habilitar_solapas(!ui->txtRenglonDJ->text().isEmpty());
-    habilitar_tlb(ui->tlbPartes, ui->flxPartes);
-    habilitar_tlb(ui->tlbInm, ui->flxInm);
-    habilitar_tlb(ui->tlbOp, ui->flxOp);
-}
-
-void frmDJ_detalle::examinar()
-{
-    QString filtro = u"Archivos PDF (*.pdf)"_s;
-    const QString archivo = QFileDialog::getOpenFileName(
-        this, u"Testimonio"_s, ui->txtTestimonio->text(),
-        u"Documentos de Word (*.doc);;Archivos de texto enriquecido (*.rtf);;Archivos PDF (*.pdf)"_s, &filtro);
-    if (archivo.isEmpty())
-        return;
-    ui->txtTestimonio->setText(archivo);
-    ui->txtTestimonio->end(false);
-}
-
-ControlesEscritura frmDJ_detalle::leer_controles() const
-{
-    ControlesEscritura c;
-    c.operacion = Operacion;
-    c.titulo = windowTitle();
-    c.dj = ui->txtDJ_nro->text();
-    c.renglon = ui->txtRenglonDJ->text();
-    c.anio = ui->txtPosicion->text().left(4).toInt();
-    c.mes = ui->txtPosicion->text().mid(5).toInt();
-    c.nro = ui->txtNroEscritura->text();
-    c.folio = ui->txtFolio->text();
-    c.dia.escribirTexto(ui->nroDia->toString());
-    c.estado = ui->cboDET_Estado->currentIndex();
-    c.alcanzado = ui->cboAlcanzado->currentIndex();
-    c.motivo = item_data(ui->cboDesc_NoAlcanzado);
-    c.motivoTexto = ui->cboDesc_NoAlcanzado->currentText();
-    c.motivoOtro = ui->txtNoAlcanzado_Otro->text();
-    c.motivoOtroActivo = ui->txtNoAlcanzado_Otro->isEnabled();
-    c.testimonio = ui->txtTestimonio->text();
-    c.observaciones = ui->txtObs->text();
-    c.totalImpuesto.escribirTexto(ui->nroTotalImpuesto->toString());
-    return c;
-}
-
-void frmDJ_detalle::aceptar()
-{
-    DialogoPantalla dialogo(this);
-    ControlesEscritura c = leer_controles();
-    const ResultadoEscritura r = validar_escritura(c, dialogo);
-    ui->txtNroEscritura->setText(c.nro);
-    ui->txtFolio->setText(c.folio);
-    ui->txtObs->setText(c.observaciones);
-    ui->txtNoAlcanzado_Otro->setText(c.motivoOtro);
-    ui->txtTestimonio->setText(c.testimonio);
-    ui->cboDET_Estado->setCurrentIndex(c.estado);
-    enfocar(r.foco);
-    if (!r.vale)
-        return;
-    if (Operacion == Modo::nuevo)
-        agregar_renglon(c);
-    else
-        modificar_renglon(c);
-}
-
-void frmDJ_detalle::agregar_renglon(const ControlesEscritura& c)
-{
-    DialogoPantalla dialogo(this);
-    Escritura e = escritura_nueva(c);
-    if (!alta_detalle_dj(e, true, dialogo))
-        return;
-    ui->txtRenglonDJ->setText(QString::number(e.id));
-    Operacion = Modo::modificar;
-    enReposo();
-    habilitar_solapas(c.estado == int(EstadoEscritura::paso));
-    habilitar_tlb(ui->tlbPartes, ui->flxPartes);
-    habilitar_tlb(ui->tlbInm, ui->flxInm);
-    habilitar_tlb(ui->tlbOp, ui->flxOp);
-}
-
-bool frmDJ_detalle::modificar_renglon(const ControlesEscritura& c)
-{
-    Transaccion t(cnRtn);
-    const int filas = actualizar_escritura(c);
-    if (c.anulada())
-        borrar_hijos_escritura();
-    if (filas == 0) {
-        avisar(u"No se pudo modificar el renglón"_s, windowTitle());
-    } else {
-        habilitar_solapas(true);
-        enReposo();
-    }
-    const bool paso = !c.anulada() && alcanzado();
-    habilitarMarcos(paso);
-    t.confirmar();
-    return filas != 0;
-}
-
-void frmDJ_detalle::anular_desanular_escritura(const QString& accion, const QString& estado)
-{
-    const bool desanular = accion == u"DESANULAR";
-    Transaccion t(cnRtn);
-    if (accion == u"ANULAR") {
-        anular_escritura(renglon(), estado);
-        borrar_hijos_escritura();
-        ui->txtTestimonio->clear();
-    } else if (desanular) {
-        desanular_escritura(renglon(), ui->nroTotalImpuesto->toSQL());
-    }
-    habilitar_solapas(true);
-    enReposo();
-    habilitarMarcos(desanular);
-    t.confirmar();
 }
 
 void frmDJ_detalle::tlbDetalle_pulsada(const QString& clave)
@@ -350,7 +185,7 @@ bool frmDJ_detalle::consultarDescarga()
     const QString falta = (sin_operacion ? u"la operacion del instrumento"_s : QString())
                           + (sin_operacion && sin_testimonio ? u" y "_s : QString())
                           + (sin_testimonio ? u"el archivo del testimonio"_s : QString());
-    if (!preguntar(u"La escritura está incompleta, falta ingresar "_s + falta + u"\n¿Desea completarla mas tarde?"_s,
+    if (!preguntar(u"La escritura está incompleta, falta ingresar %1\n¿Desea completarla mas tarde?"_s.arg(falta),
                    u"Escritura incompleta"_s))
         return false;
     if (ui->flxPartes->filas() == 0 || ui->flxInm->filas() == 0)

@@ -16,66 +16,52 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 // A failed read is told, and the grid stays with what it took until then.
-template <class F>
-void leer_en(Grilla* grilla, F leer, const std::function<void(const QString&)>& contar)
+void frmDJ_detalle::cargar_lista(BarraHerramientas* barra, Grilla* grilla, const char* que,
+                                 const std::function<void(const AgregarFila&)>& leer)
 {
     try {
         grilla->llenar([&] { leer([grilla](const QStringList& fila) { grilla->agregar(fila); }); });
     } catch (const ErrorAlmacen& e) {
-        contar(e.descripcion);
+        avisar(e.descripcion, u"%1 - Buscar %2"_s.arg(windowTitle(), QLatin1StringView(que)));
     }
+    habilitar_tlb(barra, grilla);
 }
-
-}  // namespace
 
 void frmDJ_detalle::cargar_partes()
 {
-    leer_en(
-        ui->flxPartes, [this](const AgregarFila& fila) { leer_partes(renglon(), fila); },
-        [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar partes"_s); });
-    habilitar_tlb(ui->tlbPartes, ui->flxPartes);
+    cargar_lista(ui->tlbPartes, ui->flxPartes, "partes",
+                 [this](const AgregarFila& fila) { leer_partes(renglon(), fila); });
 }
 
 void frmDJ_detalle::cargar_inmuebles()
 {
-    leer_en(
-        ui->flxInm, [this](const AgregarFila& fila) { leer_inmuebles(renglon(), fila); },
-        [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar inmuebles"_s); });
-    habilitar_tlb(ui->tlbInm, ui->flxInm);
+    cargar_lista(ui->tlbInm, ui->flxInm, "inmuebles",
+                 [this](const AgregarFila& fila) { leer_inmuebles(renglon(), fila); });
 }
 
 void frmDJ_detalle::cargar_operaciones()
 {
     ui->nroTotalImpuesto->setValue(0);
-    leer_en(
-        ui->flxOp,
-        [this](const AgregarFila& fila) { ui->nroTotalImpuesto->setValue(leer_operaciones(renglon(), fila)); },
-        [this](const QString& error) { avisar(error, windowTitle() + u" - Buscar operaciones"_s); });
-    habilitar_tlb(ui->tlbOp, ui->flxOp);
-}
-
-void frmDJ_detalle::habilitar_tlb(BarraHerramientas* barra, Grilla* grilla)
-{
-    for (const char* clave : {"quitar", "editar"})
-        barra->habilitar(QLatin1String(clave), grilla->filas() > 0 && alcanzado());
+    cargar_lista(ui->tlbOp, ui->flxOp, "operaciones", [this](const AgregarFila& fila) {
+        ui->nroTotalImpuesto->setValue(leer_operaciones(renglon(), fila));
+    });
 }
 
 void frmDJ_detalle::borrar_hijos_escritura()
 {
+    const auto borrar_cada_una = [](const Grilla* grilla, const auto& borrar) {
+        for (int i = 0; i < grilla->filas(); ++i)
+            borrar(grilla->celda(i, 0));
+    };
     DialogoPantalla dialogo(this);
     // The shown total stays the same through the loop: each operation takes all of it off.
     const QString total = ui->nroTotalImpuesto->toSQL();
-    for (int i = 0; i < ui->flxOp->filas(); ++i)
-        borrar_operacion(renglon(), ui->flxOp->celda(i, 0), total, dialogo);
+    borrar_cada_una(ui->flxOp, [&](const QString& id) { borrar_operacion(renglon(), id, total, dialogo); });
     cargar_operaciones();
-    for (int i = 0; i < ui->flxPartes->filas(); ++i)
-        borrar_parte(renglon(), ui->flxPartes->celda(i, 0));
+    borrar_cada_una(ui->flxPartes, [this](const QString& id) { borrar_parte(renglon(), id); });
     cargar_partes();
-    for (int i = 0; i < ui->flxInm->filas(); ++i)
-        borrar_inmueble(renglon(), ui->flxInm->celda(i, 0));
+    borrar_cada_una(ui->flxInm, [this](const QString& id) { borrar_inmueble(renglon(), id); });
     cargar_inmuebles();
 }
 
@@ -113,20 +99,23 @@ void frmDJ_detalle::emitir_recibo()
     abrir(reporte);
 }
 
+template <class Hijo>
+void frmDJ_detalle::abrirHijo(Modo operacion, const Grilla* grilla)
+{
+    auto* hijo = cargar<Hijo>();
+    hijo->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());
+    hijo->Inicializar(operacion, operacion == Modo::nuevo ? 0 : grilla->clave().toInt());
+    abrir(hijo);
+}
+
 void frmDJ_detalle::abrirParte(Modo operacion)
 {
-    auto* hijo = cargar<frmDJ_detalle_parte>();
-    hijo->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());
-    hijo->Inicializar(operacion, operacion == Modo::nuevo ? 0 : ui->flxPartes->clave().toInt());
-    abrir(hijo);
+    abrirHijo<frmDJ_detalle_parte>(operacion, ui->flxPartes);
 }
 
 void frmDJ_detalle::abrirInmueble(Modo operacion)
 {
-    auto* hijo = cargar<frmDJ_editar_inmueble>();
-    hijo->fijarRenglon(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text());
-    hijo->Inicializar(operacion, operacion == Modo::nuevo ? 0 : ui->flxInm->clave().toInt());
-    abrir(hijo);
+    abrirHijo<frmDJ_editar_inmueble>(operacion, ui->flxInm);
 }
 
 void frmDJ_detalle::abrirOperacion(Modo operacion)
@@ -145,45 +134,46 @@ void frmDJ_detalle::mostrarTotales(double renglon, double dj)
     emit totalDJ(dj);
 }
 
-void frmDJ_detalle::tlbPartes_pulsada(const QString& clave)
+void frmDJ_detalle::atender_lista(const QString& clave, const Grilla* grilla, void (frmDJ_detalle::*abrirUna)(Modo),
+                                  const Mensaje& pregunta, const std::function<void(const QString&)>& borrar)
 {
     if (clave == u"agregar")
-        abrirParte(Modo::nuevo);
-    else if (ui->flxPartes->filaActual() < 0)
+        (this->*abrirUna)(Modo::nuevo);
+    else if (grilla->filaActual() < 0)
         return;
     else if (clave == u"editar")
-        abrirParte(Modo::modificar);
-    else if (preguntar(u"¿Está seguro que desea quitar la parte seleccionada?"_s, u"Quitar parte"_s)) {
-        borrar_parte(renglon(), ui->flxPartes->clave());
-        cargar_partes();
-    }
+        (this->*abrirUna)(Modo::modificar);
+    else if (preguntar(pregunta.texto, pregunta.titulo))
+        borrar(grilla->clave());
+}
+
+void frmDJ_detalle::tlbPartes_pulsada(const QString& clave)
+{
+    atender_lista(clave, ui->flxPartes, &frmDJ_detalle::abrirParte,
+                  {u"¿Está seguro que desea quitar la parte seleccionada?"_s, u"Quitar parte"_s},
+                  [this](const QString& id) {
+                      borrar_parte(renglon(), id);
+                      cargar_partes();
+                  });
 }
 
 void frmDJ_detalle::tlbInm_pulsada(const QString& clave)
 {
-    if (clave == u"agregar")
-        abrirInmueble(Modo::nuevo);
-    else if (ui->flxInm->filaActual() < 0)
-        return;
-    else if (clave == u"editar")
-        abrirInmueble(Modo::modificar);
-    else if (preguntar(u"¿Esta seguro de borrar el inmueble seleccionado?"_s, u"Borrar inmueble"_s)) {
-        borrar_inmueble(renglon(), ui->flxInm->clave());
-        cargar_inmuebles();
-    }
+    atender_lista(clave, ui->flxInm, &frmDJ_detalle::abrirInmueble,
+                  {u"¿Esta seguro de borrar el inmueble seleccionado?"_s, u"Borrar inmueble"_s},
+                  [this](const QString& id) {
+                      borrar_inmueble(renglon(), id);
+                      cargar_inmuebles();
+                  });
 }
 
 void frmDJ_detalle::tlbOp_pulsada(const QString& clave)
 {
-    if (clave == u"agregar")
-        abrirOperacion(Modo::nuevo);
-    else if (ui->flxOp->filaActual() < 0)
-        return;
-    else if (clave == u"editar")
-        abrirOperacion(Modo::modificar);
-    else if (preguntar(u"¿Está seguro que desea borrar la operación seleccionada?"_s, u"Borrar operación"_s)) {
-        DialogoPantalla dialogo(this);
-        borrar_operacion(renglon(), ui->flxOp->clave(), ui->nroTotalImpuesto->toSQL(), dialogo);
-        cargar_operaciones();
-    }
+    atender_lista(clave, ui->flxOp, &frmDJ_detalle::abrirOperacion,
+                  {u"¿Está seguro que desea borrar la operación seleccionada?"_s, u"Borrar operación"_s},
+                  [this](const QString& id) {
+                      DialogoPantalla dialogo(this);
+                      borrar_operacion(renglon(), id, ui->nroTotalImpuesto->toSQL(), dialogo);
+                      cargar_operaciones();
+                  });
 }

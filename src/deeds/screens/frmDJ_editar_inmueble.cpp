@@ -3,6 +3,7 @@
 #include "deeds/screens/frmDJ_editar_inmueble.h"
 
 #include "widgets/ctlComunes.h"
+#include "widgets/enlaces.h"
 #include "widgets/mensajes.h"
 #include "deeds/inmueble.h"
 #include "tree/modABM_dj.h"
@@ -12,13 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Enlace
-{
-    const char* control;
-    QString Inmueble::*campo;
-};
-
-constexpr Enlace CAMPOS[] = {
+constexpr Enlace<Inmueble> CAMPOS[] = {
     {"txtINM_partida", &Inmueble::partida},
     {"txtINMObs", &Inmueble::observaciones},
     {"txtU_Lote", &Inmueble::lote},
@@ -53,8 +48,7 @@ frmDJ_editar_inmueble::frmDJ_editar_inmueble() : ui(std::make_unique<Ui::frmDJ_e
 {
     ui->setupUi(this);
     solo_digitos_en(ui->txtINM_partida);
-    llenar_combo(ui->cboU_caracter, leer_entradas(u"select * from GLB_TB_TIPOS_UBICACION order by GTUB_ID"_s,
-                                                  "GTUB_DESCRIPCION", "GTUB_ID"));
+    llenar_combo(ui->cboU_caracter, caracteres_ubicacion());
     llenar_combo(ui->cboProv, provincias());
     for (QComboBox* combo : {ui->cboProv, ui->cboLoc})
         combo_con_texto(combo);
@@ -91,7 +85,7 @@ void frmDJ_editar_inmueble::Inicializar(Modo operacion, int id)
 
 void frmDJ_editar_inmueble::cargar_localidades()
 {
-    llenar_combo(ui->cboLoc, localidades(item_data(ui->cboProv)));
+    llenar_combo(ui->cboLoc, localidades(elegido(ui->cboProv)));
 }
 
 // A property of the home jurisdiction is always in the home province.
@@ -116,17 +110,14 @@ Inmueble frmDJ_editar_inmueble::leer_controles() const
     i.valFiscal = ui->nroValFiscal->Value();
     i.ciudad = ui->cboLoc->currentText();
     i.provincia = ui->cboProv->currentText();
-    if (ui->cboU_caracter->currentIndex() >= 0)
-        i.caracter = item_data(ui->cboU_caracter);
-    for (const Enlace& e : CAMPOS)
-        i.*e.campo = findChild<QLineEdit*>(QString::fromUtf8(e.control))->text();
+    i.caracter = elegido(ui->cboU_caracter);
+    leer_textos(this, CAMPOS, i);
     return i;
 }
 
 void frmDJ_editar_inmueble::mostrarInmueble(const Inmueble& i)
 {
-    for (const Enlace& e : CAMPOS)
-        findChild<QLineEdit*>(QString::fromUtf8(e.control))->setText(i.*e.campo);
+    mostrar_textos(this, CAMPOS, i);
     ui->nroValFiscal->setValue(i.valFiscal);
     seleccionar_item(ui->cboU_caracter, i.caracter.value_or(-1));
     seleccionar_texto(ui->cboProv, i.provincia);

@@ -5,6 +5,7 @@
 #include "widgets/ctlComunes.h"
 #include "widgets/mensajes.h"
 #include "parties/buscar_parte.h"
+#include "parties/listas_parte.h"
 #include "ui_frmDJ_buscar_parte.h"
 
 using namespace Qt::StringLiterals;
@@ -25,12 +26,8 @@ frmDJ_buscar_parte::frmDJ_buscar_parte() : ui(std::make_unique<Ui::frmDJ_buscar_
     preparar_grilla(ui->flx, {u"tipodoc_id"_s, u"Tipo Doc"_s, u"Nro Doc"_s, u"Razon Social"_s},
                     {1000, 1000, 1500, 2500});
     ui->flx->setColumnHidden(0, true);
-    llenar_filtro(ui->cboTipoSociedad, leer_entradas(u"select GTSO_ID, GTSO_DESCRIPCION from GLB_TB_TIPOS_SOCIEDAD "
-                                                     u" order by GTSO_DESCRIPCION collate ESPANOL"_s,
-                                                     "GTSO_DESCRIPCION", "GTSO_ID"));
-    llenar_filtro(ui->cboTipoDoc,
-                  leer_entradas(u"select GTDC_ID, GTDC_DESCRIPCION from GLB_TB_AFIP_TIPOS_DOC order by GTDC_FREC_USO"_s,
-                                "GTDC_DESCRIPCION", "GTDC_ID"));
+    llenar_filtro(ui->cboTipoSociedad, tipos_sociedad());
+    llenar_filtro(ui->cboTipoDoc, tipos_documento());
     habilitarTextos();
     for (QLineEdit* texto : {ui->txtRazonSocial, ui->txtNroDoc}) {
         a_mayusculas(texto);
@@ -69,10 +66,10 @@ void frmDJ_buscar_parte::buscar_partes(bool limpiar)
         ui->flx->vaciar();
     FiltroPartes filtro{.dj = dj_,
                         .renglon = renglon_,
-                        .tipoSociedad = item_data(ui->cboTipoSociedad),
+                        .tipoSociedad = filtro_elegido(ui->cboTipoSociedad),
                         .criterio = Criterio(ui->cboCriterioRazonSocial->currentIndex()),
                         .razonSocial = ui->txtRazonSocial->text(),
-                        .tipoDoc = item_data(ui->cboTipoDoc),
+                        .tipoDoc = filtro_elegido(ui->cboTipoDoc),
                         .tipoDocTexto = ui->cboTipoDoc->currentText(),
                         .nroDoc = ui->txtNroDoc->text()};
     DialogoPantalla dialogo(this);
@@ -80,7 +77,7 @@ void frmDJ_buscar_parte::buscar_partes(bool limpiar)
     ui->txtRazonSocial->setText(filtro.razonSocial);
     ui->flx->llenar(
         [&] { leer_partes_halladas(sql, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
-    ui->lblEncontrados->setText(u"Registros encontrados: "_s + QString::number(ui->flx->filas()));
+    ui->lblEncontrados->setText(u"Registros encontrados: %1"_s.arg(ui->flx->filas()));
 }
 
 // The party is not stored here: the screen that takes it still checks it.

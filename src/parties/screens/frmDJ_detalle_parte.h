@@ -36,6 +36,7 @@ private:
     void aceptar();
     void mostrarCampoNumero();
     void habilitarEnTramite();
+    void prepararDocumento();
     void clicTipoDoc();
     void clicTipoSociedad();
     void clicPais();
@@ -43,6 +44,8 @@ private:
     void salirDeNumero();
     void cargar_localidades();
     void conectar();
+    void conectarReacciones();
+    [[nodiscard]] QString tipoDoc() const;
     [[nodiscard]] struct ControlesParte leer_controles() const;
 
     std::unique_ptr<Ui::frmDJ_detalle_parte> ui;
