@@ -4,12 +4,12 @@
 #include "almacen_grande.h"
 #include "medir.h"
 
-#include "catalogue/screens/frmSubconceptos.h"
 #include "catalogue/lista_subconceptos.h"
-#include "widgets/formulario.h"
-#include "widgets/grilla.h"
+#include "catalogue/screens/frmSubconceptos.h"
 #include "parties/buscar_parte.h"
 #include "parties/screens/frmDJ_buscar_parte.h"
+#include "widgets/formulario.h"
+#include "widgets/grilla.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -6,18 +6,18 @@
 #include "computation/calculo.h"
 #include "core/modGlobales.h"
 #include "declarations/copiar_dj.h"
-#include "tree/modABM_dj.h"
 #include "filing/archivo_dj.h"
 #include "filing/lector_dj.h"
 #include "filing/registros.h"
+#include "tree/modABM_dj.h"
 
 #include <rar5.h>
 #include <sqlcipher/sqlite3.h>
 #include <zlib.h>
 
 #include <QCryptographicHash>
-#include <QTemporaryDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <fstream>

@@ -5,14 +5,14 @@
 
 #include "application/screens/MDIPrincipal.h"
 #include "core/arranque.h"
+#include "core/modGlobales.h"
+#include "declarations/lista_dj.h"
+#include "declarations/renglones.h"
+#include "declarations/screens/frmDJ_buscar.h"
+#include "declarations/screens/frmDJ_editar.h"
 #include "widgets/ctlNumero.h"
 #include "widgets/formulario.h"
 #include "widgets/grilla.h"
-#include "core/modGlobales.h"
-#include "declarations/screens/frmDJ_buscar.h"
-#include "declarations/screens/frmDJ_editar.h"
-#include "declarations/lista_dj.h"
-#include "declarations/renglones.h"
 
 #include <QApplication>
 #include <QKeyEvent>

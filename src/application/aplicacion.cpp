@@ -2,9 +2,9 @@
 
 #include "application/aplicacion.h"
 
+#include "core/modGlobales.h"
 #include "widgets/barra.h"
 #include "widgets/mensajes.h"
-#include "core/modGlobales.h"
 
 #include <QIcon>
 #include <QLibraryInfo>

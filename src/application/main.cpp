@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "application/screens/MDIPrincipal.h"
 #include "application/aplicacion.h"
+#include "application/screens/MDIPrincipal.h"
 
 #include <cstdlib>
 

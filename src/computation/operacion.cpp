@@ -2,8 +2,8 @@
 
 #include "computation/operacion.h"
 
-#include "core/asignaciones.h"
 #include "computation/obligacion.h"
+#include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/numero.h"

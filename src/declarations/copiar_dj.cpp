@@ -3,8 +3,8 @@
 #include "declarations/copiar_dj.h"
 
 #include "core/modGlobales.h"
-#include "tree/modABM_dj.h"
 #include "declarations/numero_dj.h"
+#include "tree/modABM_dj.h"
 
 using namespace Qt::StringLiterals;
 

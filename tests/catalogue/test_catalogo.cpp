@@ -4,8 +4,8 @@
 #include "apoyo/apoyo.h"
 #include "catalogue/lista_subconceptos.h"
 #include "catalogue/rangos.h"
-#include "catalogue/roles_catalogo.h"
 #include "catalogue/reglas_subconcepto.h"
+#include "catalogue/roles_catalogo.h"
 
 #include <QRegularExpression>
 

@@ -9,8 +9,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTableView>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 
 namespace {

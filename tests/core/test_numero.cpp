@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "apoyo/apoyo.h"
-#include "widgets/ctlNumero.h"
 #include "core/numero.h"
+#include "widgets/ctlNumero.h"
 
 #include <QLineEdit>
 #include <QTest>

@@ -4,8 +4,8 @@
 #include "core/modGlobales.h"
 #include "declarations/copiar_dj.h"
 #include "declarations/lista_dj.h"
-#include "tree/modABM_dj.h"
 #include "declarations/renglones.h"
+#include "tree/modABM_dj.h"
 
 #include <QCoreApplication>
 

@@ -3,9 +3,9 @@
 // SEMILLA sets the course.
 
 #include "apoyo/ventanas.h"
+#include "manejo/manejo.h"
 #include "widgets/ctlCombo.h"
 #include "widgets/grilla.h"
-#include "manejo/manejo.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // recorrido [--carpeta CARPETA]: drives the real windows through one month on the sample store.
 
-#include "constructor.h"
-#include "application/screens/MDIPrincipal.h"
 #include "application/aplicacion.h"
+#include "application/screens/MDIPrincipal.h"
+#include "constructor.h"
 #include "core/modGlobales.h"
 #include "core/reloj.h"
 #include "manejo/manejo.h"

@@ -2,9 +2,9 @@
 
 #include "recorrido/pasos_catalogo.h"
 
-#include "widgets/formulario.h"
 #include "manejo/manejo.h"
 #include "recorrido/guia.h"
+#include "widgets/formulario.h"
 
 #include <QApplication>
 

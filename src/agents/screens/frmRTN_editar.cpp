@@ -2,11 +2,11 @@
 
 #include "agents/screens/frmRTN_editar.h"
 
+#include "agents/agente.h"
+#include "ui_frmRTN_editar.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/enlaces.h"
 #include "widgets/mensajes.h"
-#include "agents/agente.h"
-#include "ui_frmRTN_editar.h"
 
 #include <QRegularExpressionValidator>
 

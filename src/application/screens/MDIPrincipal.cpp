@@ -2,16 +2,16 @@
 
 #include "application/screens/MDIPrincipal.h"
 
-#include "catalogue/screens/frmSubconceptos.h"
-#include "core/arranque.h"
-#include "widgets/formulario.h"
+#include "agents/screens/frmRTN_buscar.h"
 #include "application/screens/frmAcercaDe.h"
 #include "application/screens/frmBackup.h"
-#include "widgets/mensajes.h"
+#include "catalogue/screens/frmSubconceptos.h"
+#include "core/arranque.h"
 #include "core/modGlobales.h"
 #include "declarations/screens/frmDJ_buscar.h"
-#include "agents/screens/frmRTN_buscar.h"
 #include "ui_MDIPrincipal.h"
+#include "widgets/formulario.h"
+#include "widgets/mensajes.h"
 
 #include <QCloseEvent>
 #include <QDir>

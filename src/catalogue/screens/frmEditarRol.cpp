@@ -5,8 +5,8 @@
 #include "catalogue/roles_catalogo.h"
 #include "core/almacen.h"
 #include "core/motivos.h"
-#include "widgets/ctlComunes.h"
 #include "ui_frmEditarRol.h"
+#include "widgets/ctlComunes.h"
 
 using namespace Qt::StringLiterals;
 

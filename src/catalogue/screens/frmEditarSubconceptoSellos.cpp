@@ -4,9 +4,9 @@
 
 #include "catalogue/screens/control_subconcepto.h"
 #include "catalogue/tipos_calculo.h"
-#include "widgets/ctlComunes.h"
 #include "core/motivos.h"
 #include "ui_frmEditarSubconceptoSellos.h"
+#include "widgets/ctlComunes.h"
 
 using namespace Qt::StringLiterals;
 

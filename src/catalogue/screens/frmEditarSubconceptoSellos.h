@@ -3,9 +3,9 @@
 // its roles.
 #pragma once
 
-#include "catalogue/subconcepto_memoria.h"
-#include "catalogue/screens/frmTiposCalculoBI.h"
 #include "catalogue/reglas_subconcepto.h"
+#include "catalogue/screens/frmTiposCalculoBI.h"
+#include "catalogue/subconcepto_memoria.h"
 #include "widgets/ctlCombo.h"
 
 namespace Ui {

@@ -4,8 +4,8 @@
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
 
 #include "catalogue/screens/control_subconcepto.h"
-#include "widgets/ctlComunes.h"
 #include "ui_frmEditarSubconceptoSellos.h"
+#include "widgets/ctlComunes.h"
 
 #include <QScopedValueRollback>
 

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tabs of brackets and roles.
 
+#include "catalogue/roles_catalogo.h"
 #include "catalogue/screens/frmEditarAlicuota.h"
 #include "catalogue/screens/frmEditarModulo.h"
 #include "catalogue/screens/frmEditarRol.h"
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
-#include "catalogue/roles_catalogo.h"
 #include "core/almacen.h"
 #include "core/clsLocaleInfo.h"
-#include "core/numero.h"
 #include "core/motivos.h"
+#include "core/numero.h"
 #include "ui_frmEditarSubconceptoSellos.h"
 
 using namespace Qt::StringLiterals;

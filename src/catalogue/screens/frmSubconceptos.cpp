@@ -2,11 +2,11 @@
 
 #include "catalogue/screens/frmSubconceptos.h"
 
-#include "catalogue/screens/frmEditarSubconceptoSellos.h"
 #include "catalogue/lista_subconceptos.h"
-#include "widgets/ctlComunes.h"
+#include "catalogue/screens/frmEditarSubconceptoSellos.h"
 #include "core/modGlobales.h"
 #include "ui_frmSubconceptos.h"
+#include "widgets/ctlComunes.h"
 
 #include <QHeaderView>
 

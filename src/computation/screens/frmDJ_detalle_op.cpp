@@ -2,13 +2,13 @@
 
 #include "computation/screens/frmDJ_detalle_op.h"
 
-#include "computation/screens/frmDetalleSSUB.h"
 #include "computation/ley.h"
 #include "computation/moneda.h"
 #include "computation/operacion.h"
+#include "computation/screens/frmDetalleSSUB.h"
+#include "ui_frmDJ_detalle_op.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/mensajes.h"
-#include "ui_frmDJ_detalle_op.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,8 @@
 // One taxable operation of a deed: its item, the data of its base, the tax, the parties' roles.
 #pragma once
 
-#include "catalogue/subconcepto_memoria.h"
 #include "catalogue/screens/frmSubconceptos.h"
+#include "catalogue/subconcepto_memoria.h"
 #include "computation/calculo.h"
 #include "widgets/editor_celda.h"
 #include "widgets/formulario.h"

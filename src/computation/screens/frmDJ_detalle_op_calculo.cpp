@@ -5,9 +5,9 @@
 
 #include "computation/obligacion.h"
 #include "computation/roles_operacion.h"
+#include "ui_frmDJ_detalle_op.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/mensajes.h"
-#include "ui_frmDJ_detalle_op.h"
 
 using namespace Qt::StringLiterals;
 

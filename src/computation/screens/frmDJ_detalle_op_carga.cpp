@@ -4,9 +4,9 @@
 #include "computation/screens/frmDJ_detalle_op.h"
 
 #include "computation/inmuebles_operacion.h"
-#include "widgets/ctlComunes.h"
 #include "core/numero.h"
 #include "ui_frmDJ_detalle_op.h"
+#include "widgets/ctlComunes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,10 +5,10 @@
 
 #include "computation/inmuebles_operacion.h"
 #include "computation/roles_operacion.h"
-#include "widgets/ctlComunes.h"
-#include "widgets/mensajes.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_detalle_op.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

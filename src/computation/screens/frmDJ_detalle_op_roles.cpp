@@ -4,8 +4,8 @@
 #include "computation/screens/frmDJ_detalle_op.h"
 
 #include "computation/roles_operacion.h"
-#include "parties/screens/frmDJ_detalle_parte.h"
 #include "core/numero.h"
+#include "parties/screens/frmDJ_detalle_parte.h"
 #include "ui_frmDJ_detalle_op.h"
 
 #include <QComboBox>

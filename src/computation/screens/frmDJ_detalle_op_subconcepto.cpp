@@ -6,10 +6,10 @@
 #include "computation/obligacion.h"
 #include "computation/roles_operacion.h"
 #include "computation/subconcepto_operacion.h"
-#include "widgets/ctlComunes.h"
-#include "widgets/mensajes.h"
 #include "core/modGlobales.h"
 #include "ui_frmDJ_detalle_op.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -5,9 +5,9 @@
 
 #include "computation/moneda.h"
 #include "computation/valores_contractuales.h"
-#include "widgets/mensajes.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_detalle_op.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

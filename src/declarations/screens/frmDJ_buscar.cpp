@@ -2,16 +2,16 @@
 
 #include "declarations/screens/frmDJ_buscar.h"
 
-#include "widgets/ctlComunes.h"
-#include "widgets/mensajes.h"
 #include "agents/agente.h"
-#include "declarations/screens/frmDJ_editar.h"
 #include "declarations/lista_dj.h"
+#include "declarations/screens/frmDJ_editar.h"
 #include "filing/archivo_dj.h"
 #include "filing/empaquetado.h"
 #include "filing/verificacion.h"
 #include "printing/screens/frmReportes.h"
 #include "ui_frmDJ_buscar.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
 
 #include <QFileDialog>
 #include <QKeyEvent>

@@ -3,12 +3,12 @@
 
 #include "declarations/screens/frmDJ_editar.h"
 
-#include "widgets/ctlComunes.h"
-#include "widgets/mensajes.h"
-#include "core/reloj.h"
 #include "agents/agente.h"
+#include "core/reloj.h"
 #include "declarations/copiar_dj.h"
 #include "ui_frmDJ_editar.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,8 @@
 // One sworn return: header, deeds and slips.
 #pragma once
 
-#include "payment/boletas.h"
 #include "declarations/cabecera_dj.h"
+#include "payment/boletas.h"
 #include "widgets/formulario.h"
 
 #include <array>

@@ -2,13 +2,13 @@
 // The tab of the deposit slips.
 
 #include "core/almacen.h"
-#include "widgets/ctlComunes.h"
-#include "widgets/ctlEspera.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "payment/boletas.h"
 #include "printing/datos_impresos.h"
 #include "printing/screens/frmReportes.h"
 #include "ui_frmDJ_editar.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/ctlEspera.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tab of the header: agent, posición and due date, reading, showing and storing them.
 
-#include "widgets/ctlComunes.h"
-#include "widgets/enlaces.h"
-#include "widgets/mensajes.h"
 #include "core/reloj.h"
 #include "declarations/cabecera_dj.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_editar.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/enlaces.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,13 +3,13 @@
 
 #include "core/almacen.h"
 #include "core/numero.h"
-#include "widgets/ctlComunes.h"
-#include "widgets/mensajes.h"
 #include "declarations/cabecera_dj.h"
 #include "declarations/renglones.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "deeds/screens/frmDJ_detalle.h"
 #include "ui_frmDJ_editar.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

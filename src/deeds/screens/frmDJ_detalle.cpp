@@ -3,8 +3,8 @@
 
 #include "deeds/screens/frmDJ_detalle.h"
 
-#include "widgets/ctlComunes.h"
 #include "ui_frmDJ_detalle.h"
+#include "widgets/ctlComunes.h"
 
 using namespace Qt::StringLiterals;
 

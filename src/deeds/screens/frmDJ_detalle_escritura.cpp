@@ -3,12 +3,12 @@
 
 #include "deeds/screens/frmDJ_detalle.h"
 
-#include "widgets/ctlComunes.h"
-#include "widgets/enlaces.h"
-#include "widgets/mensajes.h"
 #include "core/modGlobales.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_detalle.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/enlaces.h"
+#include "widgets/mensajes.h"
 
 #include <QFileDialog>
 

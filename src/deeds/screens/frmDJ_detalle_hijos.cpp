@@ -4,15 +4,15 @@
 #include "deeds/screens/frmDJ_detalle.h"
 
 #include "computation/screens/frmDJ_detalle_op.h"
-#include "widgets/ctlEspera.h"
-#include "widgets/mensajes.h"
 #include "core/modGlobales.h"
-#include "parties/screens/frmDJ_detalle_parte.h"
-#include "deeds/screens/frmDJ_editar_inmueble.h"
 #include "deeds/hijos_escritura.h"
+#include "deeds/screens/frmDJ_editar_inmueble.h"
+#include "parties/screens/frmDJ_detalle_parte.h"
 #include "payment/comprobantes.h"
 #include "printing/screens/frmReportes.h"
 #include "ui_frmDJ_detalle.h"
+#include "widgets/ctlEspera.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

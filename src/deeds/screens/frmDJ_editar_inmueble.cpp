@@ -2,12 +2,12 @@
 
 #include "deeds/screens/frmDJ_editar_inmueble.h"
 
-#include "widgets/ctlComunes.h"
-#include "widgets/enlaces.h"
-#include "widgets/mensajes.h"
 #include "deeds/inmueble.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_editar_inmueble.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/enlaces.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,11 +2,11 @@
 
 #include "parties/screens/frmDJ_buscar_parte.h"
 
-#include "widgets/ctlComunes.h"
-#include "widgets/mensajes.h"
 #include "parties/buscar_parte.h"
 #include "parties/listas_parte.h"
 #include "ui_frmDJ_buscar_parte.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
 

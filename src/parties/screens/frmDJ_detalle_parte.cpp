@@ -3,12 +3,12 @@
 
 #include "parties/screens/frmDJ_detalle_parte.h"
 
+#include "parties/parte.h"
+#include "tree/modABM_dj.h"
+#include "ui_frmDJ_detalle_parte.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/enlaces.h"
 #include "widgets/mensajes.h"
-#include "tree/modABM_dj.h"
-#include "parties/parte.h"
-#include "ui_frmDJ_detalle_parte.h"
 
 using namespace Qt::StringLiterals;
 

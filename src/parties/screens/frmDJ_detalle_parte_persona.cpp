@@ -3,10 +3,10 @@
 
 #include "parties/screens/frmDJ_detalle_parte.h"
 
-#include "widgets/ctlComunes.h"
-#include "widgets/enlaces.h"
 #include "parties/parte.h"
 #include "ui_frmDJ_detalle_parte.h"
+#include "widgets/ctlComunes.h"
+#include "widgets/enlaces.h"
 
 using namespace Qt::StringLiterals;
 
