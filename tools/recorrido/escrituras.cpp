@@ -13,6 +13,7 @@ using namespace manejo;
 void Mes::escrituras()
 {
     alcanzadas();
+    deImporteFijo();
     sinOperacion();
     conSubconceptoNuevo();
 }
@@ -56,6 +57,11 @@ void Mes::alcanzadas()
         operacion({"29", "PODER GENERAL", {}, {u"PODERDANTE"_s, u"APODERADO"_s}, nullptr, "3.000,00"});
         salirDeEscritura();
     });
+}
+
+// A fixed amount: in proportion to the base, and by modules typed from the scale.
+void Mes::deImporteFijo()
+{
     g_.paso(u"Escritura 4: un fideicomiso, fijo proporcional"_s, [&] {
         escritura({"4", "6", "9", "PASO", nullptr, nullptr});
         aceptarEscritura({{u"Falta el archivo del testimonio."_s}});

@@ -51,6 +51,7 @@ private:
     void nuevaDJ();
     void escrituras();
     void alcanzadas();
+    void deImporteFijo();
     void sinOperacion();
     void conSubconceptoNuevo();
     void lista();
