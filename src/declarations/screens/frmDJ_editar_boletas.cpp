@@ -6,7 +6,7 @@
 #include "widgets/ctlEspera.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "payment/boletas.h"
-#include "printing/datos_impresos.h"
+#include "printing/datos_boleta.h"
 #include "printing/screens/frmReportes.h"
 #include "ui_frmDJ_editar.h"
 
