@@ -3,7 +3,8 @@
 #include "almacen_grande.h"
 #include "medir.h"
 
-#include "printing/datos_impresos.h"
+#include "printing/datos_dj.h"
+#include "printing/screens/pintar_pagina.h"
 #include "printing/screens/rptSalida.h"
 #include "printing/screens/rpt_dj.h"
 

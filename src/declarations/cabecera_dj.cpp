@@ -111,12 +111,6 @@ double total_retenido(const QString& nro)
     return rs.eof() ? 0 : rs.real(0);
 }
 
-int cantidad_renglones(const QString& nro)
-{
-    const Recordset rs(cnRtn, u"select count(*) as CANT_MOV from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s + nro + u"'"_s);
-    return int(rs.entero(0));
-}
-
 void borrar_escrituras(const QString& nro)
 {
     Transaccion t(cnRtn);

@@ -43,7 +43,5 @@ void actualizar_cabecera(const CabeceraDJ& dj);
 /// The tax withheld in a DJ, in pesos; 0 for one that is not stored.
 [[nodiscard]] double total_retenido(const QString& nro);
 
-/// How many deeds a DJ holds.
-[[nodiscard]] int cantidad_renglones(const QString& nro);
 /// Deletes all deeds of a DJ; its total is not touched.
 void borrar_escrituras(const QString& nro);

@@ -7,11 +7,13 @@
 
 #include <QString>
 
+#include <optional>
+
 struct FiltroDJ
 {
-    int agente = 0;  ///< 0 for any
-    int anio = 0;
-    int mes = 0;
+    std::optional<int> agente;  ///< nothing for any
+    std::optional<int> anio;
+    std::optional<int> mes;
 };
 
 /// The statement of the list under a filter.

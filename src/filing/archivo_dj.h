@@ -10,9 +10,6 @@ struct EmisionArchivo
     QString archivo;  ///< full name of the file
 };
 
-/// Folder of what is made for a DJ, below the program's folder.
-[[nodiscard]] QString carpeta_dj(const QString& nro);
-
 /// Writes the whole file from the store, replacing an earlier one, and stores the code in the
 /// header of the DJ. A folder or file that can't be made gives no code. Throws on what fails after
 /// that (std::runtime_error): a text longer than its field, a null where a value must stand, a

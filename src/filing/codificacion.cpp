@@ -55,6 +55,15 @@ char16_t caracter_ansi(unsigned char byte)
     return pagina().aUnicode[byte];
 }
 
+QString texto_ansi(std::string_view bytes)
+{
+    QString t;
+    t.reserve(qsizetype(bytes.size()));
+    for (const char c : bytes)
+        t += QChar(caracter_ansi(static_cast<unsigned char>(c)));
+    return t;
+}
+
 void Piezas::limpiar()
 {
     archivo.clear();

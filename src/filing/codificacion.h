@@ -27,3 +27,13 @@ struct Piezas
 [[nodiscard]] char byte_ansi(char16_t c);
 /// The character of a byte of the file.
 [[nodiscard]] char16_t caracter_ansi(unsigned char byte);
+/// A text of the file as it reads.
+[[nodiscard]] QString texto_ansi(std::string_view bytes);
+
+/// Without the blanks at its ends; no other white space counts.
+[[nodiscard]] inline std::string_view recortar(std::string_view texto)
+{
+    const auto desde = texto.find_first_not_of(' ');
+    return desde == std::string_view::npos ? std::string_view()
+                                           : texto.substr(desde, texto.find_last_not_of(' ') - desde + 1);
+}

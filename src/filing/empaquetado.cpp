@@ -5,7 +5,8 @@
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "core/numero.h"
-#include "filing/archivo_dj.h"
+#include "filing/archivos_disco.h"
+#include "filing/carpetas_dj.h"
 #include "rar5.h"
 
 #include <QDir>
@@ -26,26 +27,8 @@ constexpr int SIN_LIMITE = -1;
 
 void borrar(const QString& archivo)
 {
-    if (!QFileInfo::exists(archivo))
-        return;
-    QFile f(archivo);
-    f.setPermissions(f.permissions() | QFile::WriteOwner);
-    if (!f.remove())
+    if (QFileInfo::exists(archivo) && !borrar_archivo(archivo))
         fallar(u"No se pudo borrar "_s, archivo);
-}
-
-// Replaces what stands there; false when the source can't be copied.
-bool copiar(const QString& de, const QString& a)
-{
-    const QString aparte = a + u".nuevo"_s;
-    QFile::remove(aparte);
-    if (!QFile::copy(de, aparte))
-        return false;
-    QFile::setPermissions(aparte, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
-    if (std::rename(QFile::encodeName(aparte).constData(), QFile::encodeName(a).constData()) == 0)
-        return true;
-    QFile::remove(aparte);
-    return false;
 }
 
 class Empaquetado
@@ -53,7 +36,7 @@ class Empaquetado
 public:
     Empaquetado(const QString& nro, Dialogo& dialogo)
         : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)),
-          testimonios_(carpeta_ + u"/testimonios"_s)
+          testimonios_(carpeta_testimonios(nro))
     {
     }
 
@@ -68,8 +51,8 @@ public:
         empaquetar(carpeta_ + u"/SRTN"_s + nro_ + u".txt"_s);
         if (!QDir().mkpath(testimonios_))
             fallar(u"No se pudo crear "_s, testimonios_);
-        for (const QString& viejo : QDir(testimonios_).entryList(QDir::Files | QDir::Hidden))
-            borrar(testimonios_ + u'/' + viejo);
+        if (const QString viejo = vaciar_testimonios(nro_); !viejo.isEmpty())
+            fallar(u"No se pudo borrar "_s, viejo);
         if (!copiarTestimonios())
             return false;
         escribirLote(texto_ + u'\n');
@@ -77,7 +60,7 @@ public:
         lotes.setStandardErrorFile(QProcess::nullDevice());
         lotes.setStandardOutputFile(QProcess::nullDevice());
         lotes.start(u"/bin/sh"_s, {lote()});
-        if (QFileInfo::exists(archivo()) && !copiar(archivo(), carpeta_ + u"/dj.rar"_s))
+        if (QFileInfo::exists(archivo()) && !copiar_archivo(archivo(), carpeta_ + u"/dj.rar"_s))
             fallar(u"No se pudo copiar "_s, archivo());
         return guardar(pedir, lotes);
     }
@@ -96,24 +79,21 @@ private:
 
     bool copiarTestimonios()
     {
-        for (Recordset rs(
-                 cnRtn,
-                 u"select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDJ_NRO='"_s
-                     + nro_ + u"'"_s);
-             !rs.eof(); rs.siguiente()) {
+        Recordset rs(cnRtn, u"select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO"
+                            u" from SEL_TB_RTN_DETDJ where SEDJ_NRO='%1'"_s.arg(nro_));
+        for (; !rs.eof(); rs.siguiente()) {
             const QString origen = fromSQL(rs.texto(2));
             if (origen.isEmpty())
                 continue;
             if (!QFileInfo(origen).isFile()) {
-                dialogo_.avisar({u"Error en la escritura Nº "_s + rs.texto(1)
-                                     + u",  no existe el archivo del testimonio \n"_s + origen
-                                     + u"\n\nComplete la declaracion jurada e intente mas tarde."_s,
+                dialogo_.avisar({u"Error en la escritura Nº %1,  no existe el archivo del testimonio \n%2"
+                                 u"\n\nComplete la declaracion jurada e intente mas tarde."_s.arg(rs.texto(1), origen),
                                  titulo(), Icono::informacion});
                 return false;
             }
             const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.'
                                   + QFileInfo(origen).suffix().toLower();
-            if (!copiar(origen, copia))
+            if (!copiar_archivo(origen, copia))
                 fallar(u"No se pudo copiar "_s, origen);
             empaquetar(copia);
         }
@@ -134,7 +114,8 @@ private:
         const QString nombre = u"SRTN"_s + nro_ + u".rar"_s;
         const QString elegido = pedir(QDir::home().filePath(nombre));
         lotes.waitForFinished(SIN_LIMITE);
-        if (!elegido.isEmpty() && entero(lotes) && copiar(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre))
+        if (!elegido.isEmpty() && entero(lotes)
+            && copiar_archivo(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre))
             return true;
         dialogo_.avisar({u"Error: Se canceló la emisión de la declaracion jurada"_s, titulo(), Icono::informacion});
         return false;

@@ -18,12 +18,6 @@ std::string_view texto_de(sqlite3_stmt* s, int columna)
     return utf8 ? std::string_view(utf8, size_t(sqlite3_column_bytes(s, columna))) : std::string_view();
 }
 
-std::string_view recortar(std::string_view t)
-{
-    const auto desde = t.find_first_not_of(' ');
-    return desde == std::string_view::npos ? std::string_view() : t.substr(desde, t.find_last_not_of(' ') - desde + 1);
-}
-
 // Length in 16-bit characters of a text in UTF-8.
 qsizetype largo(std::string_view t)
 {
@@ -71,17 +65,19 @@ EscritorRegistro::EscritorRegistro(const Registro& registro, sqlite3_stmt* sente
 
 void EscritorRegistro::fallar(const CampoRegistro& c, const QString& motivo) const
 {
-    throw ErrorRegistro(u"Registro %1 (%2)"_s.arg(QLatin1Char(registro_.tipo)).arg(QString::fromUtf8(registro_.titulo)),
-                        columnaRenglon_ < 0 ? 0 : sqlite3_column_int(sentencia_, columnaRenglon_),
-                        u"\nCampo: "_s + QLatin1StringView(c.nombre) + u'\n' + motivo);
+    throw ErrorRegistro(
+        u"Registro %1 (%2)"_s.arg(QString(QLatin1Char(registro_.tipo)), QString::fromUtf8(registro_.titulo)),
+        columnaRenglon_ < 0 ? 0 : sqlite3_column_int(sentencia_, columnaRenglon_),
+        u"\nCampo: %1\n%2"_s.arg(QString::fromLatin1(c.nombre), motivo));
 }
 
 // Blanks up to the width, counted on a length; more text than width is a failure of the emission.
 void EscritorRegistro::rellenar(const CampoRegistro& c, std::string_view texto, qsizetype cuentan, Piezas& salida) const
 {
     if (cuentan > c.ancho)
-        fallar(c, u"Texto: "_s + QString::fromUtf8(texto.data(), qsizetype(texto.size())) + u"\nLargo: "_s
-                      + QString::number(cuentan) + u", ancho del campo: "_s + QString::number(c.ancho));
+        fallar(c, u"Texto: %1\nLargo: %2, ancho del campo: %3"_s.arg(
+                      QString::fromUtf8(texto.data(), qsizetype(texto.size())), QString::number(cuentan),
+                      QString::number(c.ancho)));
     salida.utf8(texto);
     salida.repetir(' ', c.ancho - cuentan);
 }

@@ -2,7 +2,7 @@
 // Where the fields of a record lie.
 #pragma once
 
-#include "filing/lector_dj.h"
+#include "filing/registro_leido.h"
 
 #include <memory>
 

@@ -21,8 +21,8 @@ constexpr qsizetype MAXIMO_LISTADO = 5000;
 QString huecos(const QString& nro)
 {
     QStringList faltan;
-    Recordset rs(cnRtn, u" select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ  where SEDJ_NRO='"_s + nro
-                            + u"'  and SEDD_ESTADO<>'E'  order by SEDD_ESCRITURA_NRO"_s);
+    Recordset rs(cnRtn, u" select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ  where SEDJ_NRO='%1'"
+                        u"  and SEDD_ESTADO<>'E'  order by SEDD_ESCRITURA_NRO"_s.arg(nro));
     if (rs.eof())
         return {};
     for (qint64 anterior = rs.entero(0); !rs.eof(); rs.siguiente()) {
@@ -39,10 +39,10 @@ QString huecos(const QString& nro)
 
 QString sin_operacion(const QString& nro)
 {
-    const Recordset rs(cnRtn, u" select * from SEL_TB_RTN_DETDJ as D  where  SEDJ_NRO='"_s + nro
-                                  + u"'  and SEDD_ALCANZADO='S' and SEDD_ESTADO='P' "
-                                    u" and not exists ( select * from SEL_TB_RTN_INS_OPERACIONES as O "
-                                    u" where D.SEDJ_NRO=O.SEDJ_NRO and D.SEDD_ID=O.SEDD_ID) "_s);
+    const Recordset rs(cnRtn, u" select * from SEL_TB_RTN_DETDJ as D  where  SEDJ_NRO='%1'"
+                              u"  and SEDD_ALCANZADO='S' and SEDD_ESTADO='P' "
+                              u" and not exists ( select * from SEL_TB_RTN_INS_OPERACIONES as O "
+                              u" where D.SEDJ_NRO=O.SEDJ_NRO and D.SEDD_ID=O.SEDD_ID) "_s.arg(nro));
     return rs.eof()
                ? QString()
                : INCOMPLETA + u"\nHay escrituras alcanzadas no anuladas a las cuales les falta cargar la operación."_s;
@@ -51,8 +51,8 @@ QString sin_operacion(const QString& nro)
 QString sin_testimonio(const QString& nro)
 {
     Recordset rs(cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO, REQUIERE_TESTIMONIO"
-                        u" from SEL_VW_DJ_DETALLE   where SEDJ_NRO='"_s
-                            + nro + u"'  and  SEDD_ESTADO='P'   order by SEDD_ESCRITURA_NRO "_s);
+                        u" from SEL_VW_DJ_DETALLE   where SEDJ_NRO='%1'"
+                        u"  and  SEDD_ESTADO='P'   order by SEDD_ESCRITURA_NRO "_s.arg(nro));
     QStringList sin_archivo;
     QStringList no_existe;
     // The deed with the lowest number is never looked at; the skip is deliberate.

@@ -5,7 +5,6 @@
 #include "core/modComunes.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
-#include "core/reloj.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,42 +18,31 @@ QString en_centavos(const Numero& n, int ancho)
     return formato_decimal(n.Value() * 100, 0).rightJustified(ancho, u'0');
 }
 
-}  // namespace
-
-std::optional<Falla> validar_boleta(ControlesBoleta& c)
+struct ValorColumna
 {
-    ChequeBoleta& uno = c.cheques[0];
-    ChequeBoleta& dos = c.cheques[1];
-    for (ChequeBoleta* cheque : {&uno, &dos}) {
-        cheque->nro = cheque->nro.trimmed();
-        cheque->banco = cheque->banco.trimmed();
+    const char* columna;
+    QString sql;
+};
+
+// Rows inserted.
+int insertar(const QString& tabla, std::span<const ValorColumna> columnas)
+{
+    QStringList nombres;
+    QStringList valores;
+    for (const auto& [columna, sql] : columnas) {
+        nombres << QString::fromLatin1(columna);
+        valores << sql;
     }
-    const double m1 = uno.monto.Value();
-    const double m2 = dos.monto.Value();
-    auto falla = primera_falla({
-        {c.efectivo.Value() == 0 && m1 == 0 && m2 == 0, "Ingrese la forma de pago en la boleta de depósito.",
-         "nroEfectivo"},
-        {!uno.nro.isEmpty() && m1 == 0, "Ingrese el monto del primer cheque", "txtCheque1_nro"},
-        {m1 > 0 && uno.nro.isEmpty(), "Ingrese el Nº del primer cheque", "txtCheque1_nro"},
-        {m1 > 0 && uno.banco.isEmpty(), "Ingrese el banco del primer cheque", "txtCheque1_banco"},
-        {!dos.nro.isEmpty() && m2 == 0, "Ingrese el monto del segundo cheque", "txtCheque2_nro"},
-        {m2 > 0 && dos.nro.isEmpty(), "Ingrese el Nº del segundo cheque", "txtCheque2_nro"},
-        {m2 > 0 && dos.banco.isEmpty(), "Ingrese el banco del segundo cheque", "txtCheque2_banco"},
-        // Only the dates count: whether interest was typed is not looked at.
-        {hoy() > c.vencimiento, "El periodo se encuentra vencido. Ingrese el interes", "nroInteres"},
-        {c.totalDepositar.Value() != c.totalBoleta.Value(),
-         "El monto total de la boleta no coincide con el total retenido mas intereses", "nroTotalBoleta"},
-    });
-    if (falla)
-        falla->titulo = u"Generar boleta de deposito"_s;
-    return falla;
+    return cnRtn.ejecutar(
+        u"insert into %1 (%2) values (%3)"_s.arg(tabla, nombres.join(u", "_s), valores.join(u", "_s)));
 }
+
+}  // namespace
 
 QString proximo_nro_boleta(const QString& dj)
 {
-    const Recordset rs(cnRtn,
-                       u"select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA  from SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s
-                           + dj + u"' and SBDI_TIPO_BOLETA=0"_s);
+    const Recordset rs(cnRtn, u"select max(SBDI_NROBOLETA) as MAX_SBDI_NROBOLETA  from SEL_TB_RTN_BOLDEP "
+                              u" where SEDJ_NRO='%1' and SBDI_TIPO_BOLETA=%2"_s.arg(dj, QString::number(TIPO_MENSUAL)));
     if (rs.eof() || rs.nulo(0))
         return u"202"_s + dj + u"00"_s;
     // The places are those of a DJ of 17 characters; the number of a shorter one grows by them.
@@ -74,7 +62,7 @@ QString insertar_boleta(const ControlesBoleta& c)
 {
     const QString nro = proximo_nro_boleta(c.dj);
     const QString posicion = c.anio + con_ceros(c.mes, 2) + con_ceros(c.secuencia, 2);
-    const std::pair<const char*, QString> columnas[] = {
+    const ValorColumna columnas[] = {
         {"SBDI_NROBOLETA", entre_comillas(nro)},
         {"SBDI_FECHA_EMISION", fecha_sql(c.emision)},
         {"SBDI_FECHA_VENC", fecha_sql(c.vencimiento)},
@@ -101,29 +89,21 @@ QString insertar_boleta(const ControlesBoleta& c)
         {"SBDI_CHEQUE2_MONTO", sql_o_cero(c.cheques[1].monto)},
         {"SBDI_TIPO_BOLETA", QString::number(TIPO_MENSUAL)},
     };
-    QStringList nombres;
-    QStringList valores;
-    for (const auto& [columna, valor] : columnas) {
-        nombres << QString::fromLatin1(columna);
-        valores << valor;
-    }
-    if (cnRtn.ejecutar(u"insert into SEL_TB_RTN_BOLDEP ("_s + nombres.join(u", "_s) + u") values ("_s
-                       + valores.join(u", "_s) + u")"_s)
-        != 1)
+    if (insertar(u"SEL_TB_RTN_BOLDEP"_s, columnas) != 1)
         return {};
-    cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='"_s + codigo_barras_boleta(nro, c)
-                   + u"' where SBDI_NROBOLETA='"_s + nro + u"'"_s);
+    cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='%1' where SBDI_NROBOLETA='%2'"_s.arg(
+        codigo_barras_boleta(nro, c), nro));
     return nro;
 }
 
 int borrar_boleta(const QString& nro)
 {
-    return cnRtn.ejecutar(u"delete from  SEL_TB_RTN_BOLDEP where SBDI_NROBOLETA='"_s + nro + u"'"_s);
+    return cnRtn.ejecutar(u"delete from  SEL_TB_RTN_BOLDEP where SBDI_NROBOLETA='%1'"_s.arg(nro));
 }
 
 void leer_boletas(const QString& dj, const AgregarFila& fila)
 {
-    for (Recordset rs(cnRtn, u"select * from  SEL_TB_RTN_BOLDEP  where SEDJ_NRO='"_s + dj + u"'"_s); !rs.eof();
-         rs.siguiente())
+    Recordset rs(cnRtn, u"select * from  SEL_TB_RTN_BOLDEP  where SEDJ_NRO='%1'"_s.arg(dj));
+    for (; !rs.eof(); rs.siguiente())
         fila({rs.texto("SBDI_NROBOLETA"), importe_llano(rs.real("SBDI_TOTAL"))});
 }

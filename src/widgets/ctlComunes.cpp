@@ -138,11 +138,6 @@ void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int i
     combo->setCurrentIndex(-1);
 }
 
-int item_data(const QComboBox* combo)
-{
-    return combo->currentIndex() < 0 ? 0 : combo->currentData().toInt();
-}
-
 void combo_con_texto(QComboBox* combo)
 {
     combo->setCompleter(nullptr);
@@ -164,10 +159,4 @@ std::optional<int> elegido_por_texto(const QComboBox* combo)
 {
     const int i = combo->currentText().isEmpty() ? -1 : combo->findText(combo->currentText(), Qt::MatchFixedString);
     return i < 0 ? std::optional<int>() : combo->itemData(i).toInt();
-}
-
-int item_del_texto(const QComboBox* combo)
-{
-    const int i = combo->findText(combo->currentText(), Qt::MatchFixedString);
-    return i < 0 || combo->currentText().isEmpty() ? 0 : combo->itemData(i).toInt();
 }

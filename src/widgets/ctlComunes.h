@@ -34,8 +34,6 @@ void seleccionar_texto(QComboBox* combo, const QString& texto);
 /// included. A `formato` of zeros ("000", "0.00") is put on the text first.
 void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int inicio = 1, int largo = 0,
                      const QString& formato = {});
-/// Item data of the selection as a number, 0 without one.
-[[nodiscard]] int item_data(const QComboBox* combo);
 /// Item data of the selection, nothing without one.
 [[nodiscard]] std::optional<int> elegido(const QComboBox* combo);
 /// The same in a list that begins with "(sin filtro)", which stands for nothing.
@@ -45,5 +43,3 @@ void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int i
 /// A combo with typing: in capitals, and on leaving it the text goes to the first entry that
 /// starts with it.
 void combo_con_texto(QComboBox* combo);
-/// Item data of the entry that the text of a combo with typing stands for, 0 for none.
-[[nodiscard]] int item_del_texto(const QComboBox* combo);

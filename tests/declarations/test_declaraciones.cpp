@@ -7,6 +7,7 @@
 #include "declarations/numero_dj.h"
 #include "declarations/renglones.h"
 #include "tree/modABM_dj.h"
+#include "tree/totales.h"
 
 #include <QDir>
 #include <QFile>

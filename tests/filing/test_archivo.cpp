@@ -2,6 +2,7 @@
 
 #include "apoyo/apoyo.h"
 #include "filing/archivo_dj.h"
+#include "filing/carpetas_dj.h"
 #include "filing/codificacion.h"
 #include "filing/lector_dj.h"
 #include "filing/registros.h"

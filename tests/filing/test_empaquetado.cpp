@@ -3,6 +3,7 @@
 
 #include "apoyo/apoyo.h"
 #include "filing/archivo_dj.h"
+#include "filing/carpetas_dj.h"
 #include "filing/empaquetado.h"
 
 #include <QDir>

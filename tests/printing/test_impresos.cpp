@@ -5,11 +5,12 @@
 #include "core/reloj.h"
 #include "payment/boletas.h"
 #include "payment/comprobantes.h"
-#include "printing/datos_impresos.h"
+#include "printing/screens/letra.h"
 #include "printing/screens/rptRTN_boldep1.h"
 #include "printing/screens/rptSalida.h"
 #include "printing/screens/rpt_dj.h"
 #include "printing/screens/rpt_recibo.h"
+#include "printing/textos_escrituras.h"
 
 #include <QImage>
 #include <QProcess>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // leer_dj [--codigo CODE] [--campos] [--json] FILE|FOLDER|ARCHIVE
 
+#include "filing/codificacion.h"
 #include "filing/lector_dj.h"
 #include "rar5.h"
 

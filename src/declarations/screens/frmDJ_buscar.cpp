@@ -100,7 +100,7 @@ void frmDJ_buscar::listar_dj(bool limpiar)
 {
     if (limpiar)
         ui->flx->vaciar();
-    const FiltroDJ filtro{item_data(ui->cboRTN), int(ui->nroAnio->Value()), int(ui->nroMes->Value())};
+    const FiltroDJ filtro{filtro_elegido(ui->cboRTN), int(ui->nroAnio->Value()), int(ui->nroMes->Value())};
     ui->flx->llenar(
         [&] { leer_lista_dj(filtro, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
     habilitar_botones();

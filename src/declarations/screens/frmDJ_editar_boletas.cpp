@@ -4,7 +4,7 @@
 #include "core/almacen.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "payment/boletas.h"
-#include "printing/datos_impresos.h"
+#include "printing/datos_boleta.h"
 #include "printing/screens/frmReportes.h"
 #include "ui_frmDJ_editar.h"
 #include "widgets/ctlComunes.h"

@@ -5,6 +5,7 @@
 #include "declarations/cabecera_dj.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "tree/modABM_dj.h"
+#include "tree/totales.h"
 #include "ui_frmDJ_editar.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/enlaces.h"

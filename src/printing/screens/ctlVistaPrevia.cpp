@@ -2,6 +2,7 @@
 
 #include "printing/screens/ctlVistaPrevia.h"
 
+#include "printing/screens/pintar_pagina.h"
 #include "printing/screens/rptInforme.h"
 
 #include <QPainter>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr int SEPARACION = 12;
 constexpr int PAGINAS_POR_VEZ = 20;
-constexpr double MM_POR_PULGADA = 25.4;
 
 }  // namespace
 

@@ -3,13 +3,14 @@
 #include "printing/screens/frmReportes.h"
 
 #include "core/almacen.h"
-#include "widgets/ctlEspera.h"
-#include "printing/datos_impresos.h"
 #include "printing/screens/rptRTN_boldep1.h"
 #include "printing/screens/rptSalida.h"
 #include "printing/screens/rpt_dj.h"
+#include "printing/screens/rpt_dj_sin_mov.h"
 #include "printing/screens/rpt_recibo.h"
+#include "printing/textos_escrituras.h"
 #include "ui_frmReportes.h"
+#include "widgets/ctlEspera.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -2,7 +2,7 @@
 // The deposit slip: four copies on one page.
 #pragma once
 
-#include "printing/datos_impresos.h"
+#include "printing/datos_boleta.h"
 #include "printing/screens/rptInforme.h"
 
 class rptRTN_boldep1 : public Informe

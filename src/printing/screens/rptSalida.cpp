@@ -2,6 +2,7 @@
 
 #include "printing/screens/rptSalida.h"
 
+#include "printing/screens/pintar_pagina.h"
 #include "printing/screens/rptInforme.h"
 
 #include <QCoreApplication>
@@ -11,7 +12,6 @@
 
 namespace {
 
-constexpr double MM_POR_PULGADA = 25.4;
 constexpr int RESOLUCION_PDF = 1200;
 
 }  // namespace

@@ -1,33 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The printed DJ: with its deeds, and without movements.
+// The printed DJ with its deeds.
 #pragma once
 
-#include "printing/datos_impresos.h"
-#include "printing/screens/rptInforme.h"
-
-/// What both forms of the DJ share: header of each page, the agent, the code at the end.
-class rpt_dj_sin_mov : public Informe
-{
-public:
-    rpt_dj_sin_mov(const DJImpresa& dj, const QString& codigo, const QString& version)
-        : dj_(dj), codigo_(codigo), version_(version)
-    {
-    }
-
-protected:
-    Banda cabecera(int pagina) const override;
-    bool siguientes(std::vector<Banda>& bandas) override;
-
-    [[nodiscard]] Banda agente() const;
-    /// Totals, signatures, and the code as bars and as text.
-    void cierre(std::vector<Banda>& bandas) const;
-
-    DJImpresa dj_;
-
-private:
-    QString codigo_;
-    QString version_;
-};
+#include "printing/screens/rpt_dj_sin_mov.h"
 
 class rpt_dj : public rpt_dj_sin_mov
 {
@@ -40,6 +15,8 @@ protected:
 
 private:
     void escritura(const EscrituraImpresa& e, std::vector<Banda>& bandas) const;
+    /// Indented lines; none without a text.
+    static void renglones(std::vector<Banda>& bandas, const QString& titulo, const QString& texto);
     void operacion(const OperacionImpresa& o, std::vector<Banda>& bandas) const;
 
     qsizetype siguiente_ = 0;

@@ -4,6 +4,7 @@
 
 #include "core/modNroALetras.h"
 #include "core/redondeo.h"
+#include "printing/screens/lineas_texto.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 // The withholding receipt.
 #pragma once
 
-#include "printing/datos_impresos.h"
+#include "printing/datos_recibo.h"
 #include "printing/screens/rptInforme.h"
 
 /// An annulled receipt has no data and prints the empty form.

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The folders of what is made for a DJ.
+#pragma once
+
+#include <QString>
+
+/// Folder of what is made for a DJ, below the program's folder.
+[[nodiscard]] QString carpeta_dj(const QString& nro);
+/// Where the copies of its testimonios stand under their export names.
+[[nodiscard]] QString carpeta_testimonios(const QString& nro);
+
+/// Deletes all files of the folder of testimonios, hidden ones too, and tries each one; gives the
+/// first that could not be deleted, empty when all went.
+QString vaciar_testimonios(const QString& nro);
