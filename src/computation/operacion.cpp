@@ -6,7 +6,7 @@
 #include "core/asignaciones.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
-#include "core/numero.h"
+#include "core/redondeo.h"
 
 using namespace Qt::StringLiterals;
 

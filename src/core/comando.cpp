@@ -2,6 +2,8 @@
 
 #include "core/comando.h"
 
+#include <QDate>
+
 #include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;

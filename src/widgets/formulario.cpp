@@ -166,6 +166,16 @@ void Formulario::formatearNumeros()
         n->modelo().formatear();
 }
 
+void Formulario::aceptarOSalir(BarraHerramientas* barra, const std::function<void()>& aceptar)
+{
+    connect(barra, &BarraHerramientas::pulsada, this, [this, aceptar](const QString& clave) {
+        if (clave == u"aceptar")
+            aceptar();
+        else
+            descargar();
+    });
+}
+
 void Formulario::keyPressEvent(QKeyEvent* evento)
 {
     const bool acepta = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;

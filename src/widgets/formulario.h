@@ -8,6 +8,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
+
 class BarraHerramientas;
 class QMdiArea;
 class QMdiSubWindow;
@@ -53,6 +55,8 @@ protected:
     [[nodiscard]] bool esActivo(const QWidget* control) const;
     /// Puts the number fields under their masks, also the one that is being typed: what is stored is what shows.
     void formatearNumeros();
+    /// "aceptar" of the bar runs the action, any other of its keys unloads the form.
+    void aceptarOSalir(BarraHerramientas* barra, const std::function<void()>& aceptar);
     /// Enter anywhere on the form presses "aceptar" of the bar, Escape "cancelar".
     void teclasDeBarra(BarraHerramientas* barra) { barra_ = barra; }
     /// Brings a form that this one opens into its place: caller set, window shown.

@@ -2,6 +2,7 @@
 
 #include "manejo/cajas.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>

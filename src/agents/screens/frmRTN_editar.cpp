@@ -38,12 +38,7 @@ frmRTN_editar::frmRTN_editar() : ui(std::make_unique<Ui::frmRTN_editar>())
     static const QRegularExpression sin_apostrofo(u"[^']*"_s);
     ui->txtEmail->setValidator(new QRegularExpressionValidator(sin_apostrofo, this));
     llenar_combo(ui->cboLocalidad, localidades_propias());
-    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
-        if (clave == u"aceptar")
-            aceptar();
-        else
-            descargar();
-    });
+    aceptarOSalir(ui->tlb, [this] { aceptar(); });
 }
 
 frmRTN_editar::~frmRTN_editar() = default;

@@ -22,12 +22,7 @@ void frmEditarRango::armar(const Controles& controles)
         if (c_.chkValorHasta->isChecked())
             c_.nroHasta->setFocus();
     });
-    connect(c_.toolbar, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
-        if (clave == u"aceptar")
-            aceptar();
-        else
-            descargar();
-    });
+    aceptarOSalir(c_.toolbar, [this] { aceptar(); });
 }
 
 void frmEditarRango::habilitarHasta()

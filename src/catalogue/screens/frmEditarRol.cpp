@@ -27,12 +27,7 @@ frmEditarRol::frmEditarRol() : ui(std::make_unique<Ui::frmEditarRol>())
     });
     connect(ui->optEsporadico, &QRadioButton::clicked, this, [this] { ui->fraSSUBAtributo->setEnabled(true); });
     connect(ui->chkSSUBAtributo, &QCheckBox::toggled, this, &frmEditarRol::habilitarAtributo);
-    connect(ui->toolbar, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
-        if (clave == u"aceptar")
-            aceptar();
-        else
-            descargar();
-    });
+    aceptarOSalir(ui->toolbar, [this] { aceptar(); });
 }
 
 frmEditarRol::~frmEditarRol() = default;

@@ -108,16 +108,17 @@ void frmEditarSubconceptoSellos::pulsada(const QString& clave)
 {
     if (clave == u"salir") {
         descargar();
-    } else if (clave == u"aceptar") {
-        aceptar();
-    } else if (clave == u"cancelar") {
-        // What was typed stays on the screen, deliberately, until the form is opened anew.
-        ponerEdicion(false);
-    } else {
-        if (guardado_)
-            Operacion = Modo::modificar;
-        ponerEdicion(true);
+        return;
     }
+    if (clave == u"aceptar") {
+        aceptar();
+        return;
+    }
+    // What was typed stays on the screen after "cancelar", deliberately, until the form is opened anew.
+    const bool editar = clave != u"cancelar";
+    if (editar && guardado_)
+        Operacion = Modo::modificar;
+    ponerEdicion(editar);
 }
 
 void frmEditarSubconceptoSellos::aceptar()

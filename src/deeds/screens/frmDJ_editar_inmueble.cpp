@@ -56,12 +56,7 @@ frmDJ_editar_inmueble::frmDJ_editar_inmueble() : ui(std::make_unique<Ui::frmDJ_e
     ui->cboProv->lineEdit()->setMaxLength(ANCHO_PROVINCIA);
     connect(ui->cboProv, &QComboBox::activated, this, &frmDJ_editar_inmueble::cargar_localidades);
     connect(ui->cboU_caracter, &QComboBox::activated, this, &frmDJ_editar_inmueble::clicCaracter);
-    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
-        if (clave == u"aceptar")
-            aceptar();
-        else
-            descargar();
-    });
+    aceptarOSalir(ui->tlb, [this] { aceptar(); });
 }
 
 frmDJ_editar_inmueble::~frmDJ_editar_inmueble() = default;
