@@ -3,7 +3,6 @@
 #include "core/conexion.h"
 
 #include "core/funciones_sql.h"
-#include "core/recordset.h"
 
 #include <sqlcipher/sqlite3.h>
 
@@ -65,12 +64,23 @@ void Conexion::conectar(const QString& ruta, const QString& clave, int modo)
     }
 }
 
+// Reading the schema is what shows whether the password opens the file.
+bool Conexion::tieneTablas()
+{
+    sqlite3_stmt* cuenta = preparar(u"select count(*) from sqlite_master where type='table'"_s);
+    const bool leida = sqlite3_step(cuenta) == SQLITE_ROW;
+    const bool hay = leida && sqlite3_column_int(cuenta, 0) > 0;
+    sqlite3_finalize(cuenta);
+    if (!leida)
+        fallar();
+    return hay;
+}
+
 void Conexion::abrir(const QString& ruta, const QString& clave)
 {
     conectar(ruta, clave, SQLITE_OPEN_READWRITE);
     try {
-        Recordset tablas(*this, u"select count(*) from sqlite_master where type='table'"_s);
-        if (tablas.entero(0) == 0)
+        if (!tieneTablas())
             throw ErrorAlmacen(SQLITE_NOTADB, u"El archivo no es una base de datos"_s);
         sentenciaSimple("pragma foreign_keys = on");
     } catch (...) {

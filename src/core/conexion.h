@@ -59,6 +59,7 @@ private:
     friend class Comando;
     friend void crear_conexion_nueva(Conexion&, const QString&, const QString&);
 
+    [[nodiscard]] bool tieneTablas();
     void conectar(const QString& ruta, const QString& clave, int modo);
     sqlite3_stmt* preparar(const QString& sql);
     sqlite3_stmt* prestar(const QString& sql);

@@ -6,42 +6,11 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-bool es_numero(const QString& texto, double& valor)
-{
-    bool bien = false;
-    valor = texto.toDouble(&bien);
-    return bien && std::isfinite(valor);
-}
-
-}  // namespace
-
-double numero_de_texto_sql(const QString& texto)
-{
-    double valor = 0;
-    if (!es_numero(texto.trimmed(), valor))
-        throw ErrorConversion();
-    return valor;
-}
-
 double numero_de_texto(const QString& texto)
 {
     Numero n;
     n.escribirTexto(texto);
     return n.Value();
-}
-
-double numero_inicial(const QString& texto)
-{
-    const QString t = texto.trimmed();
-    qsizetype fin = 0;
-    bool punto = false;
-    while (fin < t.size() && (t[fin].isDigit() || (fin == 0 && t[fin] == u'-') || (t[fin] == u'.' && !punto))) {
-        punto = punto || t[fin] == u'.';
-        ++fin;
-    }
-    return t.left(fin).toDouble();
 }
 
 Numero::Tecla Numero::filtrar(int keyAscii)
@@ -85,10 +54,8 @@ QString Numero::desnudo() const
 
 void Numero::formatear()
 {
-    double valor = 0;
-    if (texto_.isEmpty() || !es_numero(desnudo(), valor))
-        return;
-    poner(mascara(valor));
+    if (const auto valor = texto_.isEmpty() ? std::nullopt : leer_numero(desnudo()))
+        poner(mascara(*valor));
 }
 
 QString Numero::mascara(double valor) const
@@ -100,11 +67,11 @@ double Numero::Value() const
 {
     if (leido_)
         return *leido_;
-    double valor = 0;
-    if (!texto_.isEmpty() && !es_numero(desnudo(), valor))
+    const auto valor = texto_.isEmpty() ? 0 : leer_numero(desnudo());
+    if (!valor)
         throw ErrorConversion();
-    leido_ = valor;
-    return valor;
+    leido_ = *valor;
+    return *valor;
 }
 
 void Numero::setValue(double valor)

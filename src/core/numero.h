@@ -10,21 +10,9 @@
 
 #include <functional>
 #include <optional>
-#include <stdexcept>
 
-/// A text that is no number was read as one.
-class ErrorConversion : public std::runtime_error
-{
-public:
-    ErrorConversion() : std::runtime_error("No coinciden los tipos") {}
-};
-
-/// The number that a stored text with "." stands for; throws ErrorConversion.
-[[nodiscard]] double numero_de_texto_sql(const QString& texto);
 /// The number that a shown text stands for under the user's locale; throws ErrorConversion.
 [[nodiscard]] double numero_de_texto(const QString& texto);
-/// The number at the start of the text, 0 when there is none; never fails.
-[[nodiscard]] double numero_inicial(const QString& texto);
 
 class Numero
 {

@@ -3,7 +3,6 @@
 #include "core/redondeo.h"
 
 #include "core/clsLocaleInfo.h"
-#include "core/numero.h"
 
 #include <array>
 #include <cmath>
@@ -164,4 +163,31 @@ QString con_ceros(qint64 valor, int ancho)
 QString numero_sql(double valor)
 {
     return QString::number(valor, 'g', 15);
+}
+
+std::optional<double> leer_numero(const QString& texto)
+{
+    bool bien = false;
+    const double valor = texto.toDouble(&bien);
+    return bien && std::isfinite(valor) ? std::optional(valor) : std::nullopt;
+}
+
+double numero_de_texto_sql(const QString& texto)
+{
+    const auto valor = leer_numero(texto.trimmed());
+    if (!valor)
+        throw ErrorConversion();
+    return *valor;
+}
+
+double numero_inicial(const QString& texto)
+{
+    const QString t = texto.trimmed();
+    qsizetype fin = 0;
+    bool punto = false;
+    while (fin < t.size() && (t[fin].isDigit() || (fin == 0 && t[fin] == u'-') || (t[fin] == u'.' && !punto))) {
+        punto = punto || t[fin] == u'.';
+        ++fin;
+    }
+    return t.left(fin).toDouble();
 }

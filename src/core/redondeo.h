@@ -5,7 +5,15 @@
 #include <QString>
 
 #include <optional>
+#include <stdexcept>
 #include <string>
+
+/// A text that is no number was read as one.
+class ErrorConversion : public std::runtime_error
+{
+public:
+    ErrorConversion() : std::runtime_error("No coinciden los tipos") {}
+};
 
 /// The number's text of 15 significant digits, rounded half away from zero to `decimales`, with
 /// "." as separator and no grouping. What rounds to zero has no sign. Throws ErrorConversion for what is
@@ -32,3 +40,10 @@
 [[nodiscard]] QString con_ceros(qint64 valor, int ancho);
 /// Up to 15 significant digits with ".", as a statement takes a number.
 [[nodiscard]] QString numero_sql(double valor);
+
+/// The finite number that a text with "." stands for, nothing for any other text.
+[[nodiscard]] std::optional<double> leer_numero(const QString& texto);
+/// The number that a stored text with "." stands for; throws ErrorConversion.
+[[nodiscard]] double numero_de_texto_sql(const QString& texto);
+/// The number at the start of the text, 0 when there is none; never fails.
+[[nodiscard]] double numero_inicial(const QString& texto);
