@@ -36,7 +36,7 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
     for (const auto& [casilla, texto] :
          {std::pair{ui->chkLey, ui->txtLey}, {ui->chkArticulo, ui->txtArticulo}, {ui->chkInciso, ui->txtInciso}}) {
         habilitar_texto(texto, false);
-        connect(casilla, &QCheckBox::toggled, texto, [texto](bool si) {
+        connect(casilla, &QCheckBox::toggled, texto, [texto = texto](bool si) {
             habilitar_texto(texto, si);
             if (si)
                 texto->setFocus();
