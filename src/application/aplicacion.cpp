@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
 {
     setApplicationName(u"VEDRA-RTN"_s);
-    setApplicationVersion(QStringLiteral(RTN_VERSION));
+    setApplicationVersion(QString::fromLatin1(RTN_VERSION));
     iniciar_recursos();
     setWindowIcon(QIcon(u":/iconos/programa.svg"_s));
     // A form that is only read shows most of its fields disabled: they must stay easy to read.
