@@ -61,7 +61,7 @@ bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, c
     try {
         cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES%1"_s.arg(clave.donde()));
         for (const ParteRol& p : partes) {
-            if (p.idRol.isEmpty() || p.idRol == u"0")
+            if (!p.tieneRol())
                 continue;
             if (!alta_rol({clave.dj, clave.renglon.toInt(), clave.operacion.toInt(), p.id.toInt(), p.idRol.toLongLong(),
                            p.observaciones},

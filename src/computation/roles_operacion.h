@@ -9,6 +9,9 @@ struct ParteRol
 {
     QString id, tipoDoc, nroDoc, denominacion, idRol, rol, observaciones;
     std::optional<double> porcExento;
+
+    /// "(ninguno)" stands in the grid as "0".
+    [[nodiscard]] bool tieneRol() const { return !idRol.isEmpty() && idRol != QLatin1String("0"); }
 };
 /// The parties of the deed, and the roles that the operation has stored. Throws ErrorAlmacen.
 [[nodiscard]] QList<ParteRol> leer_partes_con_roles(const ClaveOperacion& clave);

@@ -32,6 +32,13 @@ bool ErrorAlmacen::ocupado() const
     return primario == SQLITE_BUSY || primario == SQLITE_LOCKED;
 }
 
+bool ErrorAlmacen::perdido() const
+{
+    const int primario = numero & 0xff;
+    return primario == SQLITE_CORRUPT || primario == SQLITE_NOTADB || primario == SQLITE_CANTOPEN
+           || primario == SQLITE_MISUSE || numero == SQLITE_READONLY_DBMOVED;
+}
+
 Conexion::~Conexion()
 {
     cerrar();

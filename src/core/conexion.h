@@ -24,6 +24,8 @@ public:
     [[nodiscard]] bool claveDuplicada() const;
     /// Whether somebody else holds the file.
     [[nodiscard]] bool ocupado() const;
+    /// Whether the file is damaged, no store any more, or gone.
+    [[nodiscard]] bool perdido() const;
 };
 
 /// One connection to the store. Transactions nest: an inner one is a savepoint of the outer.

@@ -2,9 +2,22 @@
 
 #include "core/numero.h"
 
+#include <QRegularExpression>
+
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QString con_separadores_cambiados(QString texto)
+{
+    for (QChar& c : texto)
+        c = c == u'.' ? u',' : c == u',' ? u'.' : c;
+    return texto;
+}
+
+}  // namespace
 
 double numero_de_texto(const QString& texto)
 {
@@ -39,7 +52,8 @@ Numero::Tecla Numero::filtrar(int keyAscii)
 
 void Numero::entrar()
 {
-    poner(QString(texto_).remove(local_.Thousands()));
+    if (legible())
+        poner(QString(texto_).remove(local_.Thousands()));
 }
 
 QString Numero::desnudo() const
@@ -52,9 +66,27 @@ QString Numero::desnudo() const
     return t.replace(local_.sDecimal(), u"."_s);
 }
 
+// Keys write digits, one separator and, where it is allowed, a sign in front; grouping comes from the mask,
+// or by paste. A text that says anything else would be read as another number than it shows.
+bool Numero::bienTecleado() const
+{
+    static const QString PATRON = u"%1(?:\\d+|\\d{1,3}(?:%2\\d{3})+)?(?:%3\\d*)?"_s;
+    const QString miles = local_.Thousands().isEmpty() ? u"(?!)"_s : QRegularExpression::escape(local_.Thousands());
+    const QRegularExpression patron(QRegularExpression::anchoredPattern(
+        PATRON.arg(permiteNegativos ? u"-?"_s : QString(), miles, QRegularExpression::escape(local_.sDecimal()))));
+    return patron.match(texto_).hasMatch();
+}
+
+std::optional<double> Numero::leer() const
+{
+    if (tecleado_ && !bienTecleado())
+        return {};
+    return leer_numero(desnudo());
+}
+
 void Numero::formatear()
 {
-    if (const auto valor = texto_.isEmpty() ? std::nullopt : leer_numero(desnudo()))
+    if (const auto valor = texto_.isEmpty() ? std::nullopt : leer())
         poner(mascara(*valor));
 }
 
@@ -67,7 +99,7 @@ double Numero::Value() const
 {
     if (leido_)
         return *leido_;
-    const auto valor = texto_.isEmpty() ? 0 : leer_numero(desnudo());
+    const auto valor = texto_.isEmpty() ? 0 : leer();
     if (!valor)
         throw ErrorConversion();
     leido_ = *valor;
@@ -89,10 +121,28 @@ void Numero::setValue(double valor)
 
 QString Numero::toSQL() const
 {
-    QString t = texto_;
-    if (!local_.Thousands().isEmpty())
-        t.remove(local_.Thousands());
-    return t.replace(local_.sDecimal(), u"."_s);
+    if (!legible())
+        throw ErrorConversion();
+    return texto_.isEmpty() ? QString() : desnudo();
+}
+
+QString Numero::de_pegado(const QString& texto) const
+{
+    static const QRegularExpression DELANTE(u"^(?:(?:U\\$[SD]|US\\$|AR\\$|\\$|€|N[°ºro]*\\.?[°º]?|No\\.)\\s*)+"_s,
+                                            QRegularExpression::CaseInsensitiveOption);
+    QString t = texto.trimmed().remove(DELANTE);
+    t.remove(QRegularExpression(u"\\s"_s));
+    if (cantidadDecimales == 0)
+        t.remove(u'-').remove(u'.');
+    Numero n(*this);
+    n.alCambiar = nullptr;
+    // A text of another country has the separators the other way round.
+    for (const QString& candidato : {t, con_separadores_cambiados(t)}) {
+        n.teclearTexto(candidato);
+        if (!n.vacio() && n.legible())
+            return n.desnudo().replace(u"."_s, local_.sDecimal());
+    }
+    return texto;
 }
 
 void Numero::ClearText()

@@ -2,6 +2,8 @@
 
 #include "widgets/barra.h"
 
+#include "widgets/formulario.h"
+
 #include <QAction>
 #include <QIcon>
 
@@ -93,8 +95,20 @@ void BarraHerramientas::setClaves(const QStringList& claves)
             if (parentWidget())
                 parentWidget()->addAction(accion);
         }
-        connect(accion, &QAction::triggered, this, [this, clave] { emit pulsada(clave); });
+        connect(accion, &QAction::triggered, this, [this, clave] { accionar(clave); });
     }
+}
+
+void BarraHerramientas::accionar(const QString& clave)
+{
+    Formulario* form = nullptr;
+    for (QWidget* w = this; w && !form; w = w->parentWidget())
+        form = qobject_cast<Formulario*>(w);
+    const auto informar = [this, &clave] { emit pulsada(clave); };
+    if (form)
+        form->actuar(informar, clave == u"salir");
+    else
+        informar();
 }
 
 QAction* BarraHerramientas::boton(const QString& clave) const
@@ -122,6 +136,15 @@ void BarraHerramientas::pulsar(const QString& clave)
 {
     if (QAction* a = boton(clave); a && isEnabled())
         a->trigger();
+}
+
+void BarraHerramientas::pulsarPrimera(const QStringList& claves)
+{
+    for (const QString& clave : claves)
+        if (boton(clave)) {
+            pulsar(clave);
+            return;
+        }
 }
 
 void BarraHerramientas::ayuda(const QString& clave, const QString& texto)

@@ -6,7 +6,8 @@
 #include <QToolBar>
 
 /// Builds a button for each key of `claves` ("-" is a separator) and reports the key that was
-/// pressed. A button is an action whose object name is its key.
+/// pressed, by a click, an access key or code. A button is an action whose object name is its key. As a bar takes
+/// no focus, the form leaves the field that is being typed first.
 class BarraHerramientas : public QToolBar
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ public:
     [[nodiscard]] bool habilitada(const QString& clave) const;
     /// Presses a button by code; nothing happens when it is disabled.
     void pulsar(const QString& clave);
+    /// Presses the first of these buttons that the bar has.
+    void pulsarPrimera(const QStringList& claves);
     /// The hint of a button.
     void ayuda(const QString& clave, const QString& texto);
 
@@ -34,6 +37,8 @@ signals:
     void pulsada(const QString& clave);
 
 private:
+    void accionar(const QString& clave);
+
     QStringList claves_;
     bool secundaria_ = false;
 };

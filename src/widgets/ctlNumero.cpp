@@ -2,9 +2,7 @@
 
 #include "widgets/ctlNumero.h"
 
-#include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -23,8 +21,10 @@ ctlNumero::ctlNumero(QWidget* padre) : QWidget(padre), txt_(new QLineEdit(this))
     setFocusProxy(txt_);
     txt_->installEventFilter(this);
 
+    // What the model wrote comes back with its own text; any other text is the user's.
     connect(txt_, &QLineEdit::textChanged, this, [this](const QString& texto) {
-        modelo_.escribirTexto(texto);
+        if (texto != modelo_.toString())
+            modelo_.teclearTexto(texto);
         emit cambiado();
     });
     modelo_.alCambiar = [this] { txt_->setText(modelo_.toString()); };
@@ -47,6 +47,7 @@ bool ctlNumero::Enabled() const
 void ctlNumero::Habilitar(bool si)
 {
     txt_->setReadOnly(!si);
+    txt_->setFocusPolicy(si ? Qt::StrongFocus : Qt::ClickFocus);
     pintarFondo();
 }
 
@@ -74,53 +75,4 @@ void ctlNumero::changeEvent(QEvent* evento)
     QWidget::changeEvent(evento);
     if (evento->type() == QEvent::PaletteChange)
         pintarFondo();
-}
-
-bool ctlNumero::eventFilter(QObject* objeto, QEvent* evento)
-{
-    switch (evento->type()) {
-    case QEvent::KeyPress: {
-        const auto* k = static_cast<QKeyEvent*>(evento);
-        const bool orden = k->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-        if (orden || k->key() == Qt::Key_Delete || k->key() == Qt::Key_Tab || k->key() == Qt::Key_Backtab
-            || k->text().isEmpty() || txt_->isReadOnly())
-            return false;
-        return tecla(k->text());
-    }
-    case QEvent::FocusIn:
-        // Coming back from a box or another program is no new entry into the field.
-        if (!editando_) {
-            editando_ = true;
-            modelo_.entrar();
-            txt_->selectAll();
-        }
-        return false;
-    case QEvent::FocusOut: {
-        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
-        if (motivo == Qt::ActiveWindowFocusReason || motivo == Qt::PopupFocusReason)
-            return false;
-        editando_ = false;
-        modelo_.formatear();
-        emit salida();
-        return false;
-    }
-    default: return QWidget::eventFilter(objeto, evento);
-    }
-}
-
-// Filters one character key; true when the text box is not to see it.
-bool ctlNumero::tecla(const QString& texto)
-{
-    const int original = texto.front().unicode();
-    const Numero::Tecla resultado = modelo_.filtrar(original);
-    if (resultado.cursorAlFinal)
-        txt_->end(false);
-    int keyAscii = resultado.keyAscii;
-    emit KeyPress(keyAscii);
-    if (keyAscii == 0)
-        return true;
-    if (keyAscii == original)
-        return false;
-    txt_->insert(QChar(keyAscii));
-    return true;
 }

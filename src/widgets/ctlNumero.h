@@ -6,7 +6,11 @@
 
 #include <QWidget>
 
+class QContextMenuEvent;
+class QDropEvent;
+class QKeyEvent;
 class QLineEdit;
+class QMouseEvent;
 
 class ctlNumero : public QWidget
 {
@@ -27,7 +31,7 @@ public:
     [[nodiscard]] int MaxLength() const { return maximo_; }
     /// 0 is without limit.
     void setMaxLength(int n);
-    /// A field that is not enabled keeps its text and can take the focus; it refuses typing.
+    /// A field that is not enabled keeps its text and can be clicked into; it refuses typing, and Tab passes it.
     [[nodiscard]] bool Enabled() const;
     void Habilitar(bool si);
     [[nodiscard]] bool Negrita() const;
@@ -61,10 +65,19 @@ protected:
 
 private:
     bool tecla(const QString& texto);
+    bool teclaConOrden(const QKeyEvent* evento);
+    bool raton(const QMouseEvent* evento);
+    void entrar(Qt::FocusReason motivo);
+    bool salir(Qt::FocusReason motivo);
+    void pegar(const QString& texto);
+    bool soltar(QDropEvent* evento);
+    bool menuContextual(const QContextMenuEvent* evento);
+    void avisarComa();
     void pintarFondo();
 
     Numero modelo_;
     QLineEdit* txt_;
     int maximo_ = 0;
     bool editando_ = false;
+    bool clicDeEntrada_ = false;  ///< the click that brought the focus is still under way
 };

@@ -5,9 +5,11 @@
 #include "widgets/ctlComunes.h"
 #include "widgets/grilla.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 EditorCelda::EditorCelda(Grilla* grilla, QComboBox* lista, QLineEdit* texto, const Columnas& columnas)
     : QObject(grilla), grilla_(grilla), lista_(lista), texto_(texto), columnas_(columnas)
@@ -34,6 +36,8 @@ void EditorCelda::editar_celda(int fila, int columna, const QString& caracter)
     editor->setGeometry(grilla_->visualRect(grilla_->currentIndex()));
     if (editor == lista_) {
         seleccionar_texto(lista_, texto);
+        if (const int i = caracter.isEmpty() ? -1 : lista_->findText(caracter, Qt::MatchStartsWith); i >= 0)
+            lista_->setCurrentIndex(i);
     } else if (!caracter.isEmpty()) {
         texto_->setText(caracter);
     } else {
@@ -46,23 +50,24 @@ void EditorCelda::editar_celda(int fila, int columna, const QString& caracter)
 
 void EditorCelda::cerrar_celda(bool guardar)
 {
+    QWidget* editor = lista_->isHidden() ? static_cast<QWidget*>(texto_) : lista_;
     const int fila = grilla_->filaActual();
-    const bool escribir = guardar && fila >= 0;
-    if (lista_->isVisible()) {
-        const bool elegido = lista_->currentIndex() >= 0;
-        if (escribir) {
-            grilla_->ponerCelda(fila, columnas_.dato, elegido ? lista_->currentData().toString() : QString());
-            grilla_->ponerCelda(fila, columnas_.lista, elegido ? lista_->currentText() : QString());
-            emit listaEscrita();
-        }
-        lista_->hide();
+    if (editor->isHidden() || cerrando_)
+        return;
+    const QScopedValueRollback cerrando(cerrando_, true);
+    if (editor->hasFocus())
         grilla_->setFocus();
-    } else if (texto_->isVisible()) {
-        if (escribir)
-            grilla_->ponerCelda(fila, columnas_.texto, texto_->text());
-        texto_->hide();
-        grilla_->setFocus();
+    editor->hide();
+    if (!guardar || fila < 0)
+        return;
+    if (editor == texto_) {
+        grilla_->ponerCelda(fila, columnas_.texto, texto_->text());
+        return;
     }
+    const bool elegido = lista_->currentIndex() >= 0;
+    grilla_->ponerCelda(fila, columnas_.dato, elegido ? lista_->currentData().toString() : QString());
+    grilla_->ponerCelda(fila, columnas_.lista, elegido ? lista_->currentText() : QString());
+    emit listaEscrita();
 }
 
 bool EditorCelda::tecla_en_grilla(const QObject* editor, const QKeyEvent* evento)
@@ -76,12 +81,12 @@ bool EditorCelda::tecla_en_grilla(const QObject* editor, const QKeyEvent* evento
     case Qt::Key_Left:
         if (en_texto && texto_->cursorPosition() > 0)
             return false;
-        editarColumnaVecina(columna - 1);
+        editarColumnaVecina(columna, -1);
         return true;
     case Qt::Key_Right:
         if (en_texto && texto_->cursorPosition() < texto_->text().size())
             return false;
-        editarColumnaVecina(columna + 1);
+        editarColumnaVecina(columna, 1);
         return true;
     case Qt::Key_Up:
     case Qt::Key_Down:
@@ -93,13 +98,16 @@ bool EditorCelda::tecla_en_grilla(const QObject* editor, const QKeyEvent* evento
     }
 }
 
-// The grid goes there also when the column has no editor.
-void EditorCelda::editarColumnaVecina(int columna)
+// The grid goes there also when the column has no editor; at its edge everything stays as it is.
+void EditorCelda::editarColumnaVecina(int columna, int paso)
 {
+    const int vecina = grilla_->columnaVecina(columna, paso);
+    if (vecina < 0)
+        return;
     const int fila = grilla_->filaActual();
     cerrar_celda(true);
-    grilla_->irAFila(fila, columna);
-    editar_celda(fila, columna);
+    grilla_->irAFila(fila, vecina);
+    editar_celda(fila, vecina);
 }
 
 // False at the ends of the grid, where nothing changes.
@@ -122,16 +130,23 @@ bool EditorCelda::abrirPorTecla(const QKeyEvent* evento)
     if (evento->key() == Qt::Key_Up || evento->key() == Qt::Key_Down)
         return editarFilaVecina(evento->key(), columna);
     const QString texto = evento->text();
-    const bool orden = evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const bool orden = evento->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const bool entrar = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
-    if (orden || texto.isEmpty() || (texto.front() < u' ' && !entrar))
+    if (orden || texto.isEmpty() || (!texto.front().isPrint() && !entrar))
         return false;
     editar_celda(grilla_->filaActual(), columna, texto.front() > u' ' ? texto : QString());
     return true;
 }
 
+// What is left takes what it holds with it, as by Enter.
 bool EditorCelda::eventFilter(QObject* objeto, QEvent* evento)
 {
+    if (evento->type() == QEvent::FocusOut && objeto != grilla_) {
+        const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+        const bool sale = motivo != Qt::PopupFocusReason && motivo != Qt::ActiveWindowFocusReason;
+        if (sale && !lista_->view()->isVisible())
+            cerrar_celda(true);
+    }
     if (evento->type() == QEvent::KeyPress) {
         const auto* tecla = static_cast<QKeyEvent*>(evento);
         if (objeto == grilla_ ? abrirPorTecla(tecla) : tecla_en_grilla(objeto, tecla))

@@ -26,8 +26,8 @@ public:
     EditorCelda(Grilla* grilla, QComboBox* lista, QLineEdit* texto, const Columnas& columnas);
 
     /// Closes what is open, goes to the cell and opens its editor; a cell of another column has none. The
-    /// list shows the entry of the cell's text. The text box begins with the character that was typed, or
-    /// with the cell's text, selected, when none was.
+    /// list shows the entry of the cell's text, or the first one that begins with the character that was typed.
+    /// The text box begins with that character, or with the cell's text, selected, when none was.
     void editar_celda(int fila, int columna, const QString& caracter = {});
     /// A key in an open editor: it closes, moves to the next cell, or stays. True when the key is used up.
     bool tecla_en_grilla(const QObject* editor, const QKeyEvent* evento);
@@ -45,10 +45,11 @@ protected:
 private:
     bool abrirPorTecla(const QKeyEvent* evento);
     bool editarFilaVecina(int tecla, int columna);
-    void editarColumnaVecina(int columna);
+    void editarColumnaVecina(int columna, int paso);
 
     Grilla* grilla_;
     QComboBox* lista_;
     QLineEdit* texto_;
     Columnas columnas_;
+    bool cerrando_ = false;
 };

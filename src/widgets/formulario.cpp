@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The life of a form: how it shows, is activated, and unloads.
 
 #include "widgets/formulario.h"
 
-#include "widgets/barra.h"
-#include "widgets/ctlNumero.h"
 #include "widgets/grilla.h"
-#include "widgets/mensajes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
-#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScopedValueRollback>
 #include <QScreen>
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -23,15 +19,6 @@ namespace {
 QPointer<QMdiArea> area_principal;
 QList<QPointer<Formulario>> abiertos;
 QPointer<Formulario> ultima_activa;
-
-// Brings to the front the pages of tab widgets on which the control stands.
-void mostrar_solapa_de(QWidget* control)
-{
-    for (QWidget* w = control; w && w->parentWidget(); w = w->parentWidget())
-        for (QWidget* p = w->parentWidget(); p; p = p->parentWidget())
-            if (auto* solapas = qobject_cast<QTabWidget*>(p); solapas && solapas->indexOf(w) >= 0)
-                solapas->setCurrentIndex(solapas->indexOf(w));
-}
 
 }  // namespace
 
@@ -64,6 +51,8 @@ QList<Formulario*> Formulario::cargados()
 
 void Formulario::mostrar()
 {
+    const bool primera = !isVisible();
+    const QPointer<QWidget> pedido = focusWidget();
     if (area_principal && !subventana_) {
         const QSize propia = size().expandedTo(minimumSizeHint());
         subventana_ = area_principal->addSubWindow(this);
@@ -77,11 +66,19 @@ void Formulario::mostrar()
         subventana_->move(std::min(paso, std::max(0, resto.width())), std::min(paso, std::max(0, resto.height())));
     }
     traerAlFrente();
+    if (!primera)
+        return;
+    if (pedido && pedido->isVisible() && pedido->isEnabled())
+        pedido->setFocus(Qt::OtherFocusReason);
+    else
+        enfocarPrimero();
 }
 
 void Formulario::traerAlFrente()
 {
     if (subventana_) {
+        if (subventana_->isMinimized())
+            subventana_->setWindowState(subventana_->windowState() & ~Qt::WindowMinimized);
         subventana_->show();
         show();
         area_principal->setActiveSubWindow(subventana_);
@@ -98,16 +95,20 @@ void Formulario::activarse()
 {
     ultima_activa = this;
     if (Llamador) {
-        if (Llamador->isEnabled())
-            Llamador->foco_ = Llamador->focusWidget();
         Llamador->setEnabled(false);
         if (Llamador->subventana_)
             Llamador->subventana_->setEnabled(false);
     }
-    alActivar();
+    proteger([this] { alActivar(); });
 }
 
 bool Formulario::descargar()
+{
+    const QScopedValueRollback sin_pregunta(porPrograma_, true);
+    return descargada_ || (subventana_ ? subventana_->close() : close());
+}
+
+bool Formulario::cerrar()
 {
     return descargada_ || (subventana_ ? subventana_->close() : close());
 }
@@ -116,7 +117,10 @@ void Formulario::closeEvent(QCloseEvent* evento)
 {
     if (descargada_)
         return;
-    if (!isEnabled() || !consultarDescarga()) {
+    bool sigue = !isEnabled();
+    if (!sigue && !porPrograma_ && hayCambios())
+        sigue = !preguntar(u"¿Descartar los cambios?"_s, windowTitle());
+    if (sigue || !proteger([&] { sigue = !consultarDescarga(); }) || sigue) {
         evento->ignore();
         return;
     }
@@ -128,28 +132,27 @@ void Formulario::closeEvent(QCloseEvent* evento)
     if (!subventana_)
         deleteLater();
     evento->accept();
-    if (!Llamador || Llamador->descargada_)
-        return;
-    Llamador->setEnabled(true);
-    if (Llamador->subventana_)
-        Llamador->subventana_->setEnabled(true);
-    Llamador->traerAlFrente();
-    if (Llamador->foco_ && Llamador->foco_->isVisible() && Llamador->foco_->isEnabled())
-        Llamador->foco_->setFocus();
+    activarAnterior();
 }
 
-// A field that only shows has the colour of the window's face.
-void Formulario::showEvent(QShowEvent* evento)
+// The caller, else the topmost of the forms that may be used.
+void Formulario::activarAnterior()
 {
-    QWidget::showEvent(evento);
-    const auto textos = findChildren<QLineEdit*>();
-    for (QLineEdit* texto : textos) {
-        if (!texto->isReadOnly() || texto->objectName() == u"txt")
-            continue;
-        QPalette p = texto->palette();
-        p.setColor(QPalette::Base, palette().color(QPalette::Button));
-        texto->setPalette(p);
+    QPointer<Formulario> anterior = Llamador;
+    if (!anterior && area_principal) {
+        const auto ventanas = area_principal->subWindowList(QMdiArea::StackingOrder);
+        for (QMdiSubWindow* v : ventanas)
+            if (auto* f = qobject_cast<Formulario*>(v->widget());
+                f && f != this && !f->descargada_ && f->isEnabled() && v->isVisible() && !v->isMinimized())
+                anterior = f;
     }
+    if (!anterior || anterior->descargada_)
+        return;
+    anterior->setEnabled(true);
+    if (anterior->subventana_)
+        anterior->subventana_->setEnabled(true);
+    anterior->traerAlFrente();
+    anterior->devolverFoco();
 }
 
 void Formulario::changeEvent(QEvent* evento)
@@ -160,67 +163,11 @@ void Formulario::changeEvent(QEvent* evento)
         activarse();
 }
 
-void Formulario::formatearNumeros()
-{
-    for (ctlNumero* n : findChildren<ctlNumero*>())
-        n->modelo().formatear();
-}
-
-void Formulario::aceptarOSalir(BarraHerramientas* barra, const std::function<void()>& aceptar)
-{
-    connect(barra, &BarraHerramientas::pulsada, this, [this, aceptar](const QString& clave) {
-        if (clave == u"aceptar")
-            aceptar();
-        else
-            descargar();
-    });
-}
-
-void Formulario::keyPressEvent(QKeyEvent* evento)
-{
-    const bool acepta = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
-    if (barra_ && (acepta || evento->key() == Qt::Key_Escape))
-        barra_->pulsar(acepta ? u"aceptar"_s : u"cancelar"_s);
-    else
-        QWidget::keyPressEvent(evento);
-}
-
 void Formulario::abrir(Formulario* hijo)
 {
+    foco_ = focusWidget() == this ? dejado_.data() : focusWidget();
     hijo->Llamador = this;
     hijo->mostrar();
-}
-
-void Formulario::avisar(const QString& texto, const QString& titulo, Icono icono)
-{
-    DialogoPantalla(this).avisar({texto, titulo, icono});
-}
-
-bool Formulario::preguntar(const QString& texto, const QString& titulo, Icono icono)
-{
-    return DialogoPantalla(this).preguntar({texto, titulo, icono});
-}
-
-void Formulario::mostrarFalla(const Falla& falla)
-{
-    avisar(falla.mensaje, falla.titulo.value_or(windowTitle()), falla.icono);
-    enfocar(falla.control);
-}
-
-void Formulario::enfocar(const QString& control)
-{
-    auto* w = control.isEmpty() ? nullptr : findChild<QWidget*>(control);
-    if (!w)
-        return;
-    mostrar_solapa_de(w);
-    if (w->isVisible() && w->isEnabled())
-        w->setFocus(Qt::OtherFocusReason);
-}
-
-bool Formulario::esActivo(const QWidget* control) const
-{
-    const QWidget* f = focusWidget();
-    return f && (f == control || control->isAncestorOf(f));
 }
 
 void ajustar_a_principal(Formulario* form, bool maximizar)

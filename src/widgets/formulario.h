@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Base of all forms: the single instance that loads on demand, its caller, its life as a child
-// window of the main window.
+// window of the main window, its focus, and the guard of all that a user does in it.
 #pragma once
 
 #include "core/dialogo.h"
+#include "widgets/invocar.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -27,8 +28,11 @@ public:
 
     /// Shows the form as a child of the main window, or brings it to the front.
     void mostrar();
-    /// Unloads the form, after its question; false when the user keeps it.
+    /// Unloads the form, after its question; false when the user keeps it. What was typed and not stored is
+    /// given up without a word: the form does this by itself.
     bool descargar();
+    /// The same as by the window's own button, which asks about what was typed and not stored.
+    bool cerrar();
     [[nodiscard]] bool descargada() const { return descargada_; }
 
     /// The area in which forms show from now on; none makes them windows of their own.
@@ -39,11 +43,37 @@ public:
     /// What runs on each activation, after the caller has been disabled.
     virtual void alActivar() {}
 
+    /// Runs the action of a bar's button: the field with the focus is left before, as by Tab, and a refusal that
+    /// this raises stops the button; the action runs in the guard; the focus stands in the field again afterwards
+    /// when the form has not moved it. A button that only leaves (`sale`) is stopped by a box alone.
+    void actuar(const std::function<void()>& accion, bool sale);
+
 protected:
     /// Whether the form may close; here a form asks.
     virtual bool consultarDescarga() { return true; }
     /// What a form does as it unloads.
     virtual void alDescargar() {}
+    /// Whether what the controls hold is on its way to the store, so that a difference would be lost.
+    virtual bool editando() const { return true; }
+
+    /// Connects a signal to an action of this form, which runs in the guard.
+    template <class Emisor, class Senal, class Accion>
+    QMetaObject::Connection atender(Emisor* emisor, Senal senal, Accion accion)
+    {
+        return connect(emisor, senal, this,
+                       [this, accion](auto&&... argumentos) { proteger([&] { invocar(accion, argumentos...); }); });
+    }
+    template <class Emisor, class Senal, class Resultado, class Clase, class... Parametros>
+    QMetaObject::Connection atender(Emisor* emisor, Senal senal, Resultado (Clase::*metodo)(Parametros...))
+    {
+        return atender(emisor, senal,
+                       [yo = static_cast<Clase*>(this), metodo](Parametros... valores) { (yo->*metodo)(valores...); });
+    }
+    /// Runs an action. What it fails with is rolled back and told; form and typed values stay as they are. Only a
+    /// store that is gone or damaged goes on to the program's end. False after a failure.
+    bool proteger(const std::function<void()>& accion);
+    /// A refusal without a box, raised while a field is left.
+    static void negar();
 
     void avisar(const QString& texto, const QString& titulo, Icono icono = Icono::informacion);
     [[nodiscard]] bool preguntar(const QString& texto, const QString& titulo, Icono icono = Icono::pregunta);
@@ -51,17 +81,22 @@ protected:
     void mostrarFalla(const Falla& falla);
     /// The focus to a control by its name, when it is visible and enabled.
     void enfocar(const QString& control);
-    /// Whether the control, or what stands inside it, has the focus.
-    [[nodiscard]] bool esActivo(const QWidget* control) const;
-    /// Puts the number fields under their masks, also the one that is being typed: what is stored is what shows.
-    void formatearNumeros();
+    /// The focus to the first field that can be typed in, else to a grid, else to what comes first.
+    void enfocarPrimero();
     /// "aceptar" of the bar runs the action, any other of its keys unloads the form.
     void aceptarOSalir(BarraHerramientas* barra, const std::function<void()>& aceptar);
-    /// Enter anywhere on the form presses "aceptar" of the bar, Escape "cancelar".
-    void teclasDeBarra(BarraHerramientas* barra) { barra_ = barra; }
+    /// Enter anywhere on the form presses "aceptar" (or "seleccionar") of the bar; Escape "cancelar" (or
+    /// "salir") too, but where what was typed would go with it.
+    enum class Escape { cancela, nada };
+    void teclasDeBarra(BarraHerramientas* barra, Escape escape = Escape::cancela);
+    /// Escape closes a form that only shows.
+    void cerrarConEscape() { soloMuestra_ = true; }
     /// Brings a form that this one opens into its place: caller set, window shown.
     void abrir(Formulario* hijo);
+    /// From here on a difference of the controls below `raiz` (the whole form without it) is an unsaved change.
+    void marcarGuardado(const QWidget* raiz = nullptr);
 
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void changeEvent(QEvent* evento) override;
@@ -70,11 +105,25 @@ protected:
 private:
     void traerAlFrente();
     void activarse();
+    void activarAnterior();
+    [[nodiscard]] bool dejarCampo(QWidget* campo, bool sale);
+    void recuperarFoco(QWidget* campo);
+    void devolverFoco();
+    void enfocarIlegible();
+    [[nodiscard]] bool hayCambios() const;
+    void prepararControles();
 
     QPointer<QMdiSubWindow> subventana_;
     bool descargada_ = false;
+    bool preparada_ = false;
+    bool porPrograma_ = false;  ///< the form unloads itself
     BarraHerramientas* barra_ = nullptr;
-    QPointer<QWidget> foco_;  ///< what had the focus when another form was opened
+    bool soloMuestra_ = false;
+    Escape escape_ = Escape::nada;
+    QPointer<QWidget> foco_;    ///< what had the focus when another form was opened
+    QPointer<QWidget> dejado_;  ///< the field that was left for an action of a bar
+    QPointer<const QWidget> raiz_;
+    QStringList huella_;
 };
 
 /// Fits a form to the main window: as large as that, but for a margin, in its upper left corner; or, without

@@ -69,24 +69,28 @@ int Grilla::primeraVisible() const
 void Grilla::llenar(const std::function<void()>& rellenar)
 {
     const QString anterior = clave();
+    const int lugar = std::max(filaActual(), 0);
     const int columna = std::max(currentIndex().column(), 0);
     const int desplazamiento = verticalScrollBar()->value();
     struct Cierre
     {
         Grilla& g;
         const QString& anterior;
+        int lugar;
         int columna;
         int desplazamiento;
         ~Cierre()
         {
             g.modelo_.terminar();
-            const int fila = anterior.isEmpty() ? 0 : std::max(0, g.modelo_.filaCon(g.columnaClave_, anterior));
+            const int hallada = anterior.isEmpty() ? 0 : g.modelo_.filaCon(g.columnaClave_, anterior);
+            // The row is gone: the one that took its place.
+            const int fila = hallada >= 0 ? hallada : std::min(lugar, g.filas() - 1);
             g.verticalScrollBar()->setValue(desplazamiento);
             g.irAFila(fila, columna);
         }
     };
     modelo_.comenzar();
-    const Cierre cierre{*this, anterior, columna, desplazamiento};
+    const Cierre cierre{*this, anterior, lugar, columna, desplazamiento};
     rellenar();
 }
 
@@ -103,6 +107,14 @@ void Grilla::irAFila(int fila, int columna)
     const int destino = columna < 0 ? currentIndex().column() : columna;
     const bool sirve = destino >= 0 && destino < modelo_.columnCount() && !isColumnHidden(destino);
     setCurrentIndex(modelo_.index(fila, sirve ? destino : primeraVisible()));
+}
+
+int Grilla::columnaVecina(int columna, int paso) const
+{
+    for (columna += paso; columna >= 0 && columna < modelo_.columnCount(); columna += paso)
+        if (!isColumnHidden(columna))
+            return columna;
+    return -1;
 }
 
 void Grilla::keyPressEvent(QKeyEvent* evento)

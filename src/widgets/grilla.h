@@ -18,8 +18,8 @@ public:
     /// Titles, and widths in twips; a width of 0 hides the column.
     void preparar(const QStringList& titulos, const QList<int>& anchos);
     /// Empties the grid and fills it by the function, which calls `agregar`. The row that was
-    /// selected, known by its key cell, is selected again, else the first one. When the function
-    /// throws, the rows that it added stay.
+    /// selected, known by its key cell, is selected again; when it is gone, the one that took its place. When the
+    /// function throws, the rows that it added stay.
     void llenar(const std::function<void()>& rellenar);
     void agregar(const QStringList& celdas) { modelo_.agregar(celdas); }
     void agregar(std::span<const std::string_view> celdas) { modelo_.agregar(celdas); }
@@ -37,6 +37,8 @@ public:
     void setColumnaClave(int columna) { columnaClave_ = columna; }
     /// The key cell of the current row, empty without one.
     [[nodiscard]] QString clave() const { return celda(filaActual(), columnaClave_); }
+    /// The next column that is not hidden, to the left (-1) or to the right (1); -1 without one.
+    [[nodiscard]] int columnaVecina(int columna, int paso) const;
 
 signals:
     /// A double click on a row, or Enter on it.

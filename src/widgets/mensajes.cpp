@@ -27,8 +27,11 @@ int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons boton
 
 }  // namespace
 
+int DialogoPantalla::avisos_ = 0;
+
 void DialogoPantalla::avisar(const Mensaje& mensaje)
 {
+    ++avisos_;
     mostrar(padre_, mensaje, QMessageBox::Ok);
 }
 

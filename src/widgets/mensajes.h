@@ -14,6 +14,10 @@ public:
     void avisar(const Mensaje& mensaje) override;
     [[nodiscard]] bool preguntar(const Mensaje& mensaje) override;
 
+    /// How many notices have been shown since the program began.
+    [[nodiscard]] static int avisos() { return avisos_; }
+
 private:
+    static int avisos_;
     QWidget* padre_;
 };

@@ -12,6 +12,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -72,7 +73,10 @@ QString texto(QWidget* form, const QString& nombre)
     return linea(w)->text();
 }
 
-void teclear(QWidget* form, const QString& nombre, const QString& texto)
+namespace {
+
+// The field with the focus, all of it selected.
+QLineEdit* tomar(QWidget* form, const QString& nombre)
 {
     QWidget* w = control(form, nombre);
     exigir_activo(w);
@@ -82,6 +86,34 @@ void teclear(QWidget* form, const QString& nombre, const QString& texto)
     if (!l->hasFocus())
         QTest::mouseClick(l, Qt::LeftButton);
     QTest::keyClick(l, Qt::Key_A, Qt::ControlModifier);
+    return l;
+}
+
+}  // namespace
+
+void pegar(QWidget* form, const QString& nombre, const QString& texto)
+{
+    QApplication::clipboard()->setText(texto);
+    Cajas::vigilar([&] { QTest::keyClick(tomar(form, nombre), Qt::Key_V, Qt::ControlModifier); });
+}
+
+void acceso(QWidget* form, int letra)
+{
+    exigir_activo(form);
+    QWidget* foco = QApplication::focusWidget();
+    Cajas::vigilar([&] { QTest::keyClick(foco ? foco : form, Qt::Key(letra), Qt::AltModifier); });
+}
+
+QString con_foco(QWidget* form)
+{
+    const QWidget* w = form->focusWidget();
+    const bool parte = w && (w->objectName() == u"txt" || w->objectName().startsWith(u"qt_"));
+    return !w ? QString() : parte ? w->parentWidget()->objectName() : w->objectName();
+}
+
+void teclear(QWidget* form, const QString& nombre, const QString& texto)
+{
+    QLineEdit* l = tomar(form, nombre);
     QTest::keyClick(l, Qt::Key_Delete);
     for (const QChar c : texto) {
         // A widget takes the character of the event, also where the key has no Latin-1 code.
@@ -182,6 +214,7 @@ void pulsar(QWidget* form, const QString& barra, const QString& clave)
     QWidget* boton = boton_de(form, barra, clave);
     if (!boton->isEnabled())
         throw Inesperado(u"el botón %1 de %2 está inhabilitado"_s.arg(clave, barra));
+    exigir_activo(form);
     Cajas::vigilar([&] { QTest::mouseClick(boton, Qt::LeftButton); });
 }
 

@@ -19,6 +19,10 @@ namespace manejo {
 void escribir(QWidget* form, const QString& nombre, const QString& texto);
 /// The same without leaving the field.
 void teclear(QWidget* form, const QString& nombre, const QString& texto);
+/// Puts a text on the clipboard and pastes it over the field's text, without leaving the field.
+void pegar(QWidget* form, const QString& nombre, const QString& texto);
+/// Alt and a letter, where the focus is; the access keys of bars and buttons are pressed so.
+void acceso(QWidget* form, int letra);
 /// Opens a combo and picks the first entry that begins with the text.
 void elegir(QWidget* form, const QString& nombre, const QString& texto);
 /// Clicks a button, a box or an option; throws Inesperado when it is disabled or hidden.
@@ -28,6 +32,8 @@ void pulsar(QWidget* form, const QString& barra, const QString& clave);
 /// Whether a button of a toolbar is enabled.
 [[nodiscard]] bool habilitado(QWidget* form, const QString& barra, const QString& clave);
 void tecla(QWidget* form, const QString& nombre, int tecla);
+/// The name of the control with the focus; a part of a composed control goes by the control's name.
+[[nodiscard]] QString con_foco(QWidget* form);
 /// Brings a page of a tab widget to the front by a click on its tab.
 void solapa(QWidget* form, const QString& nombre, int indice);
 /// Clicks a cell of a grid.

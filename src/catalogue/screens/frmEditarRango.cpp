@@ -74,7 +74,6 @@ bool frmEditarRango::guardar(const Rango& r)
 
 void frmEditarRango::aceptar()
 {
-    formatearNumeros();
     preparar();
     const Rango r{subconcepto_, c_.nroDesde->toSQL(), c_.chkValorHasta->isChecked(), c_.nroHasta->toSQL(), valores()};
     DialogoPantalla dialogo(this);

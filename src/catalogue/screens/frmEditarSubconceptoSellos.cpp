@@ -125,7 +125,6 @@ void frmEditarSubconceptoSellos::aceptar()
 {
     // A choice in a list that is still open is told when it closes.
     ui->ctlTipoCalculo->Cerrarse();
-    formatearNumeros();
     ControlesSubconcepto c = leer_controles();
     const auto falla = validar_subconcepto(c);
     for (const CampoSubconcepto& campo : campos_subconcepto())

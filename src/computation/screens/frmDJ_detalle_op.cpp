@@ -64,53 +64,53 @@ void frmDJ_detalle_op::prepararLeyendas()
 
 void frmDJ_detalle_op::conectar()
 {
-    connect(ui->tlb, &BarraHerramientas::pulsada, this, &frmDJ_detalle_op::tlb_pulsada);
-    connect(ui->tlbBI, &BarraHerramientas::pulsada, this, &frmDJ_detalle_op::tlbBI_pulsada);
-    connect(ui->tlbPartes, &BarraHerramientas::pulsada, this, &frmDJ_detalle_op::tlbPartes_pulsada);
-    connect(ui->ctlCodS, &ctlNumero::KeyPress, this, [this](int& tecla) {
+    atender(ui->tlb, &BarraHerramientas::pulsada, &frmDJ_detalle_op::tlb_pulsada);
+    atender(ui->tlbBI, &BarraHerramientas::pulsada, &frmDJ_detalle_op::tlbBI_pulsada);
+    atender(ui->tlbPartes, &BarraHerramientas::pulsada, &frmDJ_detalle_op::tlbPartes_pulsada);
+    atender(ui->ctlCodS, &ctlNumero::KeyPress, [this](int& tecla) {
         if (tecla == 13 && seleccionarPorCodigo())
             ponerEstado(Estado::cambiando);
     });
-    connect(ui->cmdBuscarSubcon, &QPushButton::clicked, this, [this] {
+    atender(ui->cmdBuscarSubcon, &QPushButton::clicked, [this] {
         auto* catalogo = cargar<frmSubconceptos>();
         catalogo->ley = ley_;
         abrir(catalogo);
     });
-    connect(ui->cmdDetallesSSUB, &QPushButton::clicked, this, [this] {
+    atender(ui->cmdDetallesSSUB, &QPushButton::clicked, [this] {
         if (!subconcepto_)
             return;
         auto* detalle = cargar<frmDetalleSSUB>();
         detalle->mostrarSubconcepto(*subconcepto_);
         abrir(detalle);
     });
-    connect(ui->cmdBienes, &QPushButton::clicked, this, [this] { ui->flxInm->setVisible(!ui->flxInm->isVisible()); });
-    connect(ui->flxInm, &QTableView::clicked, this, [this](const QModelIndex& i) { elegirInmueble(i.row()); });
-    connect(ui->flxInm, &Grilla::elegida, this, [this] { elegirInmueble(ui->flxInm->filaActual()); });
+    atender(ui->cmdBienes, &QPushButton::clicked, [this] { ui->flxInm->setVisible(!ui->flxInm->isVisible()); });
+    atender(ui->flxInm, &QTableView::clicked, [this](const QModelIndex& i) { elegirInmueble(i.row()); });
+    atender(ui->flxInm, &Grilla::elegida, [this] { elegirInmueble(ui->flxInm->filaActual()); });
 }
 
 void frmDJ_detalle_op::conectarCalculo()
 {
     for (ctlNumero* n : {ui->nroAdicionales, ui->nroExencionPorc, ui->nroObligAccesoria, ui->nroPagoACuenta})
-        connect(n, &ctlNumero::salida, this, &frmDJ_detalle_op::calcularImpuesto);
-    connect(ui->nroValuacionFiscal, &ctlNumero::salida, this, &frmDJ_detalle_op::calcularBaseEImpuesto);
-    connect(ui->SSTab1, &QTabWidget::currentChanged, this, [this] {
+        atender(n, &ctlNumero::salida, &frmDJ_detalle_op::calcularImpuesto);
+    atender(ui->nroValuacionFiscal, &ctlNumero::salida, &frmDJ_detalle_op::calcularBaseEImpuesto);
+    atender(ui->SSTab1, &QTabWidget::currentChanged, [this] {
         if (!cargando_)
             calcularBaseEImpuesto();
     });
-    connect(ui->chkObligAccesoria, &QCheckBox::toggled, this, &frmDJ_detalle_op::habilitarObligacion);
-    connect(ui->cboObligAccesoria_modo, &QComboBox::currentIndexChanged, this, &frmDJ_detalle_op::habilitarObligacion);
+    atender(ui->chkObligAccesoria, &QCheckBox::toggled, &frmDJ_detalle_op::habilitarObligacion);
+    atender(ui->cboObligAccesoria_modo, &QComboBox::currentIndexChanged, &frmDJ_detalle_op::habilitarObligacion);
 }
 
 void frmDJ_detalle_op::conectarValores()
 {
     for (ctlNumero* n : {ui->nroValorContractual, ui->nroPorcIVA, ui->ctlValorCambio}) {
-        connect(n, &ctlNumero::salida, this, &frmDJ_detalle_op::calcularParcial);
-        connect(n, &ctlNumero::KeyPress, this, [this](int& tecla) {
+        atender(n, &ctlNumero::salida, &frmDJ_detalle_op::calcularParcial);
+        atender(n, &ctlNumero::KeyPress, [this](int& tecla) {
             if (tecla == 13)
                 ui->tlbBI->pulsar(u"guardar"_s);
         });
     }
-    connect(ui->cboMoneda, &QComboBox::activated, this, &frmDJ_detalle_op::cambioMoneda);
+    atender(ui->cboMoneda, &QComboBox::activated, &frmDJ_detalle_op::cambioMoneda);
 }
 
 void frmDJ_detalle_op::fijarRenglon(const QString& dj, const QString& renglon, const QString& dia,
@@ -140,6 +140,7 @@ void frmDJ_detalle_op::Iniciar(Modo operacion, int id)
         setWindowTitle(u"Nueva operación"_s);
         ui->fraSSUB->setEnabled(true);
         habilitarEleccion(true);
+        ui->txtSubconcepto->setReadOnly(false);
         ponerEstado(Estado::nueva);
         ui->ctlCodS->setFocus();
     } else if (operacion == Modo::modificar) {
@@ -152,6 +153,7 @@ void frmDJ_detalle_op::Iniciar(Modo operacion, int id)
         cargando_ = false;
         recargarRoles();
         habilitarEleccion(false);
+        ui->txtSubconcepto->setReadOnly(true);
         ponerEstado(Estado::consulta);
     }
     DialogoPantalla dialogo(this);

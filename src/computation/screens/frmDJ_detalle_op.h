@@ -43,6 +43,7 @@ signals:
 
 protected:
     bool consultarDescarga() override;
+    void keyPressEvent(QKeyEvent* evento) override;
 
 private:
     /// The places of the tabs.
@@ -60,6 +61,8 @@ private:
     void ponerEstado(Estado estado);
     void alturaCompleta();
     void tlb_pulsada(const QString& clave);
+    void editar();
+    void enfocarEdicion();
     void cancelar();
 
     // The item of the operation.

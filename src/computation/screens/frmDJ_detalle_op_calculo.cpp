@@ -9,6 +9,8 @@
 #include "widgets/ctlComunes.h"
 #include "widgets/mensajes.h"
 
+#include <QScopedValueRollback>
+
 using namespace Qt::StringLiterals;
 
 CamposImpuesto frmDJ_detalle_op::campos()
@@ -53,8 +55,11 @@ void frmDJ_detalle_op::calcularImpuesto()
     EstadoOperacion e = estadoOperacion();
     CalcularImpuesto(campos(), e, dialogo);
     ui->lblMoA->setText(e.lblMoA);
-    if (e.enfocarMoA)
-        ui->nroMoA->setFocus();
+    if (!e.enfocarMoA)
+        return;
+    // Its tab comes to the front, which is no reason to calculate again.
+    const QScopedValueRollback cargando(cargando_, true);
+    enfocar(u"nroMoA"_s);
 }
 
 void frmDJ_detalle_op::calcularBaseEImpuesto()

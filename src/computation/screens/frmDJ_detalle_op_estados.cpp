@@ -5,6 +5,8 @@
 
 #include "ui_frmDJ_detalle_op.h"
 
+#include <QKeyEvent>
+
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -56,11 +58,35 @@ void frmDJ_detalle_op::tlb_pulsada(const QString& clave)
     else if (clave == u"cambiar_op")
         cambiarOperacion();
     else if (clave == u"editar_det")
-        ponerEstado(Estado::editando);
+        editar();
     else if (clave == u"guardar_det")
         guardarDetalle();
     else
         cancelar();
+}
+
+void frmDJ_detalle_op::editar()
+{
+    ponerEstado(Estado::editando);
+    enfocarEdicion();
+}
+
+// The contract values come first on their tab; leaving their grid calculates nothing.
+void frmDJ_detalle_op::enfocarEdicion()
+{
+    if (ui->flxVC->isVisible() && subconcepto_ && subconcepto_->RequiereValorContractual)
+        ui->flxVC->setFocus();
+    else
+        enfocarPrimero();
+}
+
+// Escape gives up the contract value that is being entered.
+void frmDJ_detalle_op::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Escape && ui->fraEditarVC->isVisible())
+        ui->tlbBI->pulsar(u"cancelar"_s);
+    else
+        Formulario::keyPressEvent(evento);
 }
 
 void frmDJ_detalle_op::cancelar()
@@ -73,6 +99,7 @@ void frmDJ_detalle_op::cancelar()
         leerInmuebles();
         ponerEstado(Estado::nueva);
         ui->tlb->habilitar(u"salir"_s, true);
+        ui->ctlCodS->setFocus();
         return;
     }
     limpiarPanel();

@@ -32,7 +32,7 @@ void frmDJ_detalle_op::guardarOperacion()
     recargarValores();
     calcularImpuesto();
     habilitarEleccion(false);
-    ponerEstado(Estado::editando);
+    editar();
 }
 
 // The row, with its keys and its item alone; the rest comes on top of it.
@@ -51,6 +51,8 @@ void frmDJ_detalle_op::agregarOperacion()
     recargarRoles();
     ponerEstado(Estado::reciengrabada);
     habilitarEleccion(false);
+    ui->txtSubconcepto->setReadOnly(true);
+    enfocarEdicion();
     guardado_ = true;
 }
 

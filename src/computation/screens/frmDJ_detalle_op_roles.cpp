@@ -21,6 +21,17 @@ constexpr int COL_OBS = 6;
 constexpr int COL_EXENCION = 7;
 constexpr int LARGO_OBSERVACIONES = 50;
 
+// What stood in the grid beside a party that is read again.
+void conservar(ParteRol& leida, const ParteRol& antes)
+{
+    if (!antes.idRol.isEmpty()) {
+        leida.idRol = antes.idRol;
+        leida.rol = antes.rol;
+    }
+    if (!antes.idRol.isEmpty() || !antes.observaciones.isEmpty())
+        leida.observaciones = antes.observaciones;
+}
+
 }  // namespace
 
 void frmDJ_detalle_op::prepararEditorDeRoles()
@@ -33,7 +44,7 @@ void frmDJ_detalle_op::prepararEditorDeRoles()
     txtRolObs->setMaxLength(LARGO_OBSERVACIONES);
     editorRoles_ = new EditorCelda(ui->flxPartes, cboRoles_, txtRolObs,
                                    {.dato = COL_ID_ROL, .lista = COL_ROL, .texto = COL_OBS});
-    connect(editorRoles_, &EditorCelda::listaEscrita, this, &frmDJ_detalle_op::colorearRoles);
+    atender(editorRoles_, &EditorCelda::listaEscrita, &frmDJ_detalle_op::colorearRoles);
 }
 
 void frmDJ_detalle_op::tlbPartes_pulsada(const QString& clave)
@@ -57,11 +68,8 @@ void frmDJ_detalle_op::recargarRoles()
     ui->flxPartes->llenar([&] {
         for (ParteRol p : leer_partes_con_roles(clave())) {
             for (const ParteRol& a : antes)
-                if (a.id == p.id && !a.idRol.isEmpty()) {
-                    p.idRol = a.idRol;
-                    p.rol = a.rol;
-                    p.observaciones = a.observaciones;
-                }
+                if (a.id == p.id)
+                    conservar(p, a);
             ui->flxPartes->agregar({p.id, p.tipoDoc, p.nroDoc, p.denominacion, p.idRol, p.rol, p.observaciones,
                                     p.porcExento ? importe_llano(*p.porcExento) : QString()});
         }

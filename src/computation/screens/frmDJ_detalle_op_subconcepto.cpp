@@ -13,15 +13,14 @@
 
 using namespace Qt::StringLiterals;
 
-// Three characters from the sixth one: deliberate, though the code of a law of four digits has but
-// two of them there.
+// An item's identifier ends in the three digits of its code, whatever the law's number.
 void frmDJ_detalle_op::SeleccionarSubconcepto(int id)
 {
-    ui->ctlCodS->setValue(QString::number(id).mid(5, 3).toInt());
+    ui->ctlCodS->setValue(id % 1000);
     seleccionarPorCodigo();
 }
 
-// The code of an item, and the way to find it by its text.
+// The code of an item, and the way to find it in the catalogue.
 void frmDJ_detalle_op::habilitarEleccion(bool si)
 {
     ui->ctlCodS->Habilitar(si);
@@ -135,8 +134,8 @@ void frmDJ_detalle_op::mostrarValorContractual()
 void frmDJ_detalle_op::cambiarOperacion()
 {
     const QList<ParteRol> partes = partesDeGrilla();
-    const bool con_rol = std::any_of(partes.begin(), partes.end(), [](const ParteRol& p) { return !p.rol.isEmpty(); });
-    if (!partes.isEmpty() && con_rol
+    const bool con_rol = std::any_of(partes.begin(), partes.end(), [](const ParteRol& p) { return p.tieneRol(); });
+    if (partes.size() > 1 && con_rol
         && !preguntar(
             u"Esta acción borrará los roles asignados a las partes que no se correspondan con la nueva operación.\n"
             u"¿Esta seguro de cambiar la operación?"_s,

@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 frmDetalleSSUB::frmDetalleSSUB() : ui(std::make_unique<Ui::frmDetalleSSUB>())
 {
     ui->setupUi(this);
-    connect(ui->cmdCerrar, &QPushButton::clicked, this, &Formulario::descargar);
+    cerrarConEscape();
+    atender(ui->cmdCerrar, &QPushButton::clicked, &Formulario::descargar);
 }
 
 frmDetalleSSUB::~frmDetalleSSUB() = default;
