@@ -12,8 +12,8 @@ frmRTN_buscar::frmRTN_buscar() : ui(std::make_unique<Ui::frmRTN_buscar>())
 {
     ui->setupUi(this);
     preparar_grilla(ui->flxRTN, {u"NºReg.Not."_s, u"Titular"_s, u"CUIT"_s}, {1200, 4000, 1200});
-    connect(ui->tlbRTN, &BarraHerramientas::pulsada, this, &frmRTN_buscar::tlbRTN_pulsada);
-    connect(ui->flxRTN, &Grilla::elegida, this, [this] { ui->tlbRTN->pulsar(u"modificar"_s); });
+    atender(ui->tlbRTN, &BarraHerramientas::pulsada, &frmRTN_buscar::tlbRTN_pulsada);
+    atender(ui->flxRTN, &Grilla::elegida, [this] { ui->tlbRTN->pulsar(u"modificar"_s); });
     cargar_padron();
 }
 

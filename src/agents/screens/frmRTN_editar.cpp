@@ -48,10 +48,10 @@ void frmRTN_editar::Inicializar(Modo operacion, int nro)
     Operacion = operacion;
     nro_ = nro;
     setWindowTitle(operacion == Modo::nuevo ? u"Nuevo agente de retención"_s : u"Modificar agente de retención"_s);
-    if (operacion != Modo::modificar)
-        return;
-    if (const auto agente = cargar_agente(nro))
-        mostrarAgente(*agente);
+    if (operacion == Modo::modificar)
+        if (const auto agente = cargar_agente(nro))
+            mostrarAgente(*agente);
+    marcarGuardado();
 }
 
 Agente frmRTN_editar::leer_controles() const

@@ -86,7 +86,7 @@ void MDIPrincipal::closeEvent(QCloseEvent* evento)
     // The newest form stands on the others. One that the user keeps open keeps the program.
     auto formularios = Formulario::cargados();
     while (!formularios.isEmpty())
-        if (!formularios.takeLast()->descargar())
+        if (!formularios.takeLast()->cerrar())
             return;
     cnRtn.cerrar();
     cnTmp.cerrar();

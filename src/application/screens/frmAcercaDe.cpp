@@ -11,8 +11,9 @@ using namespace Qt::StringLiterals;
 frmAcercaDe::frmAcercaDe() : ui(std::make_unique<Ui::frmAcercaDe>())
 {
     ui->setupUi(this);
+    cerrarConEscape();
     ui->lblVersion->setText(u"Versión "_s + QCoreApplication::applicationVersion());
-    connect(ui->cmdAceptar, &QPushButton::clicked, this, &Formulario::descargar);
+    atender(ui->cmdAceptar, &QPushButton::clicked, &Formulario::descargar);
 }
 
 frmAcercaDe::~frmAcercaDe() = default;

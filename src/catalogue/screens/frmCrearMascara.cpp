@@ -12,8 +12,9 @@ using namespace Qt::StringLiterals;
 frmCrearMascara::frmCrearMascara() : ui(std::make_unique<Ui::frmCrearMascara>())
 {
     ui->setupUi(this);
-    connect(ui->lstElem, &QListWidget::itemChanged, this, &frmCrearMascara::sumar);
-    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+    teclasDeBarra(ui->tlb);
+    atender(ui->lstElem, &QListWidget::itemChanged, &frmCrearMascara::sumar);
+    atender(ui->tlb, &BarraHerramientas::pulsada, [this](const QString& clave) {
         if (clave == u"aceptar" && destino_)
             destino_->setText(ui->txtMascara->text());
         descargar();

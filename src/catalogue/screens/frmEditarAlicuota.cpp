@@ -10,8 +10,8 @@ frmEditarAlicuota::frmEditarAlicuota() : frmEditarRango(RANGOS_ALICUOTAS), ui(st
 {
     ui->setupUi(this);
     armar({ui->toolbar, ui->nroDesde, ui->chkValorHasta, ui->nroHasta});
-    connect(ui->nroDivisor, &ctlNumero::salida, this, &frmEditarAlicuota::calcularFraccion);
-    connect(ui->nroDividendo, &ctlNumero::KeyPress, this, [this](int& tecla) {
+    atender(ui->nroDivisor, &ctlNumero::salida, &frmEditarAlicuota::calcularFraccion);
+    atender(ui->nroDividendo, &ctlNumero::KeyPress, [this](int& tecla) {
         if (tecla == 13)
             calcularFraccion();
     });

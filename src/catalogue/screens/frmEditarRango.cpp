@@ -17,7 +17,7 @@ void frmEditarRango::armar(const Controles& controles)
     c_ = controles;
     teclasDeBarra(c_.toolbar);
     habilitarHasta();
-    connect(c_.chkValorHasta, &QCheckBox::toggled, this, [this] {
+    atender(c_.chkValorHasta, &QCheckBox::toggled, [this] {
         habilitarHasta();
         if (c_.chkValorHasta->isChecked())
             c_.nroHasta->setFocus();

@@ -21,12 +21,12 @@ frmEditarRol::frmEditarRol() : ui(std::make_unique<Ui::frmEditarRol>())
         a_mayusculas(texto);
     habilitarAtributo();
     // What the box of the attribute holds stays behind the frame.
-    connect(ui->optRequerido, &QRadioButton::clicked, this, [this] {
+    atender(ui->optRequerido, &QRadioButton::clicked, [this] {
         if (ui->optRequerido->hasFocus())
             ui->fraSSUBAtributo->setEnabled(false);
     });
-    connect(ui->optEsporadico, &QRadioButton::clicked, this, [this] { ui->fraSSUBAtributo->setEnabled(true); });
-    connect(ui->chkSSUBAtributo, &QCheckBox::toggled, this, &frmEditarRol::habilitarAtributo);
+    atender(ui->optEsporadico, &QRadioButton::clicked, [this] { ui->fraSSUBAtributo->setEnabled(true); });
+    atender(ui->chkSSUBAtributo, &QCheckBox::toggled, &frmEditarRol::habilitarAtributo);
     aceptarOSalir(ui->toolbar, [this] { aceptar(); });
 }
 

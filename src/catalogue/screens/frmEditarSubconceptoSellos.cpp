@@ -36,7 +36,7 @@ void frmEditarSubconceptoSellos::conectar()
 {
     for (QLineEdit* texto : {ui->txtDescripcion, ui->txtLeyVigencia, ui->txtObservaciones}) {
         a_mayusculas(texto);
-        connect(texto, &QLineEdit::textEdited, this, [this] {
+        atender(texto, &QLineEdit::textEdited, [this] {
             if (!editando_)
                 ponerEdicion(true);
         });
@@ -44,21 +44,21 @@ void frmEditarSubconceptoSellos::conectar()
     for (QLineEdit* mascara : {ui->txtGarantiaCumplimiento_suma, ui->txtObligAccesoria_suma})
         solo_digitos_en(mascara);
     for (const QCheckBox* casilla : findChildren<QCheckBox*>())
-        connect(casilla, &QCheckBox::toggled, this,
+        atender(casilla, &QCheckBox::toggled,
                 [this, nombre = casilla->objectName()](bool si) { cambioCasilla(nombre, si); });
-    connect(ui->ctlTipoCalculo, &ctlCombo::ItemClick, this, &frmEditarSubconceptoSellos::elegirTipoCalculo);
-    connect(ui->cmdElegirTCBI, &QPushButton::clicked, this, &frmEditarSubconceptoSellos::elegirTipoBI);
-    connect(ui->cmdObligAccesoria_suma, &QPushButton::clicked, this, [this] {
+    atender(ui->ctlTipoCalculo, &ctlCombo::ItemClick, &frmEditarSubconceptoSellos::elegirTipoCalculo);
+    atender(ui->cmdElegirTCBI, &QPushButton::clicked, &frmEditarSubconceptoSellos::elegirTipoBI);
+    atender(ui->cmdObligAccesoria_suma, &QPushButton::clicked, [this] {
         crearMascara(ui->txtObligAccesoria_suma, MASCARA_OBLIGACION, u"Modalidad de pago - Obligación Accesoria"_s);
     });
-    connect(ui->cmdGaranCump_generar, &QPushButton::clicked, this, [this] {
+    atender(ui->cmdGaranCump_generar, &QPushButton::clicked, [this] {
         crearMascara(ui->txtGarantiaCumplimiento_suma, MASCARA_GARANTIA,
                      u"Modalidad de pago - Garantia de Cumplimiento"_s);
     });
-    connect(ui->toolbar, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::pulsada);
-    connect(ui->tlbAlicuotas, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::tlbAlicuotas_pulsada);
-    connect(ui->tlbModulos, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::tlbModulos_pulsada);
-    connect(ui->tlbRoles, &BarraHerramientas::pulsada, this, &frmEditarSubconceptoSellos::tlbRoles_pulsada);
+    atender(ui->toolbar, &BarraHerramientas::pulsada, &frmEditarSubconceptoSellos::pulsada);
+    atender(ui->tlbAlicuotas, &BarraHerramientas::pulsada, &frmEditarSubconceptoSellos::tlbAlicuotas_pulsada);
+    atender(ui->tlbModulos, &BarraHerramientas::pulsada, &frmEditarSubconceptoSellos::tlbModulos_pulsada);
+    atender(ui->tlbRoles, &BarraHerramientas::pulsada, &frmEditarSubconceptoSellos::tlbRoles_pulsada);
 }
 
 int frmEditarSubconceptoSellos::codigo() const
@@ -77,6 +77,7 @@ void frmEditarSubconceptoSellos::Inicializar(Modo operacion, std::optional<int> 
         guardado_ = true;
     }
     ponerEdicion(false);
+    marcarGuardado();
     if (nuevo)
         ui->toolbar->pulsar(u"editar"_s);
     ui->txtDescripcion->setFocus();
@@ -144,4 +145,5 @@ void frmEditarSubconceptoSellos::aceptar()
     }
     guardado_ = true;
     ponerEdicion(false);
+    marcarGuardado();
 }

@@ -35,6 +35,9 @@ public:
     void obtener_modulos();
     void obtener_roles();
 
+protected:
+    bool editando() const override { return editando_; }
+
 private:
     /// The places of the tabs that are named here.
     enum Solapa { SOLAPA_RANGOS = 2, SOLAPA_ROLES = 3 };

@@ -54,8 +54,7 @@ void frmEditarSubconceptoSellos::prepararRangos()
     for (const auto& [grilla, barra, clave] : {std::tuple{ui->grillaAlicuotas, ui->tlbAlicuotas, "modificar"},
                                                std::tuple{ui->grillaModulos, ui->tlbModulos, "modificar"},
                                                std::tuple{ui->grillaRoles, ui->tlbRoles, "editar"}})
-        connect(grilla, &Grilla::elegida, this,
-                [barra = barra, clave = clave] { barra->pulsar(QLatin1StringView(clave)); });
+        atender(grilla, &Grilla::elegida, [barra = barra, clave = clave] { barra->pulsar(QLatin1StringView(clave)); });
     ui->fraModulos->hide();
 }
 

@@ -30,9 +30,9 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
     ui->nroPorcExencion->ClearText();
     ui->txtSubconcepto->setFocus();
 
-    connect(ui->toolbar, &BarraHerramientas::pulsada, this, &frmSubconceptos::pulsada);
-    connect(ui->grilla, &Grilla::elegida, this, [this] { ui->toolbar->pulsar(u"seleccionar"_s); });
-    connect(ui->grilla->horizontalHeader(), &QHeaderView::sectionClicked, this, &frmSubconceptos::ordenar);
+    atender(ui->toolbar, &BarraHerramientas::pulsada, &frmSubconceptos::pulsada);
+    atender(ui->grilla, &Grilla::elegida, [this] { ui->toolbar->pulsar(u"seleccionar"_s); });
+    atender(ui->grilla->horizontalHeader(), &QHeaderView::sectionClicked, &frmSubconceptos::ordenar);
     for (const auto& [casilla, texto] :
          {std::pair{ui->chkLey, ui->txtLey}, {ui->chkArticulo, ui->txtArticulo}, {ui->chkInciso, ui->txtInciso}}) {
         habilitar_texto(texto, false);
@@ -43,7 +43,7 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
         });
     }
     for (QLineEdit* texto : {ui->txtSubconcepto, ui->txtLey, ui->txtArticulo, ui->txtInciso})
-        connect(texto, &QLineEdit::returnPressed, this, &frmSubconceptos::buscar_subconceptos);
+        atender(texto, &QLineEdit::returnPressed, &frmSubconceptos::buscar_subconceptos);
 }
 
 frmSubconceptos::~frmSubconceptos() = default;

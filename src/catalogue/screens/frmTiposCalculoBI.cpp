@@ -10,11 +10,11 @@ using namespace Qt::StringLiterals;
 frmTiposCalculoBI::frmTiposCalculoBI() : ui(std::make_unique<Ui::frmTiposCalculoBI>())
 {
     ui->setupUi(this);
+    teclasDeBarra(ui->tlbTCBI);
     preparar_grilla(ui->grillaTCBI, {u"ID"_s, u"Descripción"_s, u"Observaciones"_s}, {600, 4200, 3600});
-    connect(ui->grillaTCBI->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &frmTiposCalculoBI::mostrarFila);
-    connect(ui->grillaTCBI, &Grilla::elegida, this, [this] { ui->tlbTCBI->pulsar(u"seleccionar"_s); });
-    connect(ui->tlbTCBI, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+    atender(ui->grillaTCBI->selectionModel(), &QItemSelectionModel::currentRowChanged, &frmTiposCalculoBI::mostrarFila);
+    atender(ui->grillaTCBI, &Grilla::elegida, [this] { ui->tlbTCBI->pulsar(u"seleccionar"_s); });
+    atender(ui->tlbTCBI, &BarraHerramientas::pulsada, [this](const QString& clave) {
         if (clave == u"seleccionar")
             seleccionar();
         else

@@ -30,20 +30,20 @@ frmDJ_buscar::frmDJ_buscar() : ui(std::make_unique<Ui::frmDJ_buscar>())
     ui->nroAnio->ClearText();
     ui->nroMes->ClearText();
 
-    connect(ui->tlbDJ, &BarraHerramientas::pulsada, this, &frmDJ_buscar::tlbDJ_pulsada);
-    connect(ui->flx, &Grilla::elegida, this, [this] { ui->tlbDJ->pulsar(u"modificar"_s); });
-    connect(ui->cboRTN, &QComboBox::activated, this, [this] { listar_dj(true); });
+    atender(ui->tlbDJ, &BarraHerramientas::pulsada, &frmDJ_buscar::tlbDJ_pulsada);
+    atender(ui->flx, &Grilla::elegida, [this] { ui->tlbDJ->pulsar(u"modificar"_s); });
+    atender(ui->cboRTN, &QComboBox::activated, [this] { listar_dj(true); });
     for (ctlNumero* n : {ui->nroAnio, ui->nroMes})
         n->findChild<QLineEdit*>(u"txt"_s)->installEventFilter(this);
-    connect(ui->nroAnio, &ctlNumero::KeyPress, this, [this](int& tecla) {
+    atender(ui->nroAnio, &ctlNumero::KeyPress, [this](int& tecla) {
         if (tecla == 13)
             aceptarAnio();
     });
-    connect(ui->nroMes, &ctlNumero::KeyPress, this, [this](int& tecla) {
+    atender(ui->nroMes, &ctlNumero::KeyPress, [this](int& tecla) {
         if (tecla == 13)
             aceptarMes();
     });
-    connect(ui->nroAnio, &ctlNumero::salida, this, &frmDJ_buscar::aceptarAnio);
+    atender(ui->nroAnio, &ctlNumero::salida, &frmDJ_buscar::aceptarAnio);
 }
 
 frmDJ_buscar::~frmDJ_buscar() = default;

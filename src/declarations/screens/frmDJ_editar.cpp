@@ -51,7 +51,7 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
     ui->dtpBOL_venc->setEnabled(false);
     ui->nroTotal_depositar->setValue(0);
     conectarBoletas();
-    connect(ui->tlbDJ, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbDJ_pulsada);
+    atender(ui->tlbDJ, &BarraHerramientas::pulsada, &frmDJ_editar::tlbDJ_pulsada);
     conectarRenglones();
     conectarCabecera();
 }
@@ -70,6 +70,7 @@ bool frmDJ_editar::iniciar(Modo operacion, const QString& nro)
             ui->SSTab1->setTabEnabled(SOLAPA_BOLETAS, false);
         }
         calcular_vencimiento();
+        marcarGuardado(ui->fraGeneral);
         return true;
     }
     if (operacion == Modo::rectificar) {
@@ -87,7 +88,13 @@ bool frmDJ_editar::iniciar(Modo operacion, const QString& nro)
     cerrarPosicion();
     estado_botones(false, true, false, true, true);
     habilitar_tlbDetalle();
+    marcarGuardado(ui->fraGeneral);
     return true;
+}
+
+bool frmDJ_editar::editando() const
+{
+    return ui->tlbDJ->habilitada(u"aceptar"_s);
 }
 
 // A stored DJ keeps its agent and its posición.

@@ -30,6 +30,7 @@ public:
 
 protected:
     void alDescargar() override;
+    bool editando() const override;
 
 private:
     void cerrarPosicion();

@@ -14,17 +14,20 @@ using namespace Qt::StringLiterals;
 
 void frmDJ_editar::conectarBoletas()
 {
-    connect(ui->tlbB, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbB_pulsada);
-    connect(ui->flxB, &Grilla::elegida, this, [this] { ui->tlbB->pulsar(u"imprimir"_s); });
+    atender(ui->tlbB, &BarraHerramientas::pulsada, &frmDJ_editar::tlbB_pulsada);
+    atender(ui->flxB, &Grilla::elegida, [this] { ui->tlbB->pulsar(u"imprimir"_s); });
     for (ctlNumero* n : {ui->nroImpuesto, ui->nroInteres})
-        connect(n, &ctlNumero::cambiado, this, &frmDJ_editar::sumarDeposito);
+        atender(n, &ctlNumero::cambiado, &frmDJ_editar::sumarDeposito);
     for (ctlNumero* n : {ui->nroEfectivo, ui->nroCheque1_monto, ui->nroCheque2_monto})
-        connect(n, &ctlNumero::cambiado, this, &frmDJ_editar::sumarBoleta);
+        atender(n, &ctlNumero::cambiado, &frmDJ_editar::sumarBoleta);
     habilitar_botones_boleta();
 }
 
 void frmDJ_editar::sumarDeposito()
 {
+    // What can't be read is told when the slip is made.
+    if (!ui->nroImpuesto->modelo().legible() || !ui->nroInteres->modelo().legible())
+        return;
     ui->nroBOL_Total_depositar->setValue(ui->nroImpuesto->Value() + ui->nroInteres->Value());
 }
 
@@ -84,7 +87,7 @@ ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
                                                       {&c.cheques[1].monto, ui->nroCheque2_monto},
                                                       {&c.totalBoleta, ui->nroTotalBoleta}};
     for (const auto& [numero, campo] : numeros)
-        numero->escribirTexto(campo->toString());
+        numero->copiarTexto(campo->modelo());
     for (const auto& [texto, campo] : textos_cheques(c))
         *texto = campo->text();
     c.filial = ui->txtFilialBanco->text();

@@ -35,24 +35,24 @@ void frmDJ_editar::conectarCabecera()
 {
     for (QLineEdit* texto : {ui->txtAnio, ui->txtRTN_nro})
         solo_digitos_en(texto);
-    connect(ui->cboRTN, &QComboBox::activated, this, [this](int indice) {
+    atender(ui->cboRTN, &QComboBox::activated, [this](int indice) {
         const int nro = ui->cboRTN->itemData(indice).toInt();
         ui->txtRTN_nro->setText(QString::number(nro));
         cargar_agente_dj(nro);
         componer_nro_dj();
     });
-    connect(ui->txtRTN_nro, &QLineEdit::editingFinished, this, &frmDJ_editar::salirDeAgente);
-    connect(ui->txtAnio, &QLineEdit::editingFinished, this, [this] {
+    atender(ui->txtRTN_nro, &QLineEdit::editingFinished, &frmDJ_editar::salirDeAgente);
+    atender(ui->txtAnio, &QLineEdit::editingFinished, [this] {
         if (!ui->txtAnio->isModified())
             return;
         ui->txtAnio->setModified(false);
         componer_nro_dj();
     });
     for (QComboBox* combo : {ui->cboMes, ui->cboRectificativa})
-        connect(combo, &QComboBox::activated, this, &frmDJ_editar::componer_nro_dj);
-    connect(ui->cboDJ_Estado, &QComboBox::activated, this, &frmDJ_editar::marcar_sin_movimientos);
+        atender(combo, &QComboBox::activated, &frmDJ_editar::componer_nro_dj);
+    atender(ui->cboDJ_Estado, &QComboBox::activated, &frmDJ_editar::marcar_sin_movimientos);
     connect(ui->chkCambiarFechaVenc, &QCheckBox::toggled, ui->dtpBOL_venc, &QWidget::setEnabled);
-    connect(ui->nroAcred_monto, &ctlNumero::cambiado, this,
+    atender(ui->nroAcred_monto, &ctlNumero::cambiado,
             [this] { ui->nroTotal_depositar->setValue(ui->nroTotal_retenido->Value() - ui->nroAcred_monto->Value()); });
 }
 
@@ -215,4 +215,5 @@ void frmDJ_editar::aceptar()
     cargar_detalle();
     ui->lblAviso->setVisible(dj.estado == DJ_NORMAL);
     estado_botones(false, true, false, true, true);
+    marcarGuardado(ui->fraGeneral);
 }

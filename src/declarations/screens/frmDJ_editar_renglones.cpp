@@ -22,8 +22,8 @@ const QColor ROJO(255, 0, 0);
 
 void frmDJ_editar::conectarRenglones()
 {
-    connect(ui->tlbDetalle, &BarraHerramientas::pulsada, this, &frmDJ_editar::tlbDetalle_pulsada);
-    connect(ui->flxOp, &Grilla::elegida, this, [this] { ui->tlbDetalle->pulsar(u"editar"_s); });
+    atender(ui->tlbDetalle, &BarraHerramientas::pulsada, &frmDJ_editar::tlbDetalle_pulsada);
+    atender(ui->flxOp, &Grilla::elegida, [this] { ui->tlbDetalle->pulsar(u"editar"_s); });
 }
 
 void frmDJ_editar::mostrarTotal(double total)

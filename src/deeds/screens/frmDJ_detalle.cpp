@@ -49,17 +49,17 @@ void frmDJ_detalle::conectar()
 {
     for (QLineEdit* texto : {ui->txtNroEscritura, ui->txtFolio})
         solo_digitos_en(texto);
-    connect(ui->tlbDetalle, &BarraHerramientas::pulsada, this, &frmDJ_detalle::tlbDetalle_pulsada);
-    connect(ui->tlbPartes, &BarraHerramientas::pulsada, this, &frmDJ_detalle::tlbPartes_pulsada);
-    connect(ui->tlbInm, &BarraHerramientas::pulsada, this, &frmDJ_detalle::tlbInm_pulsada);
-    connect(ui->tlbOp, &BarraHerramientas::pulsada, this, &frmDJ_detalle::tlbOp_pulsada);
-    connect(ui->flxPartes, &Grilla::elegida, this, [this] { ui->tlbPartes->pulsar(u"editar"_s); });
-    connect(ui->flxInm, &Grilla::elegida, this, [this] { ui->tlbInm->pulsar(u"editar"_s); });
-    connect(ui->flxOp, &Grilla::elegida, this, [this] { ui->tlbOp->pulsar(u"editar"_s); });
-    connect(ui->cmdExaminar, &QPushButton::clicked, this, &frmDJ_detalle::examinar);
-    connect(ui->cboAlcanzado, &QComboBox::activated, this, &frmDJ_detalle::cambioAlcance);
-    connect(ui->cboDET_Estado, &QComboBox::currentIndexChanged, this, &frmDJ_detalle::cambioEstado);
-    connect(ui->cboDesc_NoAlcanzado, &QComboBox::activated, this, [this] {
+    atender(ui->tlbDetalle, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbDetalle_pulsada);
+    atender(ui->tlbPartes, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbPartes_pulsada);
+    atender(ui->tlbInm, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbInm_pulsada);
+    atender(ui->tlbOp, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbOp_pulsada);
+    atender(ui->flxPartes, &Grilla::elegida, [this] { ui->tlbPartes->pulsar(u"editar"_s); });
+    atender(ui->flxInm, &Grilla::elegida, [this] { ui->tlbInm->pulsar(u"editar"_s); });
+    atender(ui->flxOp, &Grilla::elegida, [this] { ui->tlbOp->pulsar(u"editar"_s); });
+    atender(ui->cmdExaminar, &QPushButton::clicked, &frmDJ_detalle::examinar);
+    atender(ui->cboAlcanzado, &QComboBox::activated, &frmDJ_detalle::cambioAlcance);
+    atender(ui->cboDET_Estado, &QComboBox::currentIndexChanged, &frmDJ_detalle::cambioEstado);
+    atender(ui->cboDesc_NoAlcanzado, &QComboBox::activated, [this] {
         habilitarMotivo();
         if (ui->txtNoAlcanzado_Otro->isEnabled())
             ui->txtNoAlcanzado_Otro->setFocus();

@@ -107,13 +107,13 @@ ControlesEscritura frmDJ_detalle::leer_controles() const
     c.anio = ui->txtPosicion->text().left(4).toInt();
     c.mes = ui->txtPosicion->text().mid(5).toInt();
     leer_textos(this, RECORTADOS, c);
-    c.dia.escribirTexto(ui->nroDia->toString());
+    c.dia.copiarTexto(ui->nroDia->modelo());
     c.estado = ui->cboDET_Estado->currentIndex();
     c.alcanzado = ui->cboAlcanzado->currentIndex();
     c.motivo = elegido(ui->cboDesc_NoAlcanzado);
     c.motivoTexto = ui->cboDesc_NoAlcanzado->currentText();
     c.motivoOtroActivo = ui->txtNoAlcanzado_Otro->isEnabled();
-    c.totalImpuesto.escribirTexto(ui->nroTotalImpuesto->toString());
+    c.totalImpuesto.copiarTexto(ui->nroTotalImpuesto->modelo());
     return c;
 }
 

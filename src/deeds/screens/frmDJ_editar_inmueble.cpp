@@ -54,8 +54,9 @@ frmDJ_editar_inmueble::frmDJ_editar_inmueble() : ui(std::make_unique<Ui::frmDJ_e
         combo_con_texto(combo);
     ui->cboLoc->lineEdit()->setMaxLength(ANCHO_CIUDAD);
     ui->cboProv->lineEdit()->setMaxLength(ANCHO_PROVINCIA);
-    connect(ui->cboProv, &QComboBox::activated, this, &frmDJ_editar_inmueble::cargar_localidades);
-    connect(ui->cboU_caracter, &QComboBox::activated, this, &frmDJ_editar_inmueble::clicCaracter);
+    atender(ui->cboProv, &QComboBox::activated, &frmDJ_editar_inmueble::cargar_localidades);
+    atender(ui->cboU_caracter, &QComboBox::activated, &frmDJ_editar_inmueble::clicCaracter);
+    teclasDeBarra(ui->tlb, Escape::nada);
     aceptarOSalir(ui->tlb, [this] { aceptar(); });
 }
 
@@ -72,10 +73,10 @@ void frmDJ_editar_inmueble::Inicializar(Modo operacion, int id)
     Operacion = operacion;
     id_ = id;
     setWindowTitle(operacion == Modo::nuevo ? u"Alta de inmueble"_s : u"Modificar inmueble"_s);
-    if (operacion != Modo::modificar)
-        return;
-    if (const auto i = cargar_inmueble(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), id))
-        mostrarInmueble(*i);
+    if (operacion == Modo::modificar)
+        if (const auto i = cargar_inmueble(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), id))
+            mostrarInmueble(*i);
+    marcarGuardado();
 }
 
 void frmDJ_editar_inmueble::cargar_localidades()

@@ -31,12 +31,12 @@ frmDJ_buscar_parte::frmDJ_buscar_parte() : ui(std::make_unique<Ui::frmDJ_buscar_
     habilitarTextos();
     for (QLineEdit* texto : {ui->txtRazonSocial, ui->txtNroDoc}) {
         a_mayusculas(texto);
-        connect(texto, &QLineEdit::returnPressed, this, [this] { buscar_partes(true); });
+        atender(texto, &QLineEdit::returnPressed, [this] { buscar_partes(true); });
     }
     for (QComboBox* combo : {ui->cboCriterioRazonSocial, ui->cboTipoDoc})
-        connect(combo, &QComboBox::currentIndexChanged, this, &frmDJ_buscar_parte::habilitarTextos);
-    connect(ui->flx, &Grilla::elegida, this, &frmDJ_buscar_parte::seleccionar);
-    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+        atender(combo, &QComboBox::currentIndexChanged, &frmDJ_buscar_parte::habilitarTextos);
+    atender(ui->flx, &Grilla::elegida, &frmDJ_buscar_parte::seleccionar);
+    atender(ui->tlb, &BarraHerramientas::pulsada, [this](const QString& clave) {
         if (clave == u"buscar")
             buscar_partes(true);
         else if (clave == u"seleccionar")

@@ -61,7 +61,8 @@ void frmDJ_detalle_parte::conectar()
     for (QComboBox* combo : {ui->cboProv, ui->cboLoc})
         combo_con_texto(combo);
     conectarReacciones();
-    connect(ui->tlb, &BarraHerramientas::pulsada, this, [this](const QString& clave) {
+    teclasDeBarra(ui->tlb, Escape::nada);
+    atender(ui->tlb, &BarraHerramientas::pulsada, [this](const QString& clave) {
         if (clave == u"aceptar")
             aceptar();
         else if (clave == u"buscar")
@@ -82,10 +83,10 @@ void frmDJ_detalle_parte::Inicializar(Modo operacion, int id)
     Operacion = operacion;
     id_ = id;
     setWindowTitle(operacion == Modo::nuevo ? u"Alta de parte"_s : u"Modificar parte"_s);
-    if (operacion != Modo::modificar)
-        return;
-    if (const auto p = cargar_parte(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), id))
-        mostrarParte(*p);
+    if (operacion == Modo::modificar)
+        if (const auto p = cargar_parte(ui->txtDJ_nro->text(), ui->txtRenglonDJ->text(), id))
+            mostrarParte(*p);
+    marcarGuardado();
 }
 
 void frmDJ_detalle_parte::buscar()
@@ -111,11 +112,11 @@ ControlesParte frmDJ_detalle_parte::leer_controles() const
     c.tipoSociedadTexto = ui->cboTipoSociedad->currentText();
     c.tipoDoc = elegido(ui->cboTipoDoc);
     c.tipoDocTexto = ui->cboTipoDoc->currentText();
-    c.nroDoc.escribirTexto(ui->nroDoc->toString());
+    c.nroDoc.copiarTexto(ui->nroDoc->modelo());
     c.enTramite = ui->chkCUIT_EnTramite->isEnabled() && ui->chkCUIT_EnTramite->isChecked();
     c.exento = ui->chkExento->isChecked();
     c.exentoActivo = ui->chkExento->isEnabled();
-    c.exencionPorc.escribirTexto(ui->nroExencionPorc->toString());
+    c.exencionPorc.copiarTexto(ui->nroExencionPorc->modelo());
     c.provinciaTexto = ui->cboProv->currentText();
     c.localidadTexto = ui->cboLoc->currentText();
     c.provincia = elegido_por_texto(ui->cboProv);

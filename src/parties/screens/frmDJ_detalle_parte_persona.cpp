@@ -35,17 +35,17 @@ void seleccionar_sociedad(QComboBox* combo, QStringView nombre)
 
 void frmDJ_detalle_parte::conectarReacciones()
 {
-    connect(ui->cboTipoDoc, &QComboBox::activated, this, &frmDJ_detalle_parte::clicTipoDoc);
-    connect(ui->cboTipoSociedad, &QComboBox::activated, this, &frmDJ_detalle_parte::clicTipoSociedad);
-    connect(ui->cboCodigoPais, &QComboBox::activated, this, &frmDJ_detalle_parte::clicPais);
+    atender(ui->cboTipoDoc, &QComboBox::activated, &frmDJ_detalle_parte::clicTipoDoc);
+    atender(ui->cboTipoSociedad, &QComboBox::activated, &frmDJ_detalle_parte::clicTipoSociedad);
+    atender(ui->cboCodigoPais, &QComboBox::activated, &frmDJ_detalle_parte::clicPais);
     connect(ui->optExtranjera, &QRadioButton::toggled, ui->cboCodigoPais, &QWidget::setEnabled);
-    connect(ui->optExtranjera, &QRadioButton::clicked, this, [this] {
+    atender(ui->optExtranjera, &QRadioButton::clicked, [this] {
         if (ui->cboCodigoPais->currentText().contains(FISICA))
             clicPais();
     });
-    connect(ui->chkExento, &QCheckBox::clicked, this, &frmDJ_detalle_parte::clicExento);
-    connect(ui->nroDoc, &ctlNumero::salida, this, &frmDJ_detalle_parte::salirDeNumero);
-    connect(ui->cboProv, &QComboBox::activated, this, &frmDJ_detalle_parte::cargar_localidades);
+    atender(ui->chkExento, &QCheckBox::clicked, &frmDJ_detalle_parte::clicExento);
+    atender(ui->nroDoc, &ctlNumero::salida, &frmDJ_detalle_parte::salirDeNumero);
+    atender(ui->cboProv, &QComboBox::activated, &frmDJ_detalle_parte::cargar_localidades);
 }
 
 QString frmDJ_detalle_parte::tipoDoc() const
