@@ -2,14 +2,13 @@
 
 #include "application/aplicacion.h"
 
+#include "application/traduccion.h"
 #include "core/modGlobales.h"
 #include "widgets/barra.h"
 #include "widgets/mensajes.h"
 
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QPalette>
-#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -27,9 +26,7 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
     for (const auto papel : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         colores.setColor(QPalette::Disabled, papel, QColor(Qt::darkGray).darker(130));
     setPalette(colores);
-    auto* traductor = new QTranslator(this);
-    if (traductor->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        installTranslator(traductor);
+    instalar_espanol(this);
 }
 
 bool Aplicacion::notify(QObject* objeto, QEvent* evento)

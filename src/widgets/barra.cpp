@@ -37,7 +37,7 @@ constexpr std::array BOTONES{
     Boton{"guardar", "Guardar", "guardar"},
     Boton{"guardar_det", "Guardar &datos", "guardar"},
     Boton{"guardar_op", "G&uardar operación", "aceptar"},
-    Boton{"imprimir", "&Imprimir", "imprimir"},
+    Boton{"imprimir", "I&mprimir", "imprimir"},
     Boton{"marcar", "Mar&car", "marcar"},
     Boton{"modificar", "&Modificar", "editar"},
     Boton{"nueva", "&Nueva", "nueva"},

@@ -4,6 +4,8 @@
 
 #include <QMessageBox>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QMessageBox::Icon icono_de(Icono icono)
@@ -20,7 +22,8 @@ QMessageBox::Icon icono_de(Icono icono)
 
 int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons botones)
 {
-    QMessageBox caja(icono_de(m.icono), m.titulo, m.texto, botones, padre);
+    const QString titulo = m.titulo.isEmpty() ? u"VEDRA-RTN"_s : m.titulo;
+    QMessageBox caja(icono_de(m.icono), titulo, m.texto, botones, padre);
     caja.setTextFormat(Qt::PlainText);
     return caja.exec();
 }

@@ -3,8 +3,12 @@
 
 #include "agents/screens/frmRTN_buscar.h"
 #include "apoyo/pantallas.h"
+#include "widgets/mensajes.h"
 
+#include <QFile>
+#include <QLabel>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QTest>
 
 namespace {
@@ -23,6 +27,43 @@ TEST_F(Pantallas, SalirPreguntaYCierraEnOrden)
     Cajas::durante({si}, [&] { EXPECT_TRUE(principal->close()); });
     EXPECT_FALSE(cnRtn.abierta());
     EXPECT_FALSE(cargada<frmRTN_buscar>());
+}
+
+// However long the store's path is, the window fits the screen; without a law in force nothing is said of it.
+TEST_F(Pantallas, BarraDeEstado)
+{
+    const QString larga = carpeta.path() + "/%1/vedra_rtn.db"_u.arg(QString(900, u'x'));
+    QFile cfg(carpeta.path() + "/vedra_rtn.cfg"_u);
+    ASSERT_TRUE(cfg.open(QIODevice::WriteOnly));
+    cfg.write(larga.toUtf8());
+    cfg.close();
+    ASSERT_TRUE(principal->iniciar());
+    QApplication::processEvents();
+    EXPECT_EQ(principal->width(), 1200);
+    auto* ruta = principal->findChild<QLabel*>("panelBase"_u);
+    EXPECT_EQ(ruta->toolTip(), larga);
+    EXPECT_TRUE(ruta->text().startsWith("Base de datos: "_u) && ruta->text().contains(u'…')
+                && ruta->text().endsWith("x/vedra_rtn.db"_u))
+        << ruta->text().toStdString();
+    EXPECT_TRUE(principal->findChild<QLabel*>("panelLey"_u)->text().startsWith("Ley vigente: 5707"_u));
+
+    cnRtn.ejecutar("update GLB_TB_LEYES set GLEY_VIGENCIA_HASTA='2020-01-01'"_u);
+    LeyVigente = 0;
+    MDIPrincipal otra;
+    ASSERT_TRUE(otra.iniciar());
+    const auto rotulos = otra.statusBar()->findChildren<QLabel*>();
+    ASSERT_EQ(rotulos.size(), 1);
+    EXPECT_EQ(rotulos[0]->objectName(), "panelBase"_u);
+}
+
+TEST_F(Pantallas, UnaCajaSinTituloLlevaElDelPrograma)
+{
+    DialogoPantalla dialogo(principal.get());
+    Cajas::durante({{"aviso"_u, "VEDRA-RTN"_u}, {"pregunta"_u, "VEDRA-RTN"_u}, {"otro"_u, "Suyo"_u}}, [&] {
+        dialogo.avisar({"aviso"_u, {}});
+        EXPECT_TRUE(dialogo.preguntar({"pregunta"_u, ""_u}));
+        dialogo.avisar({"otro"_u, "Suyo"_u});
+    });
 }
 
 // The tab key walks each form line by line, from left to right.

@@ -5,6 +5,10 @@
 #include "printing/screens/ctlVistaPrevia.h"
 #include "printing/screens/frmReportes.h"
 
+#include <QDir>
+#include <QFile>
+#include <QPrintDialog>
+#include <QScrollBar>
 #include <QTest>
 
 namespace {
@@ -35,6 +39,74 @@ TEST_F(Pantallas, VistaPreviaDeUnaDJLarga)
         EXPECT_FALSE(vista->grab().isNull());
     }
     EXPECT_FALSE(r->guardarPDF("/no/hay/carpeta.pdf"_u));
+}
+
+// The keys scroll without a click on the page before, and End waits for the last page.
+TEST_F(Pantallas, LaVistaPreviaSeRecorreConElTeclado)
+{
+    const QString dj = nueva_dj();
+    for (int i = 1; i <= 300; ++i)
+        nueva_escritura(dj, i, i, i, 1);
+    auto* r = cargar<frmReportes>();
+    r->DJ(dj, "9DCABBEC95C60F7B69846C4A8513C009"_u);
+    r->mostrar();
+    auto* vista = r->findChild<ctlVistaPrevia*>();
+    const QScrollBar* barra = vista->verticalScrollBar();
+    ASSERT_EQ(QApplication::focusWidget(), vista);
+    QTest::keyClick(vista, Qt::Key_PageDown);
+    const int una = barra->value();
+    EXPECT_GT(una, 0);
+    QTest::keyClick(vista, Qt::Key_End);
+    EXPECT_FALSE(texto(r, "lblPaginas"_u).endsWith(u'…'));
+    EXPECT_EQ(barra->value(), barra->maximum());
+    EXPECT_EQ(vista->paginaActual(), vista->paginas() - 1);
+    QTest::keyClick(vista, Qt::Key_Home);
+    EXPECT_EQ(barra->value(), 0);
+    QTest::keyClick(vista, Qt::Key_PageDown);
+    QTest::keyClick(vista, Qt::Key_PageUp);
+    EXPECT_EQ(barra->value(), 0);
+}
+
+TEST_F(Pantallas, NombreDelPDF)
+{
+    const QString dj = nueva_dj();
+    auto* r = cargar<frmReportes>();
+    r->DJ(dj, "9DCABBEC95C60F7B69846C4A8513C009"_u);
+    r->mostrar();
+    const auto guardar = [&](const char* nombre, const QList<CajaEsperada>& cajas = {}) {
+        Cajas::durante(cajas, [&] { pulsar(r, "tlb"_u, "pdf"_u); }, {carpeta.filePath(QLatin1StringView(nombre))});
+    };
+    guardar("uno");
+    guardar("dos.2026");
+    guardar("tres.PDF");
+    EXPECT_EQ(QDir(carpeta.path()).entryList({"*.pdf"_u, "uno*"_u, "dos*"_u, "tres*"_u}, QDir::Files).join(u' '),
+              "dos.2026.pdf tres.PDF uno.pdf"_u);
+    // A file that the name stands for in the end is not lost unasked.
+    QFile::remove(carpeta.filePath("dos.2026.pdf"_u));
+    QFile ajeno(carpeta.filePath("dos.2026.pdf"_u));
+    ASSERT_TRUE(ajeno.open(QIODevice::WriteOnly));
+    ajeno.close();
+    guardar("dos.2026", {{"El archivo "_u, "Declaración Jurada"_u, false}});
+    EXPECT_EQ(ajeno.size(), 0);
+}
+
+TEST_F(Pantallas, NombreDeLaImpresionAUnArchivo)
+{
+    const QString dj = nueva_dj();
+    auto* r = cargar<frmReportes>();
+    r->DJ(dj, "9DCABBEC95C60F7B69846C4A8513C009"_u);
+    r->mostrar();
+    QString propuesto;
+    QTimer reloj;
+    QObject::connect(&reloj, &QTimer::timeout, &reloj, [&] {
+        if (auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
+            propuesto = dialogo->findChild<QLineEdit*>("filename"_u)->text();
+            dialogo->reject();
+        }
+    });
+    reloj.start(2);
+    QTest::keyClick(r, Qt::Key_M, Qt::AltModifier);
+    EXPECT_EQ(propuesto, QDir::home().filePath("dj-%1.pdf"_u.arg(dj)));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "agents/screens/frmRTN_buscar.h"
 #include "application/screens/frmAcercaDe.h"
 #include "application/screens/frmBackup.h"
+#include "application/screens/rotulo_ruta.h"
 #include "catalogue/screens/frmSubconceptos.h"
 #include "core/arranque.h"
 #include "core/modGlobales.h"
@@ -22,6 +23,8 @@ using namespace Qt::StringLiterals;
 MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
 {
     ui->setupUi(this);
+    // Calendars speak the language of the screens, whatever that of the desktop is.
+    setLocale(QLocale(QLocale::Spanish, QLocale::Argentina));
     setCentralWidget(ui->area);
     ui->area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     ui->area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -61,14 +64,14 @@ bool MDIPrincipal::iniciar()
 
 void MDIPrincipal::mostrarEstado()
 {
-    auto* ruta = new QLabel(u"Base de datos: "_s + QDir::toNativeSeparators(ruta_abierta()));
+    auto* ruta = new RotuloRuta(u"Base de datos: "_s, QDir::toNativeSeparators(ruta_abierta()));
     ruta->setObjectName(u"panelBase"_s);
-    auto* ley = new QLabel(
-        LeyVigente == 0
-            ? u"Sin ley vigente"_s
-            : u"Ley vigente: %1 (desde %2)"_s.arg(LeyVigente).arg(LeyVigenciaDesde.toString(u"dd/MM/yyyy"_s)));
-    ley->setObjectName(u"panelLey"_s);
     ui->StatusBar->addWidget(ruta, 1);
+    if (LeyVigente == 0)
+        return;
+    auto* ley = new QLabel(
+        u"Ley vigente: %1 (desde %2)"_s.arg(LeyVigente).arg(LeyVigenciaDesde.toString(u"dd/MM/yyyy"_s)));
+    ley->setObjectName(u"panelLey"_s);
     ui->StatusBar->addPermanentWidget(ley);
 }
 

@@ -5,6 +5,7 @@
 #include "printing/screens/pintar_pagina.h"
 #include "printing/screens/rptInforme.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTimer>
@@ -146,4 +147,17 @@ void ctlVistaPrevia::wheelEvent(QWheelEvent* evento)
     }
     const double zoom = escala_ * MM_POR_PULGADA / logicalDpiX();
     fijarZoom(std::clamp(zoom * (evento->angleDelta().y() > 0 ? 1.15 : 1 / 1.15), 0.2, 5.0));
+}
+
+void ctlVistaPrevia::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Home) {
+        verticalScrollBar()->setValue(0);
+    } else if (evento->key() == Qt::Key_End) {
+        while (informe_ && !informe_->completo())
+            contar();
+        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    } else {
+        QAbstractScrollArea::keyPressEvent(evento);
+    }
 }

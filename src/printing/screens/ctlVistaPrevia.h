@@ -37,6 +37,8 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void scrollContentsBy(int dx, int dy) override;
     void wheelEvent(QWheelEvent* evento) override;
+    /// Home and End go to the ends of the report.
+    void keyPressEvent(QKeyEvent* evento) override;
 
 private:
     void acomodar();

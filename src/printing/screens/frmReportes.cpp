@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int ZOOM_ANCHO = 0;
 constexpr int ZOOM_PAGINA = 1;
+constexpr QLatin1StringView EXTENSION_PDF(".pdf");
 
 }  // namespace
 
@@ -81,6 +83,8 @@ void frmReportes::poner(const QString& titulo, const QString& nombre, std::share
     nombre_ = nombre;
     informe_ = std::move(informe);
     ui->CRViewer91->mostrar(informe_);
+    // The keys that scroll work from the first.
+    ui->CRViewer91->setFocus();
     puntero_normal();
 }
 
@@ -136,6 +140,9 @@ void frmReportes::imprimir()
     QPrintDialog dialogo(&impresora, this);
     dialogo.setMinMax(1, informe_->paginas());
     dialogo.setOption(QAbstractPrintDialog::PrintPageRange);
+    // Named beforehand on the printer itself, a file would take the place of the user's own printer.
+    if (auto* archivo = dialogo.findChild<QLineEdit*>(u"filename"_s))
+        archivo->setText(archivoPropuesto());
     if (dialogo.exec() != QDialog::Accepted)
         return;
     const bool rango = impresora.printRange() == QPrinter::PageRange;
@@ -148,10 +155,27 @@ bool frmReportes::guardarPDF(const QString& archivo)
     return guardar_pdf(*informe_, archivo, windowTitle());
 }
 
+QString frmReportes::archivoPropuesto() const
+{
+    return QDir::home().filePath(nombre_ + EXTENSION_PDF);
+}
+
 void frmReportes::pedirPDF()
 {
-    const QString archivo = QFileDialog::getSaveFileName(
-        this, u"Guardar como PDF"_s, QDir::home().filePath(nombre_ + u".pdf"_s), u"Archivos PDF (*.pdf)"_s);
-    if (!archivo.isEmpty() && !guardarPDF(archivo))
+    QFileDialog dialogo(this, u"Guardar como PDF"_s, archivoPropuesto(), u"Archivos PDF (*.pdf)"_s);
+    dialogo.setAcceptMode(QFileDialog::AcceptSave);
+    dialogo.setDefaultSuffix(u"pdf"_s);
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
+        return;
+    QString archivo = dialogo.selectedFiles().constFirst();
+    // The dialog takes what follows any point for an extension, and has not asked about this name.
+    if (!archivo.endsWith(EXTENSION_PDF, Qt::CaseInsensitive)) {
+        archivo += EXTENSION_PDF;
+        if (QFile::exists(archivo)
+            && !preguntar(u"El archivo %1 ya existe.\n¿Desea reemplazarlo?"_s.arg(QDir::toNativeSeparators(archivo)),
+                          windowTitle()))
+            return;
+    }
+    if (!guardarPDF(archivo))
         avisar(u"No se pudo guardar "_s + QDir::toNativeSeparators(archivo), windowTitle(), Icono::exclamacion);
 }

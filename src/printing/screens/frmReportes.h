@@ -44,9 +44,10 @@ private:
     void poner(const QString& titulo, const QString& nombre, std::shared_ptr<Informe> informe);
     void imprimir();
     void pedirPDF();
+    [[nodiscard]] QString archivoPropuesto() const;
     void cambiarZoom(int indice);
 
     std::unique_ptr<Ui::frmReportes> ui;
     std::shared_ptr<Informe> informe_;
-    QString nombre_;  // proposed for the PDF: kind and number
+    QString nombre_;  // proposed for the file: kind and number
 };
