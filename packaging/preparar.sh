@@ -25,5 +25,7 @@ construir() {
   export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-$([ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || echo offscreen)}
   [ -n "$QT_QPA_PLATFORM" ] || unset QT_QPA_PLATFORM
   [ "build/$preset/build.ninja" -nt CMakePresets.json ] || cmake --preset "$preset" >/dev/null
+  # Forms first: the build learns of a header that uic has written anew only when it starts.
+  cmake --build --preset "$preset" --target autogen
   cmake --build --preset "$preset" ${1:+--target} "$@"
 }

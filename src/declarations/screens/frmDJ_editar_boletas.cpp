@@ -23,16 +23,27 @@ void frmDJ_editar::conectarBoletas()
     habilitar_botones_boleta();
 }
 
+namespace {
+
+// What can't be read is told when it is used, not at each key.
+bool legibles(std::initializer_list<const ctlNumero*> campos)
+{
+    return std::all_of(campos.begin(), campos.end(), [](const ctlNumero* n) { return n->modelo().legible(); });
+}
+
+}  // namespace
+
 void frmDJ_editar::sumarDeposito()
 {
-    // What can't be read is told when the slip is made.
-    if (!ui->nroImpuesto->modelo().legible() || !ui->nroInteres->modelo().legible())
+    if (!legibles({ui->nroImpuesto, ui->nroInteres}))
         return;
     ui->nroBOL_Total_depositar->setValue(ui->nroImpuesto->Value() + ui->nroInteres->Value());
 }
 
 void frmDJ_editar::sumarBoleta()
 {
+    if (!legibles({ui->nroEfectivo, ui->nroCheque1_monto, ui->nroCheque2_monto}))
+        return;
     ui->nroTotalBoleta->setValue(ui->nroCheque1_monto->Value() + ui->nroCheque2_monto->Value()
                                  + ui->nroEfectivo->Value());
 }
@@ -98,10 +109,13 @@ ControlesBoleta frmDJ_editar::leer_boleta_de_pantalla() const
 // report window gives them back or the editor closes.
 void frmDJ_editar::generar_boleta()
 {
-    ui->tlbB->setEnabled(false);
-    puntero_de_espera();
     sumarBoleta();
     ControlesBoleta c = leer_boleta_de_pantalla();
+    for (const Numero* n : {&c.impuesto, &c.interes, &c.efectivo, &c.cheques[0].monto, &c.cheques[1].monto})
+        if (!n->legible())
+            throw ErrorConversion();
+    ui->tlbB->setEnabled(false);
+    puntero_de_espera();
     const auto falla = validar_boleta(c);
     for (const auto& [texto, campo] : textos_cheques(c))
         campo->setText(*texto);
@@ -109,7 +123,14 @@ void frmDJ_editar::generar_boleta()
         mostrarFalla(*falla);
         return;
     }
-    const QString nro = insertar_boleta(c);
+    QString nro;
+    try {
+        nro = insertar_boleta(c);
+    } catch (...) {
+        devolverBoletas();
+        puntero_normal();
+        throw;
+    }
     cargar_boletas();
     imprimir_boleta(nro);
     habilitar_botones_boleta();

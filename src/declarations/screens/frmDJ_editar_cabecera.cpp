@@ -52,8 +52,10 @@ void frmDJ_editar::conectarCabecera()
         atender(combo, &QComboBox::activated, &frmDJ_editar::componer_nro_dj);
     atender(ui->cboDJ_Estado, &QComboBox::activated, &frmDJ_editar::marcar_sin_movimientos);
     connect(ui->chkCambiarFechaVenc, &QCheckBox::toggled, ui->dtpBOL_venc, &QWidget::setEnabled);
-    atender(ui->nroAcred_monto, &ctlNumero::cambiado,
-            [this] { ui->nroTotal_depositar->setValue(ui->nroTotal_retenido->Value() - ui->nroAcred_monto->Value()); });
+    atender(ui->nroAcred_monto, &ctlNumero::cambiado, [this] {
+        if (ui->nroAcred_monto->modelo().legible())
+            ui->nroTotal_depositar->setValue(ui->nroTotal_retenido->Value() - ui->nroAcred_monto->Value());
+    });
 }
 
 int frmDJ_editar::estado() const
