@@ -385,14 +385,16 @@ create table SEL_TB_RTN_INS_ROLES (
     SEDD_ID  integer not null,
     SEDO_ID  integer not null,
     SPIN_ID  integer not null,
-    SROL_ID  integer not null,
+    SROL_ID  integer not null references SEL_TB_ROLES,
     SEDR_OBS text(50) collate nocase,
     primary key (SEDJ_NRO, SEDD_ID, SEDO_ID, SPIN_ID, SROL_ID)
 ) without rowid;
 
+create index IDX_INS_ROLES_ROL on SEL_TB_RTN_INS_ROLES (SROL_ID);
+
 -- Receipts; their dates are texts DD/MM/YYYY. A receipt outlives the deed that it was issued for.
 create table SEL_TB_RTN_COMP_RET (
-    SCRT_NRO               text(20) collate nocase primary key not null,
+    SCRT_NRO               text(19) collate nocase primary key not null,
     SEDJ_NRO               text(17) not null,
     SEDD_ID                integer not null,
     SCRT_ANULADO           text(1) not null,

@@ -61,16 +61,16 @@ bool agregar_agente(const Agente& a, const QString& titulo, Dialogo& dialogo)
     return guardar(titulo, dialogo, [&] {
         const FilaAgente f{a.nroRegNotarial,
                            a.nroRegNotarial,
-                           toSQL(a.titular),
+                           a.titular,
                            cuit_numero(a.cuit),
-                           toSQL(a.domicilio),
-                           toSQL(a.codPostal),
-                           toSQL(a.telefono),
+                           a.domicilio,
+                           a.codPostal,
+                           a.telefono,
                            a.localidad,
-                           toSQL(a.email),
-                           toSQL(a.adscripto1),
+                           a.email,
+                           a.adscripto1,
                            cuit_numero(a.adscripto1Cuit),
-                           toSQL(a.adscripto2),
+                           a.adscripto2,
                            cuit_numero(a.adscripto2Cuit)};
         insertar_fila<FilaAgente>(cnRtn, sentencia, COLUMNAS, f);
     });

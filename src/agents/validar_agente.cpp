@@ -14,13 +14,15 @@ std::optional<Falla> validar_agente(Agente& a)
         a.adscripto1.swap(a.adscripto2);
         a.adscripto1Cuit.swap(a.adscripto2Cuit);
     }
+    // Blanks are a CUIT that is not valid.
+    const bool sin_cuit = a.cuit.isEmpty();
     const bool cuit_bien = cuit_valido(a.cuit);
     const bool cuit1_bien = cuit_valido(a.adscripto1Cuit);
     const bool cuit2_bien = cuit_valido(a.adscripto2Cuit);
     return primera_falla({
         {a.nroRegNotarial == 0, "Ingrese el Nº de Registro Notarial del titular", "nroRegNotarial"},
         {a.titular.isEmpty(), "Ingrese el nombre del titular", "txtTitular"},
-        {a.cuit.isEmpty(), "Ingrese el CUIT del titular", "txtCUIT"},
+        {sin_cuit, "Ingrese el CUIT del titular", "txtCUIT"},
         {!cuit_bien, "El CUIT del titular no es válido", "txtCUIT"},
         {a.domicilio.isEmpty(), "Ingrese el domicilio del titular", "txtDomicilio"},
         {!a.localidad, "Ingrese la localidad del titular", "cboLocalidad"},

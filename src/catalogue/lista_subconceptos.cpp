@@ -4,6 +4,7 @@
 
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
+#include "core/redondeo.h"
 
 #include <array>
 
@@ -23,6 +24,7 @@ constexpr std::array COLUMNAS{
     ColumnaSubconceptos{nullptr, "SSUB_ID_CONLEY", false, 0},
     ColumnaSubconceptos{nullptr, "SCON_ID", false, 0},
 };
+constexpr size_t COLUMNA_MINIMO = 5;
 constexpr size_t COLUMNA_FECHA = 7;
 
 QString exencion_igual(const FiltroSubconceptos& f)
@@ -104,6 +106,9 @@ void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila)
     for (; !rs.eof(); rs.siguiente()) {
         for (size_t i = 0; i < COLUMNAS.size(); ++i)
             celdas[i] = rs.utf8(lugares[i]);
+        std::string minimo;
+        if (!celdas[COLUMNA_MINIMO].empty())
+            celdas[COLUMNA_MINIMO] = minimo = numero_llano(rs.real(lugares[COLUMNA_MINIMO])).toStdString();
         // Stored as yyyy-mm-dd.
         std::string fecha;
         if (const std::string_view f = celdas[COLUMNA_FECHA]; f.size() >= 10)

@@ -6,12 +6,11 @@
 #include "catalogue/subconcepto_fila.h"
 #include "core/dialogo.h"
 
-/// A control that works only while a box is ticked.
+/// A control that works only while a box is ticked, and is empty without it.
 struct DependenciaSubconcepto
 {
     const char* control;
     const char* casilla;
-    bool vaciar = true;  ///< whether clearing the box empties the control
 };
 [[nodiscard]] std::span<const DependenciaSubconcepto> dependencias_subconcepto();
 /// Whether all boxes on which a control hangs, near or far, are ticked.

@@ -2,6 +2,8 @@
 
 #include "core/clsLocaleInfo.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -42,11 +44,14 @@ int clsLocaleInfo::GetLCID() const
     return 0;
 }
 
+// Three letters "d" and more are the weekday, and what stands between apostrophes is no part of the date.
 QString clsLocaleInfo::orden(const QString& patron)
 {
-    const auto d = patron.indexOf(u'd');
-    const auto m = patron.indexOf(u'M');
-    const auto y = patron.indexOf(u'y');
+    static const QRegularExpression AJENO(u"'[^']*'|d{3,}"_s);
+    const QString fecha = QString(patron).remove(AJENO);
+    const auto d = fecha.indexOf(u'd');
+    const auto m = fecha.indexOf(u'M');
+    const auto y = fecha.indexOf(u'y');
     if (y < m && y < d)
         return u"YMD"_s;
     return m < d ? u"MDY"_s : u"DMY"_s;

@@ -135,6 +135,16 @@ int orden(QChar c)
     return (partes.isEmpty() ? c : partes.front()).unicode() * 4;
 }
 
+void fn_sin_tildes(sqlite3_context* ctx, int, sqlite3_value** v)
+{
+    const auto* bytes = sqlite3_value_text(v[0]);
+    const bool llano = std::all_of(bytes, bytes + sqlite3_value_bytes(v[0]), [](unsigned char c) { return c < 0x80; });
+    if (llano)
+        sqlite3_result_value(ctx, v[0]);
+    else
+        responder(ctx, sin_tildes(texto_de(v[0])));
+}
+
 int cotejo(void*, int na, const void* a, int nb, const void* b)
 {
     return comparar_espanol(QString::fromUtf8(static_cast<const char*>(a), na),
@@ -142,6 +152,15 @@ int cotejo(void*, int na, const void* a, int nb, const void* b)
 }
 
 }  // namespace
+
+QString sin_tildes(const QString& texto)
+{
+    QString llano = texto;
+    for (QChar& c : llano)
+        if (const QString partes = c.decomposition(); !partes.isEmpty() && c.toUpper() != u'Ñ')
+            c = partes.front();
+    return llano;
+}
 
 int comparar_espanol(const QString& a, const QString& b)
 {
@@ -166,5 +185,6 @@ void registrar_funciones(sqlite3* base)
     agregar("str", 1, fn_str);
     agregar("iif", 3, fn_iif);
     agregar("like", 2, fn_like);
+    agregar("sin_tildes", 1, fn_sin_tildes);
     sqlite3_create_collation_v2(base, "ESPANOL", SQLITE_UTF8, nullptr, cotejo, nullptr);
 }

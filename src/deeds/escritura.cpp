@@ -77,7 +77,7 @@ Escritura escritura_nueva(const ControlesEscritura& c)
     if (c.noAlcanzado() && c.motivoOtroActivo)
         e.motivoOtro = c.motivoOtro;
     if (!c.anulada())
-        e.testimonio = toSQL(c.testimonio);
+        e.testimonio = c.testimonio;
     return e;
 }
 

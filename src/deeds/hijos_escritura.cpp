@@ -10,6 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int DECIMALES_IMPORTE = 2;
+
 QString texto_numero(const Recordset& rs, const char* columna)
 {
     return rs.nulo(columna) ? QString() : numero_sql(rs.real(columna));
@@ -49,7 +51,8 @@ double leer_operaciones(const RenglonDJ& r, const AgregarFila& fila)
          !rs.eof(); rs.siguiente()) {
         fila({rs.texto("SEDO_ID"), rs.texto("SSUB_ID_SIN_LEY"), rs.texto("SSUB_DESCRIPCION"),
               importe_o_vacio(rs, "SINS_BASEIMPONIBLE"), importe_o_vacio(rs, "SINS_MONTO_FINAL")});
-        total += rs.real("SINS_MONTO_FINAL");
+        // Each step is rounded as the field of the total shows it.
+        total = redondear(total + rs.real("SINS_MONTO_FINAL"), DECIMALES_IMPORTE);
     }
     return total;
 }

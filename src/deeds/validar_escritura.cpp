@@ -88,9 +88,12 @@ bool verificar_testimonio_unico(const ControlesEscritura& c, Dialogo& dialogo)
 {
     try {
         const QString otra = c.operacion == Modo::modificar ? u" and SEDD_ID<>%1"_s.arg(c.renglon) : QString();
-        const Recordset rs(
-            cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_DIA  from SEL_TB_RTN_DETDJ "
-                   u" where SEDJ_NRO='%1' and SEDD_FNAME_TESTIMONIO='%2'%3"_s.arg(c.dj, toSQL(c.testimonio), otra));
+        // An older store may hold the apostrophes of a path doubled.
+        const QString archivo = toSQL(c.testimonio);
+        const QString doblado = toSQL(c.testimonio).replace(u"'"_s, u"''"_s);
+        const Recordset rs(cnRtn, u" select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_DIA  from SEL_TB_RTN_DETDJ "
+                                  u" where SEDJ_NRO='%1' and SEDD_FNAME_TESTIMONIO in ('%2', '%3')%4"_s.arg(
+                                      c.dj, archivo, doblado, otra));
         if (rs.eof())
             return true;
         dialogo.avisar({u"Atención: El archivo ya fue asociado a la escritura Nº %1 del dia %2"_s.arg(

@@ -2,6 +2,7 @@
 
 #include "parties/buscar_parte.h"
 
+#include "core/funciones_sql.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "parties/listas_parte.h"
@@ -20,16 +21,17 @@ QString parecido(const QString& patron)
     QString uno = patron;
     while (uno.contains(u"%%"))
         uno.replace(u"%%"_s, u"%"_s);
-    return u" or ( SPIN_RSOCIAL like '%1') "_s.arg(uno);
+    return u" or ( sin_tildes(SPIN_RSOCIAL) like '%1') "_s.arg(uno);
 }
 
 QString filtro_nombre(FiltroPartes& f)
 {
     const QString cabeza = f.criterio == Criterio::contiene || f.criterio == Criterio::termina ? u"%"_s : QString();
     const QString cola = f.criterio == Criterio::comienza || f.criterio == Criterio::contiene ? u"%"_s : QString();
-    QString sql = u"( SPIN_RSOCIAL like '%1' "_s.arg(cabeza + toSQL(f.razonSocial) + cola);
+    // Names were typed with accents and without.
+    QString sql = u"( sin_tildes(SPIN_RSOCIAL) like '%1' "_s.arg(cabeza + sin_tildes(toSQL(f.razonSocial)) + cola);
     f.razonSocial = limpiar_nombre(f.razonSocial);
-    QStringList palabras = toSQL(f.razonSocial).split(u' ', Qt::SkipEmptyParts).mid(0, MAXIMO_PALABRAS);
+    QStringList palabras = sin_tildes(toSQL(f.razonSocial)).split(u' ', Qt::SkipEmptyParts).mid(0, MAXIMO_PALABRAS);
     if (palabras.size() > 1) {
         sql += parecido(cabeza + palabras.join(u'%') + cola);
         std::reverse(palabras.begin(), palabras.end());
@@ -69,7 +71,7 @@ QString consulta_busqueda_partes(FiltroPartes& f, const QString& titulo, Dialogo
         sql += u" and  (GTSO_ID=%1)"_s.arg(*f.tipoSociedad);
     if (f.criterio != Criterio::sin_filtro && !f.razonSocial.isEmpty())
         sql += u" and "_s + filtro_nombre(f);
-    if (f.tipoDoc.value_or(0) != 0 && !f.nroDoc.isEmpty())
+    if (f.tipoDoc && !f.nroDoc.isEmpty())
         sql += u" and "_s + filtro_documento(f, titulo, dialogo);
     return sql + u" order by SPIN_NRODOC "_s;
 }

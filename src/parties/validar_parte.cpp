@@ -82,6 +82,8 @@ std::optional<Falla> validar_parte(ControlesParte& c)
     const double porcentaje = c.exencionPorc.Value();
     return primera_falla({
         {c.extranjera && c.pais < 0, "Ingrese el código pais del participante", "cboCodigoPais"},
+        // A party without a type would stand in no list of the deed.
+        {!c.tipoDoc, "Ingrese el tipo de documento del participante", "cboTipoDoc"},
         {!c.tipoSociedad, "Ingrese el tipo de sociedad", "cboTipoSociedad"},
         {c.razonSocial.isEmpty(), "Ingrese la denominación/razón social de la parte", "txtRazonSocial"},
         {!c.provinciaTexto.isEmpty() && !c.provincia, "El texto ingresado no es una provincia válida", "cboProv"},

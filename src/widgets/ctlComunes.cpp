@@ -6,49 +6,52 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QFocusEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// On leaving the combo, what was typed goes to the first entry that starts with it.
-class FiltroCompletar : public QObject
+// Neither a list that opens nor a box on top is a leaving.
+class FiltroSalida : public QObject
 {
 public:
-    explicit FiltroCompletar(QComboBox* combo) : QObject(combo), combo_(combo) {}
+    FiltroSalida(QComboBox* combo, std::function<void()> accion) : QObject(combo), accion_(std::move(accion)) {}
     bool eventFilter(QObject* objeto, QEvent* evento) override
     {
         if (evento->type() == QEvent::FocusOut) {
             const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
             if (motivo != Qt::PopupFocusReason && motivo != Qt::ActiveWindowFocusReason)
-                completar();
+                accion_();
         }
         return QObject::eventFilter(objeto, evento);
     }
 
 private:
-    void completar()
-    {
-        const QString texto = combo_->currentText();
-        if (texto.isEmpty()) {
-            combo_->setCurrentIndex(-1);
-            return;
-        }
-        const int i = combo_->findText(texto, Qt::MatchStartsWith);
-        if (i >= 0 && (i != combo_->currentIndex() || combo_->itemText(i) != texto)) {
-            combo_->setCurrentIndex(i);
-            combo_->setEditText(combo_->itemText(i));
-            emit combo_->activated(i);
-        }
-    }
-
-    QComboBox* combo_;
+    std::function<void()> accion_;
 };
+
+// What was typed goes to the first entry that starts with it.
+void completar(QComboBox* combo)
+{
+    const QString texto = combo->currentText();
+    if (texto.isEmpty()) {
+        combo->setCurrentIndex(-1);
+        return;
+    }
+    const int i = combo->findText(texto, Qt::MatchStartsWith);
+    if (i >= 0 && (i != combo->currentIndex() || combo->itemText(i) != texto)) {
+        combo->setCurrentIndex(i);
+        combo->setEditText(combo->itemText(i));
+        emit combo->activated(i);
+    }
+}
 
 void pintar(QWidget* w, bool si)
 {
@@ -63,12 +66,14 @@ void pintar(QWidget* w, bool si)
 
 void a_mayusculas(QLineEdit* texto)
 {
-    QObject::connect(texto, &QLineEdit::textEdited, texto, [texto](const QString& t) {
+    QObject::connect(texto, &QLineEdit::textChanged, texto, [texto](const QString& t) {
         const QString mayusculas = t.toUpper();
         if (mayusculas == t)
             return;
         const int cursor = texto->cursorPosition();
+        const bool tecleado = texto->isModified();
         texto->setText(mayusculas);
+        texto->setModified(tecleado);
         texto->setCursorPosition(cursor);
     });
 }
@@ -138,11 +143,32 @@ void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int i
     combo->setCurrentIndex(-1);
 }
 
+Tecleo::Tecleo(QComboBox* combo) : QObject(combo)
+{
+    combo->installEventFilter(this);
+}
+
+// The event is sent on from here, so that its end is known.
+bool Tecleo::eventFilter(QObject* objeto, QEvent* evento)
+{
+    const bool tecla = evento->type() == QEvent::KeyPress || evento->type() == QEvent::Wheel;
+    if (!tecla || enCurso_)
+        return false;
+    const QScopedValueRollback en_curso(enCurso_, true);
+    QCoreApplication::sendEvent(objeto, evento);
+    return true;
+}
+
+void al_salir(QComboBox* combo, const std::function<void()>& accion)
+{
+    combo->installEventFilter(new FiltroSalida(combo, accion));
+}
+
 void combo_con_texto(QComboBox* combo)
 {
     combo->setCompleter(nullptr);
     a_mayusculas(combo->lineEdit());
-    combo->installEventFilter(new FiltroCompletar(combo));
+    al_salir(combo, [combo] { completar(combo); });
 }
 
 std::optional<int> elegido(const QComboBox* combo)

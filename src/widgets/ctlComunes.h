@@ -4,8 +4,10 @@
 
 #include "core/listas.h"
 
+#include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class QAbstractButton;
@@ -13,7 +15,7 @@ class QComboBox;
 class QLineEdit;
 class QWidget;
 
-/// Turns what is typed to capitals at once, the caret staying where it was.
+/// Turns what is typed, pasted or set to capitals at once, the caret staying where it was.
 void a_mayusculas(QLineEdit* texto);
 /// Ticks or clears a box or an option, also the last option of its group.
 void marcar_boton(QAbstractButton* boton, bool si);
@@ -40,6 +42,20 @@ void buscar_en_combo(QComboBox* combo, int criterio, const QString& texto, int i
 [[nodiscard]] std::optional<int> filtro_elegido(const QComboBox* combo);
 /// Item data of the entry that the text of a combo with typing stands for, nothing for any other text.
 [[nodiscard]] std::optional<int> elegido_por_texto(const QComboBox* combo);
+/// Watches a combo for choices by a key or the wheel with its list closed, which go on while one types.
+class Tecleo : public QObject
+{
+public:
+    explicit Tecleo(QComboBox* combo);
+    /// Whether the choice that the combo reports right now is one of these.
+    [[nodiscard]] bool enCurso() const { return enCurso_; }
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
+private:
+    bool enCurso_ = false;
+};
+/// What is to run when the combo is left, by the keyboard or the mouse.
+void al_salir(QComboBox* combo, const std::function<void()>& accion);
 /// A combo with typing: in capitals, and on leaving it the text goes to the first entry that
 /// starts with it.
 void combo_con_texto(QComboBox* combo);

@@ -71,7 +71,7 @@ TEST_F(AgenteAlmacen, SeGuardaSeLeeYSeBorra)
     EXPECT_EQ(
         filas(
             "select SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, SRTN_EMAIL, SRTN_ADSCRIPTO2_CUIT from SEL_TB_RTN_PADRON"_u),
-        "7|7|O''BRIEN|20123456786|null|null"_u);
+        "7|7|O'BRIEN|20123456786|null|null"_u);
     EXPECT_EQ(cargar_agente(7)->titular, "O'BRIEN"_u);
     EXPECT_FALSE(agregar_agente(a, "t"_u, oyente));
     a.nroRegNotarial = 8;

@@ -255,7 +255,7 @@ TEST_F(PantallasCatalogo, DoscientasFilasVanYVuelven)
         v["DESCRIPCION"_u] = "'ITEM \"%1\" D''ORO'"_u.arg(i);
         v["LEYVIGENCIA"_u] = "'LEY 5707 - INC %1)'"_u.arg(i);
         v["FECHAVIGENCIA"_u] = "'20%1-0%2-1%3'"_u.arg(azar() % 20 + 10).arg(azar() % 9 + 1).arg(azar() % 10);
-        v["OBSERVACIONES"_u] = o_nulo("'obs; ''''%'"_u).replace("''''"_u, "''"_u);
+        v["OBSERVACIONES"_u] = o_nulo("'OBS; ''''%'"_u).replace("''''"_u, "''"_u);
         v["USOS"_u] = o_nulo(entero());
         QString sql = "STIC_ID=%1, SCON_ID=%2, SCBI_ID=%3"_u.arg(azar() % 4 + 1)
                           .arg(azar() % 8 + 1)

@@ -89,6 +89,9 @@ TEST(Utiles, LocalDelUsuario)
     EXPECT_EQ(ar.GetLCID(), 11274);
     const clsLocaleInfo us(QLocale(QLocale::English, QLocale::UnitedStates));
     EXPECT_EQ(us.Thousands() + us.sDecimal() + us.DateFormatOrder(), ",.MDY"_u);
+    // The weekday and the words between apostrophes decide nothing.
+    EXPECT_EQ(us.LongDateFormatOrder() + ar.LongDateFormatOrder(), "MDYDMY"_u);
+    EXPECT_EQ(clsLocaleInfo(QLocale(QLocale::Hungarian)).LongDateFormatOrder(), "YMD"_u);
     EXPECT_EQ(us.GetLCID(), 1033);
     EXPECT_EQ(clsLocaleInfo(QLocale::c()).GetLCID(), 0);
 }

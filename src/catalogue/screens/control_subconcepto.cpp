@@ -2,6 +2,7 @@
 
 #include "catalogue/screens/control_subconcepto.h"
 
+#include "catalogue/screens/fecha_opcional.h"
 #include "core/numero.h"
 #include "widgets/ctlCombo.h"
 #include "widgets/ctlComunes.h"
@@ -9,7 +10,6 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLineEdit>
 
 QVariant leer_control(const QWidget* w)
@@ -22,8 +22,8 @@ QVariant leer_control(const QWidget* w)
         const std::optional<int> dato = filtro_elegido(combo);
         return dato ? QVariant(*dato) : QVariant();
     }
-    if (const auto* fecha = qobject_cast<const QDateEdit*>(w))
-        return fecha->date();
+    if (const auto* fecha = qobject_cast<const FechaOpcional*>(w))
+        return fecha->fecha();
     if (const auto* texto = qobject_cast<const QLineEdit*>(w))
         return texto->text();
     return {};
@@ -37,8 +37,8 @@ void poner_control(QWidget* w, const QVariant& valor)
         marcar_boton(boton, valor.toBool());
     else if (auto* combo = qobject_cast<QComboBox*>(w))
         seleccionar_item(combo, valor.toInt());
-    else if (auto* fecha = qobject_cast<QDateEdit*>(w))
-        fecha->setDate(valor.toDate());
+    else if (auto* fecha = qobject_cast<FechaOpcional*>(w))
+        fecha->ponerFecha(valor.toDate());
     else if (auto* texto = qobject_cast<QLineEdit*>(w))
         texto->setText(valor.toString());
 }

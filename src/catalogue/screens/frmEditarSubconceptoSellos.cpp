@@ -61,6 +61,11 @@ void frmEditarSubconceptoSellos::conectar()
     atender(ui->tlbRoles, &BarraHerramientas::pulsada, &frmEditarSubconceptoSellos::tlbRoles_pulsada);
 }
 
+bool frmEditarSubconceptoSellos::esTextoLibre(const QWidget* w) const
+{
+    return w == ui->txtDescripcion || w == ui->txtLeyVigencia || w == ui->txtObservaciones;
+}
+
 int frmEditarSubconceptoSellos::codigo() const
 {
     return int(ui->nroCodigo->Value());
@@ -76,6 +81,7 @@ void frmEditarSubconceptoSellos::Inicializar(Modo operacion, std::optional<int> 
         poner_controles(*fila);
         guardado_ = true;
     }
+    textosAbiertos_ = true;
     ponerEdicion(false);
     marcarGuardado();
     if (nuevo)
@@ -117,6 +123,7 @@ void frmEditarSubconceptoSellos::pulsada(const QString& clave)
     }
     // What was typed stays on the screen after "cancelar", deliberately, until the form is opened anew.
     const bool editar = clave != u"cancelar";
+    textosAbiertos_ = false;
     if (editar && guardado_)
         Operacion = Modo::modificar;
     ponerEdicion(editar);
@@ -144,6 +151,7 @@ void frmEditarSubconceptoSellos::aceptar()
         return;
     }
     guardado_ = true;
+    textosAbiertos_ = false;
     ponerEdicion(false);
     marcarGuardado();
 }

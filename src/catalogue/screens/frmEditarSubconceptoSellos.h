@@ -46,6 +46,7 @@ private:
     [[nodiscard]] ControlesSubconcepto leer_controles() const;
     void poner_controles(const ControlesSubconcepto& c);
     void habilitarControles();
+    [[nodiscard]] bool esTextoLibre(const QWidget* w) const;
     void vaciarDependientes(const QString& casilla);
     void cambioCasilla(const QString& casilla, bool si);
 
@@ -86,6 +87,7 @@ private:
     std::optional<int> tipoCalculo_;
     bool guardado_ = false;  ///< the item is in the store
     bool editando_ = false;
+    bool textosAbiertos_ = false;  ///< typing in one of the three texts starts the editing
     bool mostrando_ = false;
     QList<clsAlicuotaSellos> alicuotas_;
     QList<clsModuloSellos> modulos_;

@@ -7,7 +7,6 @@
 #include "catalogue/screens/frmEditarRol.h"
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
 #include "core/almacen.h"
-#include "core/clsLocaleInfo.h"
 #include "core/motivos.h"
 #include "core/numero.h"
 #include "ui_frmEditarSubconceptoSellos.h"
@@ -15,12 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// A number of the store in the separators of the user's locale, with the decimals that it has.
-QString numero_local(double valor)
-{
-    return numero_sql(valor).replace(u'.', clsLocaleInfo().sDecimal());
-}
 
 QString cota(double valor)
 {
@@ -64,8 +57,8 @@ void frmEditarSubconceptoSellos::obtener_alicuotas()
     ui->grillaAlicuotas->llenar([this] {
         for (const clsAlicuotaSellos& a : std::as_const(alicuotas_))
             ui->grillaAlicuotas->agregar(
-                QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_local(a.ValorAlicuota),
-                            a.Divisor == 0 ? QString() : numero_local(a.Dividendo) + u'/' + numero_local(a.Divisor)});
+                QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_llano(a.ValorAlicuota),
+                            a.Divisor == 0 ? QString() : numero_llano(a.Dividendo) + u'/' + numero_llano(a.Divisor)});
     });
     habilitarBarras();
 }
@@ -76,7 +69,7 @@ void frmEditarSubconceptoSellos::obtener_modulos()
     ui->grillaModulos->llenar([this] {
         for (const clsModuloSellos& m : std::as_const(modulos_))
             ui->grillaModulos->agregar(
-                QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_local(m.CantModulos)});
+                QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_llano(m.CantModulos)});
     });
     habilitarBarras();
 }

@@ -79,7 +79,7 @@ void frmDJ_detalle_op::mostrarSubconcepto(const ResultadoSubconcepto& r)
     if (r.conMinimo) {
         ui->ctlImporteMinimo->setValue(s.ModulosMinimo * ValorModulo);
         ui->lblImporteMinimo->setText(
-            u"Importe mínimo de sellado:  %1 MÓDULOS -  $"_s.arg(QString::number(s.ModulosMinimo)));
+            u"Importe mínimo de sellado:  %1 MÓDULOS -  $"_s.arg(numero_llano(s.ModulosMinimo)));
     }
     ui->lblValuacionFiscal->setText(s.NombreValuacionFiscal);
     ui->lblValorContractual->setText(r.nombreValorContractual);

@@ -32,7 +32,7 @@ frmDJ_buscar::frmDJ_buscar() : ui(std::make_unique<Ui::frmDJ_buscar>())
 
     atender(ui->tlbDJ, &BarraHerramientas::pulsada, &frmDJ_buscar::tlbDJ_pulsada);
     atender(ui->flx, &Grilla::elegida, [this] { ui->tlbDJ->pulsar(u"modificar"_s); });
-    atender(ui->cboRTN, &QComboBox::activated, [this] { listar_dj(true); });
+    atender(ui->cboRTN, &QComboBox::activated, [this] { listar_dj(); });
     for (ctlNumero* n : {ui->nroAnio, ui->nroMes})
         n->findChild<QLineEdit*>(u"txt"_s)->installEventFilter(this);
     atender(ui->nroAnio, &ctlNumero::KeyPress, [this](int& tecla) {
@@ -50,7 +50,7 @@ frmDJ_buscar::~frmDJ_buscar() = default;
 
 void frmDJ_buscar::alActivar()
 {
-    listar_dj(false);
+    listar_dj();
     habilitar_botones();
 }
 
@@ -62,8 +62,11 @@ bool frmDJ_buscar::eventFilter(QObject* objeto, QEvent* evento)
         const bool sale = motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason
                           || motivo == Qt::MouseFocusReason || motivo == Qt::OtherFocusReason
                           || motivo == Qt::ShortcutFocusReason;
-        if (sale && !aceptarMes())
+        bool vale = true;
+        if (sale && proteger([&] { vale = aceptarMes(); }) && !vale) {
+            negar();
             QMetaObject::invokeMethod(ui->nroMes, qOverload<>(&QWidget::setFocus), Qt::QueuedConnection);
+        }
     }
     return Formulario::eventFilter(objeto, evento);
 }
@@ -73,7 +76,7 @@ void frmDJ_buscar::aceptarAnio()
     if (ui->nroAnio->Value() == 0)
         ui->nroAnio->ClearText();
     else
-        listar_dj(true);
+        listar_dj();
 }
 
 bool frmDJ_buscar::aceptarMes()
@@ -85,7 +88,7 @@ bool frmDJ_buscar::aceptarMes()
     }
     if (mes < 1 || mes > 12)
         return false;
-    listar_dj(true);
+    listar_dj();
     return true;
 }
 
@@ -96,11 +99,12 @@ void frmDJ_buscar::cargar_agentes()
     ui->cboRTN->setCurrentIndex(0);
 }
 
-void frmDJ_buscar::listar_dj(bool limpiar)
+// A month that is none leaves the list under the one before.
+void frmDJ_buscar::listar_dj()
 {
-    if (limpiar)
-        ui->flx->vaciar();
-    const FiltroDJ filtro{filtro_elegido(ui->cboRTN), int(ui->nroAnio->Value()), int(ui->nroMes->Value())};
+    if (const double mes = ui->nroMes->Value(); mes >= 0 && mes <= 12)
+        mes_ = int(mes);
+    const FiltroDJ filtro{filtro_elegido(ui->cboRTN), int(ui->nroAnio->Value()), mes_};
     ui->flx->llenar(
         [&] { leer_lista_dj(filtro, [this](std::span<const std::string_view> fila) { ui->flx->agregar(fila); }); });
     habilitar_botones();
@@ -139,7 +143,7 @@ void frmDJ_buscar::tlbDJ_pulsada(const QString& clave)
     else if (clave == u"borrar" && preguntar(u"¿Esta seguro que desea borrar la DJ seleccionada?"_s, u"Borrar DJ"_s)) {
         DialogoPantalla dialogo(this);
         borrar_dj(nro, dialogo);
-        listar_dj(false);
+        listar_dj();
     }
 }
 

@@ -26,7 +26,7 @@ protected:
 private:
     void habilitar_botones();
     void cargar_agentes();
-    void listar_dj(bool limpiar);
+    void listar_dj();
     void tlbDJ_pulsada(const QString& clave);
     void abrirEditor(Modo operacion, const QString& nro);
     void rectificar();
@@ -35,4 +35,5 @@ private:
     void aceptarAnio();
 
     std::unique_ptr<Ui::frmDJ_buscar> ui;
+    int mes_ = 0;  ///< of the last filter that was accepted
 };

@@ -138,8 +138,7 @@ bool frmDJ_editar::cargar_cabecera(const QString& nro)
     mostrarAgente(agente_de(*dj, localidad));
     ui->dtpBOL_emision->setDate(hoy());
     ui->dtpBOL_venc->clearMinimumDate();
-    if (dj->vencimiento.isValid())
-        ui->dtpBOL_venc->setDate(dj->vencimiento);
+    ui->dtpBOL_venc->setDate(dj->vencimiento.isValid() ? dj->vencimiento : vencimiento_dj(dj->anio, dj->mes));
     ui->nroAcred_resolucion->setValue(dj->acredResolucion.left(4).toDouble());
     ui->nroAcred_resolucion_anio->setValue(dj->acredResolucion.mid(5).toDouble());
     ui->nroTotal_retenido->setValue(dj->totalRetenido);

@@ -104,7 +104,6 @@ void frmDJ_detalle::alActivar()
     cargar_partes();
     cargar_inmuebles();
     cargar_operaciones();
-    habilitar_botones_edicion(ui->tlbDetalle->habilitada(u"aceptar"_s));
 }
 
 void frmDJ_detalle::habilitar_solapas(bool si)

@@ -46,6 +46,7 @@ void frmDJ_detalle::cargar_operaciones()
     cargar_lista(ui->tlbOp, ui->flxOp, "operaciones", [this](const AgregarFila& fila) {
         ui->nroTotalImpuesto->setValue(leer_operaciones(renglon(), fila));
     });
+    habilitar_botones_edicion(ui->tlbDetalle->habilitada(u"aceptar"_s));
 }
 
 void frmDJ_detalle::borrar_hijos_escritura()

@@ -51,4 +51,5 @@ private:
     std::unique_ptr<Ui::frmDJ_detalle_parte> ui;
     int id_ = 0;
     bool tramitePermitido_ = true;
+    class Tecleo* tecleoTipoDoc_ = nullptr;
 };

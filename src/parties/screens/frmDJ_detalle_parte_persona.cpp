@@ -37,6 +37,11 @@ void frmDJ_detalle_parte::conectarReacciones()
 {
     atender(ui->cboTipoDoc, &QComboBox::activated, &frmDJ_detalle_parte::clicTipoDoc);
     atender(ui->cboTipoSociedad, &QComboBox::activated, &frmDJ_detalle_parte::clicTipoSociedad);
+    al_salir(ui->cboTipoSociedad, [this] {
+        if (ui->cboTipoSociedad->currentIndex() >= 0)
+            clicTipoSociedad();
+    });
+    tecleoTipoDoc_ = new Tecleo(ui->cboTipoDoc);
     atender(ui->cboCodigoPais, &QComboBox::activated, &frmDJ_detalle_parte::clicPais);
     connect(ui->optExtranjera, &QRadioButton::toggled, ui->cboCodigoPais, &QWidget::setEnabled);
     atender(ui->optExtranjera, &QRadioButton::clicked, [this] {
@@ -142,6 +147,8 @@ void frmDJ_detalle_parte::clicTipoDoc()
 {
     prepararDocumento();
     salirDeNumero();
+    if (tecleoTipoDoc_->enCurso())
+        return;
     (ui->nroDoc->isVisible() ? static_cast<QWidget*>(ui->nroDoc) : ui->txtPasaporte)->setFocus();
 }
 
