@@ -129,7 +129,8 @@ bool Formulario::dejarCampo(QWidget* campo, bool sale)
 
 void Formulario::recuperarFoco(QWidget* campo)
 {
-    if (!sirve(this) || focusWidget() != this)
+    const QWidget* actual = focusWidget();
+    if (!sirve(this) || (actual != this && sirve(actual)))
         return;
     if (campo && campo != this && sirve(campo))
         campo->setFocus(Qt::OtherFocusReason);
