@@ -379,7 +379,8 @@ create table SEL_TB_RTN_INS_VC (
     foreign key (SEDJ_NRO, SEDD_ID, SEDO_ID) references SEL_TB_RTN_INS_OPERACIONES on delete cascade
 ) without rowid;
 
--- It has two parents, so that it cascades from neither: the program deletes its rows itself.
+-- It has two parents, so that it cascades from neither: the program deletes its rows itself. A role of the
+-- catalogue that stands here is not deleted, nor is its item.
 create table SEL_TB_RTN_INS_ROLES (
     SEDJ_NRO text(17) not null,
     SEDD_ID  integer not null,
@@ -392,7 +393,8 @@ create table SEL_TB_RTN_INS_ROLES (
 
 create index IDX_INS_ROLES_ROL on SEL_TB_RTN_INS_ROLES (SROL_ID);
 
--- Receipts; their dates are texts DD/MM/YYYY. A receipt outlives the deed that it was issued for.
+-- Receipts; their dates are texts DD/MM/YYYY. A receipt outlives the deed that it was issued for. Past 99999
+-- a number has one digit more, which the engine keeps.
 create table SEL_TB_RTN_COMP_RET (
     SCRT_NRO               text(19) collate nocase primary key not null,
     SEDJ_NRO               text(17) not null,

@@ -17,13 +17,17 @@ struct TablaTramos
 {
     const char* tabla;
     const char* prefijo;
+    const char* valor;
     double paso;
     const char* tipos;
 };
 
+// The decimals of the field through which the calculation takes a rate or a number of modules.
+constexpr int DECIMALES = 4;
+
 constexpr std::array TABLAS{
-    TablaTramos{"SEL_TB_ALICUOTAS", "SALI", 0.0, "'VARIABLE'"},
-    TablaTramos{"SEL_TB_MODULOS", "SMOD", 0.01, "'FIJO','FIJO PROPORCIONAL'"},
+    TablaTramos{"SEL_TB_ALICUOTAS", "SALI", "SALI_ALICUOTA", 0.0, "'VARIABLE'"},
+    TablaTramos{"SEL_TB_MODULOS", "SMOD", "SMOD_MODULOS", 0.01, "'FIJO','FIJO PROPORCIONAL'"},
 };
 
 QString revisar(Conexion& cn, const TablaTramos& t, const QHash<QString, QString>& lugares)
@@ -51,6 +55,8 @@ QString revisar(Conexion& cn, const TablaTramos& t, const QHash<QString, QString
         fin = rs.real(hasta.constData());
         if (fin != -1 && fin < inicio)
             return u"%1: el tramo termina antes de empezar"_s.arg(lugar);
+        if (const double valor = rs.real(t.valor); valor != redondear(valor, DECIMALES))
+            return u"%1: %2 tiene más de %3 decimales"_s.arg(lugar, rs.texto(t.valor), QString::number(DECIMALES));
         item = rs.entero("SSUB_ID");
         ultimo = lugar;
     }

@@ -16,8 +16,11 @@ select D.SEDJ_NRO, D.SEDD_ID, D.SEDD_ESCRITURA_NRO, D.SEDD_FOLIO, D.SEDD_DIA,
   left join SEL_TB_SUBCONCEPTOS S on S.SSUB_ID = O.SSUB_ID
   left join SEL_TB_NO_ALCANZADOS_DESC N on N.SNAD_ID = D.SNAD_ID;
 
+-- The last receipt of each deed: the number of the row that has the maximum. The sequence is padded, so that
+-- 100000 comes after 99999.
 create view SEL_VW_MAX_COMPROB as
-select SEDJ_NRO, SEDD_ID, max(SCRT_NRO) as MAX_SCRT_NRO
+select SEDJ_NRO, SEDD_ID, SCRT_NRO as MAX_SCRT_NRO,
+       max(substr(SCRT_NRO, 1, 14) || printf('%9s', substr(SCRT_NRO, 15))) as ORDEN
   from SEL_TB_RTN_COMP_RET
  group by SEDJ_NRO, SEDD_ID;
 

@@ -2,9 +2,9 @@
 
 #include "catalogue/lista_subconceptos.h"
 
+#include "catalogue/cantidad.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
-#include "core/redondeo.h"
 
 #include <array>
 
@@ -106,13 +106,15 @@ void leer_subconceptos(const QString& consulta, const AgregarFilaUtf8& fila)
     for (; !rs.eof(); rs.siguiente()) {
         for (size_t i = 0; i < COLUMNAS.size(); ++i)
             celdas[i] = rs.utf8(lugares[i]);
-        std::string minimo;
-        if (!celdas[COLUMNA_MINIMO].empty())
-            celdas[COLUMNA_MINIMO] = minimo = numero_llano(rs.real(lugares[COLUMNA_MINIMO])).toStdString();
         // Stored as yyyy-mm-dd.
         std::string fecha;
         if (const std::string_view f = celdas[COLUMNA_FECHA]; f.size() >= 10)
             celdas[COLUMNA_FECHA] = fecha.append(f, 8, 2).append("/").append(f, 5, 2).append("/").append(f, 0, 4);
+        QByteArray minimo;
+        if (!celdas[COLUMNA_MINIMO].empty()) {
+            minimo = cantidad_llana(rs.real(lugares[COLUMNA_MINIMO])).toUtf8();
+            celdas[COLUMNA_MINIMO] = {minimo.constData(), size_t(minimo.size())};
+        }
         fila(celdas);
     }
 }

@@ -6,7 +6,7 @@
 #include "catalogue/subconcepto_fila.h"
 #include "core/dialogo.h"
 
-/// A control that works only while a box is ticked, and is empty without it.
+/// A control that works only while a box is ticked, and is emptied with it.
 struct DependenciaSubconcepto
 {
     const char* control;

@@ -89,7 +89,7 @@ QString literal(const CampoSubconcepto& campo, const ControlesSubconcepto& c)
     switch (campo.forma) {
     case Forma::codigo: return texto;
     case Forma::texto: return texto_o_null(toSQL(texto));
-    case Forma::fecha: return valor.toDate().isValid() ? fecha_sql(valor.toDate()) : nulo;
+    case Forma::fecha: return valor.toDate().isNull() ? nulo : fecha_sql(valor.toDate());
     case Forma::logico: return logico_sql(valor.toBool());
     case Forma::numero: return asociado() && !texto.isEmpty() ? texto : nulo;
     case Forma::modo: return valor.toBool() ? u"'F'"_s : asociado() ? u"'P'"_s : nulo;

@@ -20,7 +20,7 @@ using ControlesSubconcepto = QHash<QString, QVariant>;
 enum class Forma {
     codigo,
     texto,  ///< empty is null
-    fecha,
+    fecha,  ///< none is null
     logico,
     numero,   ///< null when empty, and while its box is clear
     modo,     ///< 'F' with the first option, 'P' with the second, null with neither

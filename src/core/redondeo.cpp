@@ -142,17 +142,6 @@ QString importe_llano(double importe)
     return con_mascara(importe, 2, QLocale().decimalPoint(), {});
 }
 
-QString numero_llano(double valor)
-{
-    constexpr int DECIMALES = 10;
-    QString texto = formato_decimal(valor, DECIMALES);
-    while (texto.endsWith(u'0'))
-        texto.chop(1);
-    if (texto.endsWith(u'.'))
-        texto.chop(1);
-    return texto.replace(u"."_s, clsLocaleInfo().sDecimal());
-}
-
 QString importe_agrupado(double importe, int decimales)
 {
     const clsLocaleInfo local;

@@ -33,9 +33,6 @@ public:
 [[nodiscard]] QString importe_llano(double importe);
 /// An amount or a rate in the separators of the user's locale, grouped.
 [[nodiscard]] QString importe_agrupado(double importe, int decimales = 2);
-/// A number of the store with the decimals that it has, in the decimal separator of the user's locale; never an
-/// exponent.
-[[nodiscard]] QString numero_llano(double valor);
 /// The number at the start of a text under a mask of zeros, with at least as many whole digits as the mask
 /// has: "7" under "000" is "007", "2.5" under "0.00" is "2.50".
 [[nodiscard]] QString con_formato(const QString& texto, const QString& mascara);

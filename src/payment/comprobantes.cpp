@@ -11,11 +11,13 @@ using namespace Qt::StringLiterals;
 QString proximo_comprobante(const QString& dj)
 {
     const int anio = hoy().year();
-    const Recordset rs(cnRtn, u"select max(SCRT_NRO) as MAX_SCRT_NRO from SEL_TB_RTN_COMP_RET "_s);
+    // The number of the row that has the maximum; its sequence is padded, so that 100000 comes after 99999.
+    const Recordset rs(cnRtn, u"select SCRT_NRO, max(substr(SCRT_NRO, 1, 14) || printf('%9s', substr(SCRT_NRO, 15)))"
+                              u" as MAX_SCRT_NRO from SEL_TB_RTN_COMP_RET "_s);
     const QString maximo = rs.eof() ? QString() : rs.texto(0);
     if (maximo.isEmpty() || numero_inicial(maximo.mid(9, 4)) < anio)
         return u"02-"_s + dj.left(5) + u'-' + con_ceros(anio, 4) + u"-00001"_s;
-    return maximo.left(13) + u'-' + con_ceros(maximo.mid(14, 5).toInt() + 1, 5);
+    return maximo.left(13) + u'-' + con_ceros(maximo.mid(14).toInt() + 1, 5);
 }
 
 void emitir_comprobante(const QString& nro, const DatosComprobante& d)

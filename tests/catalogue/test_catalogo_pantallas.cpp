@@ -37,6 +37,12 @@ TEST_F(PantallasCatalogo, ElCatalogoSeFiltraSeOrdenaYSeElige)
     pulsar(f, "toolbar"_u, "buscar"_u);
     ASSERT_EQ(texto(f, "lblResultado"_u), "1 registro"_u);
     EXPECT_EQ(en_grilla(f, "grilla"_u, 0, 0) + u' ' + en_grilla(f, "grilla"_u, 0, 7), "1 01/01/2025"_u);
+    for (const auto& [modulos, muestra] : {std::pair{"50", "50"}, {"7.5", "7,5"}, {"0", "0"}, {"null", ""}}) {
+        cnRtn.ejecutar("update SEL_TB_SUBCONCEPTOS set SSUB_MODULOSMIN=%1 where SSUB_ID=5707001"_u.arg(
+            QLatin1StringView(modulos)));
+        pulsar(f, "toolbar"_u, "buscar"_u);
+        EXPECT_EQ(en_grilla(f, "grilla"_u, 0, 5), QLatin1StringView(muestra));
+    }
     pulsar(f, "toolbar"_u, "desmarcar"_u);
     EXPECT_EQ(texto(f, "lblResultado"_u), "0 registros"_u);
     EXPECT_EQ(botones(f, "toolbar", "salir buscar seleccionar nuevo modificar borrar marcar desmarcar"), "11010000"_u);
@@ -97,7 +103,14 @@ TEST_F(PantallasCatalogo, BorrarUnSubconceptoQueSeUsa)
     Cajas::durante(
         {{pregunta.texto}, {"FOREIGN KEY"_u, "Borrar subconcepto de sellos"_u, true, QMessageBox::Information}},
         [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
-    cnRtn.ejecutar("delete from SEL_TB_RTN_INS_OPERACIONES"_u);
+    // A role of the item that is in use holds it too.
+    cnRtn.ejecutar(
+        "delete from SEL_TB_RTN_INS_OPERACIONES; insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707001001, null)"_u
+            .arg(dj));
+    Cajas::durante({{pregunta.texto}, {"FOREIGN KEY"_u, "Borrar subconcepto de sellos"_u}},
+                   [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
+    EXPECT_EQ(dato("select count(*) from SEL_TB_ROLES where SSUB_ID=5707001"_u), "3"_u);
+    cnRtn.ejecutar("delete from SEL_TB_RTN_INS_ROLES"_u);
     Cajas::durante({{pregunta.texto}}, [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
     EXPECT_EQ(texto(f, "lblResultado"_u), "0 registros"_u);
     EXPECT_EQ(dato("select count(*) from SEL_TB_SUBCONCEPTOS where SSUB_ID=5707001"_u), "0"_u);

@@ -45,6 +45,20 @@ TEST_F(PantallasCatalogo, ElTipoDeCalculoAtadoASusRangos)
     escribir(m, "nroModulos"_u, "7.5"_u);
     tecla(m, "nroModulos"_u, Qt::Key_Return);
     EXPECT_EQ(en_grilla(f, "grillaModulos"_u, 0, 0) + u' ' + en_grilla(f, "grillaModulos"_u, 0, 2), "0,00 7,5"_u);
+    // As many decimals as the calculation takes, and never an exponent.
+    pulsar(f, "tlbModulos"_u, "modificar"_u);
+    m = formulario("frmEditarModulo");
+    EXPECT_EQ(texto(m, "nroModulos"_u), "7,5000"_u);
+    escribir(m, "nroModulos"_u, "0.00012"_u);
+    tecla(m, "nroModulos"_u, Qt::Key_Return);
+    EXPECT_EQ(dato("select SMOD_MODULOS=0.0001 from SEL_TB_MODULOS where SSUB_ID=5707001"_u), "1"_u);
+    EXPECT_EQ(en_grilla(f, "grillaModulos"_u, 0, 2), "0,0001"_u);
+    for (const auto& [valor, muestra] : {std::pair{"1e-05", "0,00001"}, {"1e6", "1000000"}, {"20", "20"}}) {
+        cnRtn.ejecutar(
+            "update SEL_TB_MODULOS set SMOD_MODULOS=%1 where SSUB_ID=5707001"_u.arg(QLatin1StringView(valor)));
+        static_cast<frmEditarSubconceptoSellos*>(f)->obtener_modulos();
+        EXPECT_EQ(en_grilla(f, "grillaModulos"_u, 0, 2), QLatin1StringView(muestra));
+    }
     solapa(f, "SSTab1"_u, 0);
     Cajas::durante({{"No puede cambiar el tipo de calculo a VARIABLE ya que tiene rangos con impusto fijo."_u}},
                    [&] { elegir(f, "ctlTipoCalculo"_u, "VARIABLE"_u); });
@@ -140,6 +154,15 @@ TEST_F(PantallasCatalogo, RolesYMascaras)
                      QMessageBox::Question, true}},
                    [&] { pulsar(f, "tlbRoles"_u, "borrar"_u); });
     EXPECT_EQ(dato("select count(*) from SEL_TB_ROLES where SROL_DESCRIPCION='ACOMPAÑANTE'"_u), "0"_u);
+    // A role that a party has in a deed stays.
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_ROLES values ('X', 1, 1, 1, %1, null)"_u.arg(en_grilla(f, "grillaRoles"_u, 0, 0)));
+    const int quedan = manejo::filas(f, "grillaRoles"_u);
+    celda(f, "grillaRoles"_u, 0, 1);
+    Cajas::durante({{"¿Está seguro que desea borrar la parte seleccionada?"_u},
+                    {"FOREIGN KEY"_u, "Borrar rol"_u, true, QMessageBox::Information}},
+                   [&] { pulsar(f, "tlbRoles"_u, "borrar"_u); });
+    EXPECT_EQ(manejo::filas(f, "grillaRoles"_u), quedan);
 
     solapa(f, "SSTab1"_u, 1);
     for (const char* n : {"chkGarantiaCumplimiento"})

@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTest>
 #include <QToolButton>
 
 #include <random>
@@ -181,13 +182,85 @@ TEST_F(PantallasCatalogo, LasCasillasGobiernanLoSuyo)
     EXPECT_EQ(texto(f, "nroDuracionDefault"_u), QString());
     EXPECT_FALSE(activo("nroDuracionDefault")
                  || static_cast<QCheckBox*>(control(f, "chkDuracionDefault"_u))->isChecked());
+    // Clearing the base empties all that hangs on it, also what its type held.
+    static_cast<frmEditarSubconceptoSellos*>(f)->TCBI(1, "uno"_u);
+    for (const char* n : {"chkRequiereDuracion", "chkDur_cotaSup", "chkPeriodoBI", "chkGarantiaCumplimiento",
+                          "optGarantiaCumplimiento_porc", "chkGarantiaCumplimiento_porc"})
+        clic(f, QLatin1StringView(n));
+    for (const char* n : {"nroPorcValFiscal", "nroPorcValorContractual", "nroDur_CotaSup", "nroPeriodoBI",
+                          "nroGarantiaCumplimiento_Porc", "txtGarantiaCumplimiento_suma", "txtDenomVFiscal"})
+        escribir(f, QLatin1StringView(n), "3"_u);
     clic(f, "chkBaseImponible"_u);
-    EXPECT_EQ(texto(f, "txtTipoCalculoBI"_u), QString());
-    EXPECT_FALSE(activo("chkRequiereValorContractual"));
+    for (const char* n :
+         {"txtTipoCalculoBI", "nroPorcValFiscal", "nroPorcValorContractual", "nroDur_CotaSup", "nroPeriodoBI",
+          "nroGarantiaCumplimiento_Porc", "txtGarantiaCumplimiento_suma", "txtDenomVFiscal"})
+        EXPECT_EQ(texto(f, QLatin1StringView(n)), QString()) << n;
+    for (const char* n :
+         {"chkRequiereValFiscal", "chkRequiereValorContractual", "chkRequiereDuracion", "chkDur_cotaSup",
+          "chkPeriodoBI", "chkGarantiaCumplimiento", "optGarantiaCumplimiento_porc", "chkGarantiaCumplimiento_porc"})
+        EXPECT_FALSE(static_cast<QAbstractButton*>(control(f, QLatin1StringView(n)))->isChecked() || activo(n)) << n;
     pulsar(f, "toolbar"_u, "cancelar"_u);
     solapa(f, "SSTab1"_u, 0);
     for (const char* n : {"txtDescripcion", "cboConcepto", "chkExención", "nroImporteMinimo", "dtpFechaVigencia"})
         EXPECT_FALSE(activo(n)) << n;
+}
+
+// The three texts of a stored item begin the editing; from then on the state governs them.
+TEST_F(PantallasCatalogo, EscribirEnUnTextoEmpiezaLaEdicion)
+{
+    for (const char* campo : {"txtDescripcion", "txtLeyVigencia", "txtObservaciones"}) {
+        QWidget* f = editor(5707001);
+        EXPECT_EQ(botones(f, "toolbar", "salir aceptar cancelar editar"), "1001"_u);
+        EXPECT_FALSE(control(f, "cboConcepto"_u)->isEnabled());
+        teclear(f, QLatin1StringView(campo), "ñu"_u);
+        EXPECT_EQ(botones(f, "toolbar", "salir aceptar cancelar editar") + texto(f, QLatin1StringView(campo)),
+                  "0110ÑU"_u);
+        EXPECT_TRUE(control(f, "cboConcepto"_u)->isEnabled());
+        for (const char* clave : {"aceptar", "cancelar"}) {
+            pulsar(f, "toolbar"_u, QLatin1StringView(clave));
+            EXPECT_THROW(teclear(f, QLatin1StringView(campo), "x"_u), Inesperado) << clave;
+            pulsar(f, "toolbar"_u, "editar"_u);
+        }
+        teclear(f, QLatin1StringView(campo), "otro"_u);
+        pulsar(f, "toolbar"_u, "cancelar"_u);
+        static_cast<Formulario*>(f)->descargar();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_EQ(dato("select SSUB_DESCRIPCION||SSUB_LEYVIGENCIA||SSUB_OBSERVACIONES from SEL_TB_SUBCONCEPTOS where "
+                   "SSUB_ID=5707001"_u),
+              "ÑUÑUÑU"_u);
+}
+
+TEST_F(PantallasCatalogo, LaFechaDeVigenciaPuedeFaltar)
+{
+    fijar_hoy({2026, 11, 12});
+    const QString guardada = "select SSUB_FECHAVIGENCIA from SEL_TB_SUBCONCEPTOS where SSUB_ID=5707001"_u;
+    cnRtn.ejecutar("update SEL_TB_SUBCONCEPTOS set SSUB_FECHAVIGENCIA=null where SSUB_ID=5707001"_u);
+    QWidget* f = editor(5707001);
+    QWidget* fecha = control(f, "dtpFechaVigencia"_u);
+    const auto editar = [&](const std::function<void()>& teclas) {
+        pulsar(f, "toolbar"_u, "editar"_u);
+        fecha->setFocus();
+        teclas();
+        pulsar(f, "toolbar"_u, "aceptar"_u);
+        return dato(guardada) + u' ' + texto(f, "dtpFechaVigencia"_u).trimmed();
+    };
+    EXPECT_EQ(texto(f, "dtpFechaVigencia"_u).trimmed(), QString());
+    EXPECT_EQ(editar([] {}), "null "_u);
+    EXPECT_EQ(editar([&] { QTest::keyClicks(fecha, "15032020"_u); }), "2020-03-15 15/03/2020"_u);
+    EXPECT_EQ(editar([&] {
+                  static_cast<QDateEdit*>(fecha)->selectAll();
+                  QTest::keyClicks(fecha, "01/12/2019"_u);
+              }),
+              "2019-12-01 01/12/2019"_u);
+    EXPECT_EQ(editar([&] { QTest::keyClick(fecha, Qt::Key_Delete); }), "null "_u);
+    EXPECT_EQ(editar([&] { QTest::keyClick(fecha, Qt::Key_Up); }), "2026-11-12 12/11/2026"_u);
+    EXPECT_EQ(editar([&] {
+                  static_cast<QDateEdit*>(fecha)->selectAll();
+                  QTest::keyClick(fecha, Qt::Key_Backspace);
+              }),
+              "null "_u);
+    fijar_hoy({});
 }
 
 // Saved and loaded again, every control shows the same, and the row holds what it held.
@@ -254,7 +327,7 @@ TEST_F(PantallasCatalogo, DoscientasFilasVanYVuelven)
         v["FONDO_REPARO_NOMBRE"_u] = "'FONDO'"_u;
         v["DESCRIPCION"_u] = "'ITEM \"%1\" D''ORO'"_u.arg(i);
         v["LEYVIGENCIA"_u] = "'LEY 5707 - INC %1)'"_u.arg(i);
-        v["FECHAVIGENCIA"_u] = "'20%1-0%2-1%3'"_u.arg(azar() % 20 + 10).arg(azar() % 9 + 1).arg(azar() % 10);
+        v["FECHAVIGENCIA"_u] = o_nulo("'20%1-0%2-1%3'"_u.arg(azar() % 20 + 10).arg(azar() % 9 + 1).arg(azar() % 10));
         v["OBSERVACIONES"_u] = o_nulo("'OBS; ''''%'"_u).replace("''''"_u, "''"_u);
         v["USOS"_u] = o_nulo(entero());
         QString sql = "STIC_ID=%1, SCON_ID=%2, SCBI_ID=%3"_u.arg(azar() % 4 + 1)

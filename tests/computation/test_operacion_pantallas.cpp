@@ -268,4 +268,46 @@ TEST_F(PantallasFormularios, TeclasEnLaGrillaDeRoles)
     EXPECT_EQ(en_grilla(f, "flxPartes"_u, 0, 6) + en_grilla(f, "flxPartes"_u, 1, 6), "xyz"_u);
 }
 
+// The question of another item, what the catalogue hands over, and what a party's window leaves in the grid.
+TEST_F(Pantallas, CambiarLaOperacionYLasObservacionesSinRol)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    QWidget* f = abrirOperacion(dj);
+    teclear(f, "ctlCodS"_u, "1"_u);
+    pulsar(f, "tlb"_u, "guardar_op"_u);
+    solapa(f, "SSTab1"_u, 2);
+    // A letter on a role's cell goes to the first role that begins with it.
+    auto* grilla = control(f, "flxPartes"_u);
+    celda(f, "flxPartes"_u, 0, 3);
+    celda(f, "flxPartes"_u, 0, 5);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QTest::keyClick(grilla, Qt::Key_C);
+    EXPECT_EQ(qobject_cast<QComboBox*>(control(f, "cboRoles"_u))->currentText(), "COMPRADOR"_u);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    celda(f, "flxPartes"_u, 1, 6);
+    QTest::keyClicks(QApplication::focusWidget(), "sin rol"_u);
+    pulsar(f, "tlbPartes"_u, "editar"_u);
+    pulsar(formulario("frmDJ_detalle_parte"), "tlb"_u, "cancelar"_u);
+    EXPECT_EQ(en_grilla(f, "flxPartes"_u, 1, 6), "sin rol"_u);
+
+    // Nothing is asked while no party has a role, nor when every one has "(ninguno)".
+    pulsar(f, "tlb"_u, "cambiar_op"_u);
+    Cajas::durante({{"El subconcepto 101 no se encuentra en la ley 5707"_u}},
+                   [&] { static_cast<frmDJ_detalle_op*>(f)->SeleccionarSubconcepto(5707101); });
+    EXPECT_EQ(texto(f, "ctlCodS"_u), "101"_u);
+    static_cast<frmDJ_detalle_op*>(f)->SeleccionarSubconcepto(5707001);
+    EXPECT_EQ(texto(f, "txtSubconcepto"_u), "COMPRAVENTA DE INMUEBLES"_u);
+    pulsar(f, "tlb"_u, "guardar_op"_u);
+    EXPECT_EQ(en_grilla(f, "flxPartes"_u, 0, 5), "(ninguno)"_u);
+    pulsar(f, "tlb"_u, "cancelar"_u);
+    pulsar(f, "tlb"_u, "cambiar_op"_u);
+    pulsar(f, "tlb"_u, "guardar_op"_u);
+    solapa(f, "SSTab1"_u, 2);
+    celda(f, "flxPartes"_u, 0, 5);
+    elegir(f, "cboRoles"_u, "VENDEDOR"_u);
+    pulsar(f, "tlb"_u, "cancelar"_u);
+    Cajas::durante({{"Esta acción borrará los roles"_u, {}, false}}, [&] { pulsar(f, "tlb"_u, "cambiar_op"_u); });
+}
+
 }  // namespace

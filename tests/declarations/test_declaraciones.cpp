@@ -108,7 +108,7 @@ TEST_F(Declaraciones, ListaConFiltrosYBorrado)
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.close();
     f.setPermissions(QFile::ReadOwner);
-    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707001001, null)"_u.arg(dj));
+    cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707029001, null)"_u.arg(dj));
     borrar_dj(dj, oyente);
     EXPECT_FALSE(f.exists());
     EXPECT_TRUE(QDir(testimonios).exists());

@@ -204,4 +204,17 @@ TEST_F(PantallasFormularios, RectificarYCancelarNoCopiaDeNuevo)
     EXPECT_EQ(manejo::filas(lista, "flx"_u), 2);
 }
 
+TEST_F(Pantallas, SinVencimientoGuardadoValeElDeLaPosicion)
+{
+    nueva_dj();
+    cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_FVENCIMIENTO=null"_u);
+    auto* lista = cargar<frmDJ_buscar>();
+    lista->mostrar();
+    pulsar(lista, "tlbDJ"_u, "modificar"_u);
+    auto* e = formulario("frmDJ_editar");
+    pulsar(e, "tlbDJ"_u, "editar"_u);
+    pulsar(e, "tlbDJ"_u, "aceptar"_u);
+    EXPECT_EQ(dato("select SEDJ_FVENCIMIENTO from SEL_TB_RTN_CABDJ"_u), "2026-11-16"_u);
+}
+
 }  // namespace

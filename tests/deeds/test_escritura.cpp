@@ -174,6 +174,15 @@ TEST_F(EscrituraDJ, Testimonio)
     c.operacion = Modo::modificar;
     c.renglon = "4"_u;
     EXPECT_TRUE(validar_escritura(c, oyente).vale);
+
+    // Insert and update store the path in one form, and the check also finds the one of an older store.
+    EXPECT_EQ(escritura_nueva(c).testimonio, archivo);
+    ASSERT_EQ(actualizar_escritura(c), 1);
+    EXPECT_EQ(dato("select SEDD_FNAME_TESTIMONIO from SEL_TB_RTN_DETDJ where SEDD_ID=4"_u), archivo);
+    cnRtn.ejecutar(
+        "update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='%1'"_u.arg(QString(archivo).replace("'"_u, "''''"_u)));
+    c.operacion = Modo::nuevo;
+    EXPECT_FALSE(validar_escritura(c, oyente).vale);
 }
 
 TEST_F(EscrituraDJ, QuienRequiereTestimonio)

@@ -159,4 +159,25 @@ TEST_F(Pantallas, ReciboSoloConPartes)
         "1|N|1234.5|02/10/2026|PÉREZ"_u);
 }
 
+TEST_F(Pantallas, ElReciboSeVaConLaUltimaOperacion)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    for (const char* n : {"1", "2"})
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 1, %2, 5707001, 0.005)"_u
+                .arg(dj, QLatin1StringView(n)));
+    QWidget* e = abrirEscritura(false);
+    // Row by row through the field: half a cent goes up each time.
+    EXPECT_EQ(texto(e, "nroTotalImpuesto"_u), "0,02"_u);
+    pulsar(e, "tlbDetalle"_u, "cancelar"_u);
+    solapa(e, "SSTab1"_u, 1);
+    for (const bool queda : {true, false}) {
+        EXPECT_TRUE(habilitado(e, "tlbDetalle"_u, "recibo"_u));
+        Cajas::durante({{"¿Está seguro que desea borrar la operación seleccionada?"_u}},
+                       [&] { pulsar(e, "tlbOp"_u, "quitar"_u); });
+        EXPECT_EQ(habilitado(e, "tlbDetalle"_u, "recibo"_u), queda);
+    }
+}
+
 }  // namespace

@@ -31,8 +31,8 @@ protected:
         cnRtn.ejecutar(
             "insert into SEL_TB_RTN_INS_OPERACIONES values ('%1', 1, 1, 5707001, 1000, 500, 3, 0.01, 30.5, 0, 0, 30.5, 30.5, '1', 0, 'F', 5, 1, 'p', 0, 7, '5707', 'obs', null)"_u
                 .arg(dj));
-        // A role whose identifier fits its mask.
-        cnRtn.ejecutar("insert into SEL_TB_ROLES (SROL_ID, SROL_DESCRIPCION, SSUB_ID) values (1001, 'R', 5707001)"_u);
+        cnRtn.ejecutar(
+            "insert or ignore into SEL_TB_ROLES (SROL_ID, SROL_DESCRIPCION, SSUB_ID) values (1001, 'R', 5707001)"_u);
         cnRtn.ejecutar("insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 1001, 'r')"_u.arg(dj));
         cnRtn.ejecutar(
             "insert into SEL_TB_RTN_INS_VC values ('%1', 1, 1, 1, 100.5, 21, 'DOL', 1050, 105525)"_u.arg(dj));

@@ -2,6 +2,7 @@
 // A party by keys and clicks.
 
 #include "apoyo/pantallas.h"
+#include <QComboBox>
 
 #include <QLineEdit>
 #include <QMessageBox>
@@ -58,6 +59,26 @@ TEST_F(Pantallas, ParteExtranjeraYSociedades)
         {{"¿Está seguro que desea quitar la parte seleccionada?"_u, "Quitar parte"_u, true, QMessageBox::Question}},
         [&] { pulsar(e, "tlbPartes"_u, "quitar"_u); });
     EXPECT_EQ(botones(e, "tlbPartes", "agregar quitar editar"), "100"_u);
+}
+
+// A foreigner whose country clears the type of document can't be stored without one, and a party that was is seen.
+TEST_F(Pantallas, NingunaParteQuedaSinTipoDeDocumento)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, SPIN_RSOCIAL, SPIN_NACIONALIDAD) values (1, '%1', 1, 'perdida', 'E')"_u
+            .arg(dj));
+    QWidget* e = abrirEscritura(false);
+    ASSERT_EQ(manejo::filas(e, "flxPartes"_u), 1);
+    EXPECT_EQ(en_grilla(e, "flxPartes"_u, 0, 1) + en_grilla(e, "flxPartes"_u, 0, 3), "perdida"_u);
+    pulsar(e, "tlbPartes"_u, "editar"_u);
+    QWidget* f = formulario("frmDJ_detalle_parte");
+    EXPECT_EQ(texto(f, "txtRazonSocial"_u), "PERDIDA"_u);
+    auto* pais = qobject_cast<QComboBox*>(control(f, "cboCodigoPais"_u));
+    elegir(f, "cboCodigoPais"_u, pais->itemText(pais->findText("Jurídica"_u, Qt::MatchContains)));
+    Cajas::durante({{"Ingrese el tipo de documento del participante"_u}}, [&] { pulsar(f, "tlb"_u, "aceptar"_u); });
+    EXPECT_EQ(con_foco(f), "cboTipoDoc"_u);
 }
 
 }  // namespace

@@ -151,6 +151,22 @@ TEST_F(Pagos, NumeracionDeLosComprobantes)
         EXPECT_EQ(con_maximo(maximo), QLatin1StringView(nuevo));
 }
 
+TEST_F(Pagos, LosComprobantesSiguenDespuesDelNoventaYNueveMil)
+{
+    fijar_hoy(QDate(2026, 5, 4));
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_COMP_RET (SCRT_NRO, SEDJ_NRO, SEDD_ID, SCRT_ANULADO) values ('02-00999-2026-99998', 'X', 1, 'N')"_u);
+    for (const char* nro : {"02-00999-2026-99999", "02-00999-2026-100000", "02-00999-2026-100001"}) {
+        ASSERT_EQ(proximo_comprobante("X"_u), QLatin1StringView(nro));
+        emitir_comprobante(QLatin1StringView(nro), {"X"_u, "1"_u, "1"_u, QDate(2026, 1, 1), "PÉREZ"_u});
+        EXPECT_EQ(filas("select MAX_SCRT_NRO, SCRT_ANULADO from SEL_VW_MAX_COMPROB join SEL_TB_RTN_COMP_RET on "
+                        "SCRT_NRO=MAX_SCRT_NRO"_u),
+                  QLatin1StringView(nro) + "|N"_u);
+    }
+    fijar_hoy(QDate(2027, 1, 2));
+    EXPECT_EQ(proximo_comprobante("00123456786261000"_u), "02-00123-2027-00001"_u);
+}
+
 TEST_F(Pagos, UnComprobanteNuevoAnulaElAnterior)
 {
     fijar_hoy(QDate(2026, 5, 4));

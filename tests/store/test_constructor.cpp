@@ -95,6 +95,8 @@ TEST_F(Constructor, RechazaLoIncoherentePorArchivoYLinea)
                          "SEL_TB_ALICUOTAS.csv:13: falta un tramo entre 5000000 y 6000000"},
                        K{"SEL_TB_MODULOS", "1500000.01,-1", "1500000.01,9000000",
                          "SEL_TB_MODULOS.csv:12: el último tramo de 5707027 no llega a -1"},
+                       K{"SEL_TB_MODULOS", "1500000,0.0001", "1500000,0.00005",
+                         "SEL_TB_MODULOS.csv:11: 5.0e-05 tiene más de 4 decimales"},
                        K{"GLB_TB_LEYES", "4821,1996-01-01", "cuatro,1996-01-01",
                          "GLB_TB_LEYES.csv:2: «cuatro» no es un valor de GLEY_NRO"},
                        K{"GLB_TB_LEYES", "GLEY_NRO,", "GLEY_NUMERO,",

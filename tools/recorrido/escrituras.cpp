@@ -73,7 +73,7 @@ void Mes::deImporteFijo()
                    {{"PESOS", "5000", nullptr}},
                    {u"FIDUCIANTE"_s, {}, {}},
                    nullptr,
-                   "0,00"});
+                   "75,00"});
         salirDeEscritura();
     });
     g_.paso(u"Escritura 5: un protesto, con módulos según escala"_s, [&] {

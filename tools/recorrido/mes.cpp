@@ -96,12 +96,12 @@ void Mes::boletas()
     g_.paso(u"Una boleta de depósito, con un cheque"_s, [&] {
         auto* f = formulario("frmDJ_editar");
         solapa(f, u"SSTab1"_s, 2);
-        comprobar(u"impuesto a depositar"_s, texto(f, u"nroImpuesto"_s), u"47.250,00"_s);
-        escribir(f, u"nroEfectivo"_s, u"17250"_s);
+        comprobar(u"impuesto a depositar"_s, texto(f, u"nroImpuesto"_s), u"47.325,00"_s);
+        escribir(f, u"nroEfectivo"_s, u"17325"_s);
         escribir(f, u"txtCheque1_nro"_s, u"12345678"_s);
         escribir(f, u"txtCheque1_banco"_s, u"BANCO DEL SUR"_s);
         escribir(f, u"nroCheque1_monto"_s, u"30000"_s);
-        comprobar(u"total de la boleta"_s, texto(f, u"nroTotalBoleta"_s), u"47.250,00"_s);
+        comprobar(u"total de la boleta"_s, texto(f, u"nroTotalBoleta"_s), u"47.325,00"_s);
         pulsar(f, u"tlbB"_s, u"generar"_s);
         reporte(u"Boleta de depósito"_s, u"boleta"_s);
         comprobar(u"boleta"_s, en_grilla(f, u"flxB"_s, 0, 0), u"2023071234567126100000"_s);
@@ -116,7 +116,7 @@ void Mes::lista()
     g_.paso(u"La lista de escrituras y los totales"_s, [&] {
         auto* f = formulario("frmDJ_editar");
         comprobar(u"escrituras"_s, QString::number(filas(f, u"flxOp"_s)), u"9"_s);
-        comprobar(u"total retenido"_s, texto(f, u"nroTotalRetenido"_s), u"47.250,00"_s);
+        comprobar(u"total retenido"_s, texto(f, u"nroTotalRetenido"_s), u"47.325,00"_s);
         g_.foto(u"dj-renglones"_s);
     });
     boletas();

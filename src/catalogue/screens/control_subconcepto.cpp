@@ -2,7 +2,7 @@
 
 #include "catalogue/screens/control_subconcepto.h"
 
-#include "catalogue/screens/fecha_opcional.h"
+#include "catalogue/screens/fechaOpcional.h"
 #include "core/numero.h"
 #include "widgets/ctlCombo.h"
 #include "widgets/ctlComunes.h"

@@ -34,7 +34,7 @@ frmEditarSubconceptoSellos::~frmEditarSubconceptoSellos() = default;
 
 void frmEditarSubconceptoSellos::conectar()
 {
-    for (QLineEdit* texto : {ui->txtDescripcion, ui->txtLeyVigencia, ui->txtObservaciones}) {
+    for (QLineEdit* texto : textosQueEditan()) {
         a_mayusculas(texto);
         atender(texto, &QLineEdit::textEdited, [this] {
             if (!editando_)
@@ -61,9 +61,9 @@ void frmEditarSubconceptoSellos::conectar()
     atender(ui->tlbRoles, &BarraHerramientas::pulsada, &frmEditarSubconceptoSellos::tlbRoles_pulsada);
 }
 
-bool frmEditarSubconceptoSellos::esTextoLibre(const QWidget* w) const
+std::array<QLineEdit*, 3> frmEditarSubconceptoSellos::textosQueEditan() const
 {
-    return w == ui->txtDescripcion || w == ui->txtLeyVigencia || w == ui->txtObservaciones;
+    return {ui->txtDescripcion, ui->txtLeyVigencia, ui->txtObservaciones};
 }
 
 int frmEditarSubconceptoSellos::codigo() const
@@ -81,11 +81,12 @@ void frmEditarSubconceptoSellos::Inicializar(Modo operacion, std::optional<int> 
         poner_controles(*fila);
         guardado_ = true;
     }
-    textosAbiertos_ = true;
     ponerEdicion(false);
     marcarGuardado();
     if (nuevo)
         ui->toolbar->pulsar(u"editar"_s);
+    for (QLineEdit* texto : textosQueEditan())
+        habilitar_control(texto, true);
     ui->txtDescripcion->setFocus();
 }
 
@@ -123,7 +124,6 @@ void frmEditarSubconceptoSellos::pulsada(const QString& clave)
     }
     // What was typed stays on the screen after "cancelar", deliberately, until the form is opened anew.
     const bool editar = clave != u"cancelar";
-    textosAbiertos_ = false;
     if (editar && guardado_)
         Operacion = Modo::modificar;
     ponerEdicion(editar);
@@ -151,7 +151,6 @@ void frmEditarSubconceptoSellos::aceptar()
         return;
     }
     guardado_ = true;
-    textosAbiertos_ = false;
     ponerEdicion(false);
     marcarGuardado();
 }

@@ -8,6 +8,8 @@
 #include "catalogue/subconcepto_memoria.h"
 #include "widgets/ctlCombo.h"
 
+#include <array>
+
 namespace Ui {
 class frmEditarSubconceptoSellos;
 }
@@ -46,13 +48,14 @@ private:
     [[nodiscard]] ControlesSubconcepto leer_controles() const;
     void poner_controles(const ControlesSubconcepto& c);
     void habilitarControles();
-    [[nodiscard]] bool esTextoLibre(const QWidget* w) const;
     void vaciarDependientes(const QString& casilla);
     void cambioCasilla(const QString& casilla, bool si);
 
     void conectar();
     void pulsada(const QString& clave);
     void ponerEdicion(bool si);
+    /// The texts that begin the editing state when they are typed in.
+    [[nodiscard]] std::array<QLineEdit*, 3> textosQueEditan() const;
     void aceptar();
     void elegirTipoCalculo(const ctlCombo::Fila& fila);
     void mostrarRangos(Rangos rangos);
@@ -87,7 +90,6 @@ private:
     std::optional<int> tipoCalculo_;
     bool guardado_ = false;  ///< the item is in the store
     bool editando_ = false;
-    bool textosAbiertos_ = false;  ///< typing in one of the three texts starts the editing
     bool mostrando_ = false;
     QList<clsAlicuotaSellos> alicuotas_;
     QList<clsModuloSellos> modulos_;

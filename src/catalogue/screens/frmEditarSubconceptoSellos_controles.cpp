@@ -49,20 +49,20 @@ void frmEditarSubconceptoSellos::habilitarControles()
 {
     const ControlesSubconcepto c = leer_controles();
     for (QWidget* w : std::as_const(editables_))
-        habilitar_control(w, (editando_ || (textosAbiertos_ && esTextoLibre(w)))
-                                 && habilitado_por_casillas(w->objectName(), c));
+        habilitar_control(w, editando_ && habilitado_por_casillas(w->objectName(), c));
     habilitarBarras();
 }
 
-// Down the chain: what hangs on a box that is emptied is emptied too.
+// What hangs on the box, and what hangs on that, whether it was ticked or not.
 void frmEditarSubconceptoSellos::vaciarDependientes(const QString& casilla)
 {
-    for (const DependenciaSubconcepto& d : dependencias_subconcepto())
-        if (casilla == QString::fromUtf8(d.casilla)) {
-            if (QWidget* w = control(d.control))
-                poner_control(w, {});
-            vaciarDependientes(QString::fromUtf8(d.control));
-        }
+    const QScopedValueRollback mostrando(mostrando_, true);
+    for (const DependenciaSubconcepto& d : dependencias_subconcepto()) {
+        if (casilla != QString::fromUtf8(d.casilla))
+            continue;
+        poner_control(control(d.control), {});
+        vaciarDependientes(QString::fromUtf8(d.control));
+    }
 }
 
 void frmEditarSubconceptoSellos::cambioCasilla(const QString& casilla, bool si)
@@ -78,12 +78,9 @@ void frmEditarSubconceptoSellos::cambioCasilla(const QString& casilla, bool si)
         avisar(mensaje->texto, mensaje->titulo, mensaje->icono);
         return;
     }
-    if (!si) {
-        // The type goes first: it holds none of its boxes any more.
-        if (casilla == u"chkBaseImponible")
-            ocultos_[TIPO_CALCULO_BI] = {};
-        const QScopedValueRollback mostrando(mostrando_, true);
+    if (!si)
         vaciarDependientes(casilla);
-    }
+    if (!si && casilla == u"chkBaseImponible")
+        ocultos_[TIPO_CALCULO_BI] = {};
     habilitarControles();
 }

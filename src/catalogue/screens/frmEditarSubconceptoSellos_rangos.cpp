@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tabs of brackets and roles.
 
+#include "catalogue/cantidad.h"
 #include "catalogue/roles_catalogo.h"
 #include "catalogue/screens/frmEditarAlicuota.h"
 #include "catalogue/screens/frmEditarModulo.h"
@@ -8,7 +9,7 @@
 #include "catalogue/screens/frmEditarSubconceptoSellos.h"
 #include "core/almacen.h"
 #include "core/motivos.h"
-#include "core/numero.h"
+#include "core/redondeo.h"
 #include "ui_frmEditarSubconceptoSellos.h"
 
 using namespace Qt::StringLiterals;
@@ -56,9 +57,9 @@ void frmEditarSubconceptoSellos::obtener_alicuotas()
     alicuotas_ = alicuotas_de(codigo());
     ui->grillaAlicuotas->llenar([this] {
         for (const clsAlicuotaSellos& a : std::as_const(alicuotas_))
-            ui->grillaAlicuotas->agregar(
-                QStringList{cota(a.ValorDesde), cota(a.ValorHasta), numero_llano(a.ValorAlicuota),
-                            a.Divisor == 0 ? QString() : numero_llano(a.Dividendo) + u'/' + numero_llano(a.Divisor)});
+            ui->grillaAlicuotas->agregar(QStringList{
+                cota(a.ValorDesde), cota(a.ValorHasta), cantidad_llana(a.ValorAlicuota),
+                a.Divisor == 0 ? QString() : cantidad_llana(a.Dividendo) + u'/' + cantidad_llana(a.Divisor)});
     });
     habilitarBarras();
 }
@@ -69,7 +70,7 @@ void frmEditarSubconceptoSellos::obtener_modulos()
     ui->grillaModulos->llenar([this] {
         for (const clsModuloSellos& m : std::as_const(modulos_))
             ui->grillaModulos->agregar(
-                QStringList{cota(m.ValorDesde), cota(m.ValorHasta), numero_llano(m.CantModulos)});
+                QStringList{cota(m.ValorDesde), cota(m.ValorHasta), cantidad_llana(m.CantModulos)});
     });
     habilitarBarras();
 }

@@ -3,6 +3,7 @@
 
 #include "computation/screens/frmDJ_detalle_op.h"
 
+#include "catalogue/cantidad.h"
 #include "computation/obligacion.h"
 #include "computation/roles_operacion.h"
 #include "computation/subconcepto_operacion.h"
@@ -79,7 +80,7 @@ void frmDJ_detalle_op::mostrarSubconcepto(const ResultadoSubconcepto& r)
     if (r.conMinimo) {
         ui->ctlImporteMinimo->setValue(s.ModulosMinimo * ValorModulo);
         ui->lblImporteMinimo->setText(
-            u"Importe mínimo de sellado:  %1 MÓDULOS -  $"_s.arg(numero_llano(s.ModulosMinimo)));
+            u"Importe mínimo de sellado:  %1 MÓDULOS -  $"_s.arg(cantidad_llana(s.ModulosMinimo)));
     }
     ui->lblValuacionFiscal->setText(s.NombreValuacionFiscal);
     ui->lblValorContractual->setText(r.nombreValorContractual);
