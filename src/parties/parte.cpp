@@ -26,9 +26,8 @@ DocumentoSQL documento_sql(const ControlesParte& c)
 {
     if (c.es(tipo_documento::CUIT) && c.enTramite)
         return {u"null"_s};
-    // The passport goes as it stands, deliberately.
     if (c.esPasaporte())
-        return {entre_comillas(c.pasaporte)};
+        return {entre_comillas(toSQL(c.pasaporte))};
     if (c.esCuitOCuil())
         return {c.nroDoc.toSQL(), c.nroDoc.toSQL()};
     if (c.es(tipo_documento::SIN_IDENTIFICAR))

@@ -3,6 +3,7 @@
 #include "payment/comprobantes.h"
 
 #include "core/modGlobales.h"
+#include "core/modUtiles.h"
 #include "core/numero.h"
 #include "core/reloj.h"
 
@@ -25,9 +26,9 @@ void emitir_comprobante(const QString& nro, const DatosComprobante& d)
     const QString formato = u"dd/MM/yyyy"_s;
     cnRtn.ejecutar(
         u" update SEL_TB_RTN_COMP_RET set SCRT_ANULADO='S'  where SEDJ_NRO='%1' AND SEDD_ID=%2"_s.arg(d.dj, d.renglon));
-    cnRtn.ejecutar(
-        u" insert into SEL_TB_RTN_COMP_RET (SCRT_NRO, SEDJ_NRO, SEDD_ID, SCRT_ANULADO, "
-        u" SCRT_MONTO_RETENIDO, SCRT_FECHA_RETENCION, SCRT_FECHA_ESCRITURA, SCRT_RTN_NOMBRE) "
-        u" values ('%1', '%2', %3, 'N',%4, '%5','%6', '%7')"_s.arg(
-            nro, d.dj, d.renglon, d.montoSQL, hoy().toString(formato), d.fechaEscritura.toString(formato), d.agente));
+    cnRtn.ejecutar(u" insert into SEL_TB_RTN_COMP_RET (SCRT_NRO, SEDJ_NRO, SEDD_ID, SCRT_ANULADO, "
+                   u" SCRT_MONTO_RETENIDO, SCRT_FECHA_RETENCION, SCRT_FECHA_ESCRITURA, SCRT_RTN_NOMBRE) "
+                   u" values ('%1', '%2', %3, 'N',%4, '%5','%6', '%7')"_s.arg(
+                       nro, d.dj, d.renglon, d.montoSQL, hoy().toString(formato), d.fechaEscritura.toString(formato),
+                       toSQL(d.agente)));
 }

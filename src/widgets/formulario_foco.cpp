@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +49,20 @@ int rango_de_foco(const QWidget* w)
     return 1;
 }
 
+// Line ends, tabs and the like never stay in a field: a run of them, as a paste brings it, is one blank.
+void sin_control(QLineEdit* texto)
+{
+    static const QRegularExpression CONTROL(u"[\\x00-\\x1f\\x7f-\\x9f\\x{2028}\\x{2029}]+"_s);
+    const QString antes = texto->text();
+    if (!antes.contains(CONTROL))
+        return;
+    const qsizetype cursor = antes.left(texto->cursorPosition()).replace(CONTROL, u" "_s).size();
+    const bool tecleado = texto->isModified();
+    texto->setText(QString(antes).replace(CONTROL, u" "_s));
+    texto->setModified(tecleado);
+    texto->setCursorPosition(int(cursor));
+}
+
 // A field that only shows has the colour of the window's face, and Tab passes it.
 void ajustar_solo_lectura(const QWidget* form, QLineEdit* texto)
 {
@@ -73,6 +88,7 @@ void Formulario::prepararControles()
         if (texto->isReadOnly())
             ajustar_solo_lectura(this, texto);
         texto->installEventFilter(this);
+        connect(texto, &QLineEdit::textChanged, texto, [texto] { sin_control(texto); });
     }
     const auto controles = findChildren<QWidget*>();
     for (QWidget* w : controles)

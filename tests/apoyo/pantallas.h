@@ -12,7 +12,7 @@ protected:
     void SetUp() override
     {
         ConVentanas::SetUp();
-        cnRtn.ejecutar(
+        cnRtn.ejecutarGuion(
             "insert into SEL_TB_RTN_PADRON (SRTN_NRO, SRTN_NRO_REGNOTARIAL, SRTN_TITULAR_NOMBRE, SRTN_TITULAR_CUIT, SRTN_DOMICILIO, GLOC_ID) "
             "values (7, 7, 'ÁVILA', 27222333445, 'CALLE 2', null); update SEL_TB_RTN_PADRON set SRTN_DOMICILIO='CALLE 1' where SRTN_NRO=101;"_u);
     }

@@ -183,7 +183,7 @@ TEST_F(Catalogo, SolapeDeRangosContraTodosLosPares)
 
 TEST_F(Catalogo, RangosYRolesTomanElNumeroDeSuSubconcepto)
 {
-    cnRtn.ejecutar("delete from SEL_TB_ALICUOTAS; delete from SEL_TB_ROLES where SSUB_ID=5707004"_u);
+    cnRtn.ejecutarGuion("delete from SEL_TB_ALICUOTAS; delete from SEL_TB_ROLES where SSUB_ID=5707004"_u);
     EXPECT_EQ(proximo_rango(RANGOS_ALICUOTAS, 5707001), 5707001001);
     EXPECT_EQ(proximo_rol(5707004), 5707004001);
     alta_rango(RANGOS_ALICUOTAS, {5707001, "0"_u, true, "1000.5"_u, {"0.005"_u, "1000"_u, "5"_u}});

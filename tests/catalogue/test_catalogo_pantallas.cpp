@@ -104,7 +104,7 @@ TEST_F(PantallasCatalogo, BorrarUnSubconceptoQueSeUsa)
         {{pregunta.texto}, {"FOREIGN KEY"_u, "Borrar subconcepto de sellos"_u, true, QMessageBox::Information}},
         [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
     // A role of the item that is in use holds it too.
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "delete from SEL_TB_RTN_INS_OPERACIONES; insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707001001, null)"_u
             .arg(dj));
     Cajas::durante({{pregunta.texto}, {"FOREIGN KEY"_u, "Borrar subconcepto de sellos"_u}},

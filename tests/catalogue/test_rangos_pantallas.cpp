@@ -16,7 +16,7 @@ using namespace manejo;
 
 TEST_F(PantallasCatalogo, ElTipoDeCalculoAtadoASusRangos)
 {
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "delete from SEL_TB_MODULOS where SSUB_ID=5707001; delete from SEL_TB_ALICUOTAS where SSUB_ID=5707001;"
         "insert into SEL_TB_ALICUOTAS values (5707001, 5707001001, 0, -1, 0.01, null, null)"_u);
     QWidget* f = editor(5707001);

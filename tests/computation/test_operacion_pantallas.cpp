@@ -114,7 +114,7 @@ TEST_F(Pantallas, OperacionDePuntaAPunta)
     Cajas::durante({{"¿Descartar los cambios?"_u}}, [&] { EXPECT_TRUE(static_cast<Formulario*>(f)->descargar()); });
 
     // Opening it again shows what was saved, without a calculation.
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "update SEL_TB_ALICUOTAS set SALI_ALICUOTA=0.5 where SSUB_ID=5707001; update SEL_TB_RTN_INS_OPERACIONES set SINS_MONTO_FINAL=7"_u);
     auto* escritura = formulario("frmDJ_detalle");
     celda(escritura, "flxOp"_u, 0, 0);

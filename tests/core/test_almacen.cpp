@@ -198,7 +198,7 @@ TEST_F(Arranque, ParametrosYLeyVigente)
 {
     configurar("vedra_rtn.db\n");
     ASSERT_TRUE(abrir_base(oyente));
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "delete from SEL_TB_PARAMETROS; insert into SEL_TB_PARAMETROS values ('PRSE_MODO_IMPORTE_MINIMO','1'), ('OTRO','x'), "
         "('PRSE_MODO_IMPORTE_MINIMO','0'), ('PRSE_ALICUOTA_IVA','10.5')"_u);
     ModoImporteMinimo = 7;
@@ -214,7 +214,7 @@ TEST_F(Arranque, ParametrosYLeyVigente)
     cargar_ley_vigente(oyente);
     EXPECT_EQ(LeyVigente, 0);
     EXPECT_TRUE(oyente.textos.isEmpty());  // nothing is told
-    cnRtn.ejecutar("drop view SEL_VW_CUENTAS_SELLOS; drop table SEL_TB_PARAMETROS"_u);
+    cnRtn.ejecutarGuion("drop view SEL_VW_CUENTAS_SELLOS; drop table SEL_TB_PARAMETROS"_u);
     cargar_parametros(oyente);
     EXPECT_TRUE(oyente.ultimo().startsWith("Error "_u));
 }

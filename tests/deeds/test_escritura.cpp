@@ -137,7 +137,7 @@ TEST_F(EscrituraDJ, ModificarNoChocaConsigoMisma)
     c.operacion = Modo::modificar;
     c.renglon = "1"_u;
     EXPECT_TRUE(validar_escritura(c, oyente).vale);
-    cnRtn.ejecutar("drop table SEL_TB_RTN_DJ_TESTIMONIOS; alter table SEL_TB_RTN_DETDJ rename to OTRA"_u);
+    cnRtn.ejecutarGuion("drop table SEL_TB_RTN_DJ_TESTIMONIOS; alter table SEL_TB_RTN_DETDJ rename to OTRA"_u);
     oyente.textos.clear();
     EXPECT_FALSE(validar_escritura(c, oyente).vale);  // a failed read gives no message
     EXPECT_TRUE(oyente.textos.isEmpty());

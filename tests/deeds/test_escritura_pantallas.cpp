@@ -45,7 +45,7 @@ TEST_F(Pantallas, UnaEscrituraYSusEstados)
     cnRtn.ejecutar(
         "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', 1, 1, 5707029, 30)"_u
             .arg(dj));
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=30; update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=30"_u);
     static_cast<Formulario*>(f)->alActivar();
     EXPECT_EQ(texto(f, "nroTotalImpuesto"_u), "30,00"_u);

@@ -14,7 +14,7 @@ TEST_F(HijosEscritura, BorrarUnaOperacionRestaElTotalMostrado)
 {
     const QString dj = nueva_dj();
     nueva_escritura(dj, 1, 1, 1, 1);
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=100; update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=100"_u);
     for (const int op : {1, 2})
         cnRtn.ejecutar(

@@ -20,7 +20,7 @@ protected:
         cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=30.5, SEDJ_TITULAR_NOMBRE='PEÑA €'"_u);
         nueva_escritura(dj, 1, 7, 8, 9);
         nueva_escritura(dj, 2, 8, 9, 9, "P", "N");
-        cnRtn.ejecutar(
+        cnRtn.ejecutarGuion(
             "update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=30.5 where SEDD_ID=1; update SEL_TB_RTN_DETDJ set SNAD_ID=1 where SEDD_ID=2"_u);
         cnRtn.ejecutar(
             "insert into SEL_TB_RTN_INS_PARTES values (1, '%1', 1, '80', '20123456786', 20123456786, 0, 'GÓMEZ', 50, 'o', 1, 'D', '1', 5, 1, 'A', null)"_u

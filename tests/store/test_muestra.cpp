@@ -151,7 +151,7 @@ TEST_F(Muestra, LasOperacionesYSusTotalesSonLosQueElProgramaCalcula)
     const QList<ClaveOperacion> claves = operaciones();
     ASSERT_GT(claves.size(), 100);
     // What is computed goes, and has to come back.
-    cnRtn.ejecutar(
+    cnRtn.ejecutarGuion(
         "update SEL_TB_RTN_INS_OPERACIONES set SINS_BASEIMPONIBLE=null, SINS_VALUACION_FISCAL=null,"
         " SINS_MODULOS=null, SINS_ALICUOTA=null, SINS_IMPUESTO_CALCULADO=null, SINS_PORC_EXENTO=null,"
         " SINS_MONTO_EXENTO=null, SINS_MONTO_INICIAL=null, SINS_MONTO_FINAL=null, SINS_NRO=null,"

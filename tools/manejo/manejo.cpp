@@ -111,17 +111,22 @@ QString con_foco(QWidget* form)
     return !w ? QString() : parte ? w->parentWidget()->objectName() : w->objectName();
 }
 
+void caracteres(QWidget* w, const QString& texto)
+{
+    for (const QChar c : texto) {
+        // A widget takes the character of the event, also where the key has no Latin-1 code.
+        QKeyEvent baja(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(w, &baja);
+        QKeyEvent sube(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(w, &sube);
+    }
+}
+
 void teclear(QWidget* form, const QString& nombre, const QString& texto)
 {
     QLineEdit* l = tomar(form, nombre);
     QTest::keyClick(l, Qt::Key_Delete);
-    for (const QChar c : texto) {
-        // A widget takes the character of the event, also where the key has no Latin-1 code.
-        QKeyEvent baja(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(l, &baja);
-        QKeyEvent sube(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(l, &sube);
-    }
+    caracteres(l, texto);
 }
 
 void escribir(QWidget* form, const QString& nombre, const QString& texto)

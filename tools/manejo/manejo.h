@@ -19,6 +19,8 @@ namespace manejo {
 void escribir(QWidget* form, const QString& nombre, const QString& texto);
 /// The same without leaving the field.
 void teclear(QWidget* form, const QString& nombre, const QString& texto);
+/// The keys of a text, where the caret stands.
+void caracteres(QWidget* w, const QString& texto);
 /// Puts a text on the clipboard and pastes it over the field's text, without leaving the field.
 void pegar(QWidget* form, const QString& nombre, const QString& texto);
 /// Alt and a letter, where the focus is; the access keys of bars and buttons are pressed so.

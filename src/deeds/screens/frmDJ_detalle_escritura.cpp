@@ -127,6 +127,12 @@ void frmDJ_detalle::aceptar()
     enfocar(r.foco);
     if (!r.vale)
         return;
+    if (Operacion == Modo::modificar && c.observaciones.contains(u'\'')) {
+        mostrarFalla({.mensaje = u"Las observaciones de una escritura guardada no admiten apóstrofos"_s,
+                      .control = u"txtObs"_s,
+                      .titulo = {}});
+        return;
+    }
     if (Operacion == Modo::nuevo)
         agregar_renglon(c);
     else
