@@ -106,7 +106,7 @@ void BarraHerramientas::accionar(const QString& clave)
         form = qobject_cast<Formulario*>(w);
     const auto informar = [this, &clave] { emit pulsada(clave); };
     if (form)
-        form->actuar(informar, clave == u"salir");
+        form->actuar(informar, clave == u"salir" || clave == u"cancelar");
     else
         informar();
 }

@@ -45,7 +45,7 @@ public:
 
     /// Runs the action of a bar's button: the field with the focus is left before, as by Tab, and a refusal that
     /// this raises stops the button; the action runs in the guard; the focus stands in the field again afterwards
-    /// when the form has not moved it. A button that only leaves (`sale`) is stopped by a box alone.
+    /// when the form has not moved it. A button that gives up what was typed (`sale`) is never stopped.
     void actuar(const std::function<void()>& accion, bool sale);
 
 protected:

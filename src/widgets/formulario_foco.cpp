@@ -137,7 +137,7 @@ bool Formulario::dejarCampo(QWidget* campo, bool sale)
     const int cajas = DialogoPantalla::avisos();
     dejado_ = campo;
     setFocus(Qt::OtherFocusReason);
-    if (DialogoPantalla::avisos() == cajas && (sale || negadas == antes))
+    if (sale || (DialogoPantalla::avisos() == cajas && negadas == antes))
         return true;
     recuperarFoco(campo);
     return false;

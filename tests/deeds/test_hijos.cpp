@@ -66,7 +66,8 @@ TEST_F(HijosEscritura, InmuebleSeGuardaComoEsta)
     EXPECT_EQ(leido->partida + u'|' + leido->calle + u'|' + leido->uFuncional, "12|PEÑA|"_u);
     EXPECT_DOUBLE_EQ(leido->valFiscal, 99.5);
     i.barrio = "D'ANGELO"_u;
-    EXPECT_THROW(modificar_inmueble(i, "1"_u), ErrorAlmacen);
+    modificar_inmueble(i, "1"_u);
+    EXPECT_EQ(cargar_inmueble(dj, "1"_u, 1)->barrio, "D'ANGELO"_u);
 }
 
 }  // namespace

@@ -186,7 +186,8 @@ TEST_F(Pagos, UnComprobanteNuevoAnulaElAnterior)
         "02-20123-2026-00001|1|S|100.5|04/05/2026|03/10/2026|PÉREZ\n02-20123-2026-00002|2|N|7.0|04/05/2026|03/10/2026|PÉREZ\n"
         "02-20123-2026-00003|1|N|99.0|04/05/2026|03/10/2026|PÉREZ"_u);
     EXPECT_EQ(dato("select MAX_SCRT_NRO from SEL_VW_MAX_COMPROB where SEDD_ID=1"_u), "02-20123-2026-00003"_u);
-    EXPECT_THROW(emitir_comprobante("x"_u, {dj, "1"_u, "1"_u, QDate(2026, 1, 1), "D'ANGELO"_u}), ErrorAlmacen);
+    emitir_comprobante("x"_u, {dj, "1"_u, "1"_u, QDate(2026, 1, 1), "D'ANGELO"_u});
+    EXPECT_EQ(dato("select SCRT_RTN_NOMBRE from SEL_TB_RTN_COMP_RET where SCRT_NRO='x'"_u), "D'ANGELO"_u);
 }
 
 }  // namespace

@@ -92,6 +92,10 @@ void frmDJ_detalle_op::keyPressEvent(QKeyEvent* evento)
 void frmDJ_detalle_op::cancelar()
 {
     editorRoles_->cerrar_celda(false);
+    // What can't be read would stop the calculation of what was before.
+    for (ctlNumero* n : findChildren<ctlNumero*>())
+        if (!n->modelo().legible())
+            n->ClearText();
     if (!guardado_ && Operacion == Modo::nuevo) {
         ui->ctlCodS->ClearText();
         cargarSubconcepto();
