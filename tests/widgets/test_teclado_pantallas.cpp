@@ -174,7 +174,14 @@ TEST_F(PantallasTeclado, LaOperacionConservaUnFocoQueSirve)
     cnRtn.ejecutar("delete from SEL_TB_RTN_DETDJ where SEDD_ID>1"_u);
     QWidget* f = abrirOperacion(dj_);
     EXPECT_EQ(con_foco(f), "ctlCodS"_u);
+    ASSERT_TRUE(QApplication::focusWidget());
+    EXPECT_TRUE(f->isAncestorOf(QApplication::focusWidget()));
     EXPECT_FALSE(qobject_cast<QLineEdit*>(control(f, "txtSubconcepto"_u))->isReadOnly());
+    acceso(f, Qt::Key_B);
+    QTest::qWait(300);
+    auto* catalogo = formulario("frmSubconceptos");
+    acceso(catalogo, Qt::Key_I);
+    EXPECT_EQ(con_foco(f), "ctlCodS"_u);
     teclear(f, "ctlCodS"_u, "1"_u);
     acceso(f, Qt::Key_U);
     EXPECT_EQ(con_foco(f), "flxVC"_u);

@@ -29,7 +29,10 @@ MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
     ui->area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     ui->area->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     // Backup and recovery have no working logic; nothing makes them available.
-    ui->sm_backup_recuperacion->menuAction()->setVisible(false);
+    QAction* respaldo = ui->sm_backup_recuperacion->menuAction();
+    respaldo->setVisible(false);
+    // The bar takes the access key of a hidden menu too, away from the forms.
+    respaldo->setText(respaldo->text().remove(u'&'));
     ui->sm_backup_recuperacion->setEnabled(false);
     Formulario::fijarArea(ui->area);
 
