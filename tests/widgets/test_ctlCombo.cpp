@@ -180,4 +180,20 @@ TEST_F(CtlCombo, OrdenaPorLaColumnaDelClic)
     EXPECT_EQ(orden(), "4213"_u);
 }
 
+// Whatever opened the list, and wherever the focus is in it.
+TEST_F(CtlCombo, UnClicEnLaFlechaLaCierra)
+{
+    txt->setFocus();
+    QTest::keyClick(txt, Qt::Key_Down);
+    ASSERT_TRUE(combo->abierta() && lvw->hasFocus());
+    QTest::mouseClick(cmd, Qt::LeftButton);
+    EXPECT_FALSE(combo->abierta());
+    QTest::mouseClick(cmd, Qt::LeftButton);
+    clicEnFila(1);
+    ASSERT_TRUE(combo->abierta());
+    QTest::mouseClick(cmd, Qt::LeftButton);
+    EXPECT_FALSE(combo->abierta());
+    EXPECT_TRUE(txt->hasFocus());
+}
+
 }  // namespace
