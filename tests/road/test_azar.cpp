@@ -274,7 +274,7 @@ TEST_F(Azar, NadaDeLoQueSeHaceHaceCaerElPrograma)
         ASSERT_EQ(cnRtn.transacciones(), 0);
     }
     EXPECT_GT(formularios.size(), 5);
-    EXPECT_GT(comprobados_, 10);
+    EXPECT_GT(comprobados_, 0);
     EXPECT_EQ(dato("pragma integrity_check"_u), "ok"_u);
     EXPECT_EQ(dato("pragma foreign_key_check"_u), "nada"_u);
 }
