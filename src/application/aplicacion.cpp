@@ -34,21 +34,21 @@ bool Aplicacion::notify(QObject* objeto, QEvent* evento)
     try {
         return QApplication::notify(objeto, evento);
     } catch (const ErrorAlmacen& e) {
-        terminar(e.descripcion);
+        terminar(e.descripcion, e.motor);
     } catch (const std::exception& e) {
         terminar(QString::fromUtf8(e.what()));
     }
 }
 
-void Aplicacion::terminar(const QString& error)
+void Aplicacion::terminar(const QString& error, const QString& detalles)
 {
     static bool terminando = false;
     if (!terminando) {
         terminando = true;
         // Before the box: while it stands, nothing half done is held open.
         cnRtn.deshacerTodo();
-        std::fprintf(stderr, "%s\n", qUtf8Printable(error));
-        DialogoPantalla(nullptr).avisar({error, u"VEDRA-RTN"_s, Icono::critico});
+        std::fprintf(stderr, "%s %s\n", qUtf8Printable(error), qUtf8Printable(detalles));
+        DialogoPantalla(nullptr).avisar({error, u"VEDRA-RTN"_s, Icono::critico, detalles});
         cnRtn.cerrar();
         cnTmp.cerrar();
     }

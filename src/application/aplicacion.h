@@ -13,7 +13,7 @@ public:
 
     bool notify(QObject* objeto, QEvent* evento) override;
 
-    /// Shows the error, rolls back what is open, closes the connections and ends the program
+    /// Shows the error, with the details behind it, rolls back what is open, closes the connections and ends the program
     /// with status 1.
-    [[noreturn]] static void terminar(const QString& error);
+    [[noreturn]] static void terminar(const QString& error, const QString& detalles = {});
 };

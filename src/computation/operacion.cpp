@@ -96,7 +96,7 @@ std::optional<Totales> guardar_totales(const ClaveOperacion& clave, Dialogo& dia
         if (cnRtn.ejecutar(u"update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=%1%2"_s.arg(numero_sql(totales.renglon),
                                                                                          clave.deRenglon().donde()))
             == 0)
-            throw ErrorAlmacen(0, {});
+            throw ErrorAlmacen(0, QString());
         totales.dj = suma(u"SELECT SUM(SINS_MONTO_FINAL) AS Suma_SEDJ_TOTAL_RETENIDO"
                           u" from SEL_TB_RTN_INS_OPERACIONES where SEDJ_NRO='%1' group by SEDJ_NRO"_s.arg(clave.dj));
         cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=%1 where SEDJ_NRO='%2'"_s.arg(

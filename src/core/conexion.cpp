@@ -13,6 +13,41 @@ namespace {
 constexpr int ESPERA_BLOQUEO_MS = 1500;
 constexpr size_t SENTENCIAS_GUARDADAS = 32;
 
+// What the office is told of the engine's codes: the extended ones first, then their families.
+struct Palabras
+{
+    int codigo;
+    const char* texto;
+};
+constexpr Palabras PALABRAS[] = {
+    {SQLITE_CONSTRAINT_PRIMARYKEY, "Ya existe un dato con esa clave."},
+    {SQLITE_CONSTRAINT_UNIQUE, "Ya existe un dato con esa clave."},
+    {SQLITE_CONSTRAINT_ROWID, "Ya existe un dato con esa clave."},
+    {SQLITE_CONSTRAINT_FOREIGNKEY, "El dato está en uso, o falta otro del que depende."},
+    {SQLITE_CONSTRAINT_NOTNULL, "Falta un dato obligatorio."},
+    {SQLITE_CONSTRAINT, "Un dato no es válido."},
+    {SQLITE_BUSY, "Otro programa está usando la base de datos. Intente más tarde."},
+    {SQLITE_LOCKED, "Otro programa está usando la base de datos. Intente más tarde."},
+    {SQLITE_FULL, "El disco está lleno: no se pudo guardar."},
+    {SQLITE_READONLY, "La base de datos es de solo lectura: no se puede guardar."},
+    {SQLITE_IOERR, "No se pudo leer o escribir en el disco."},
+    {SQLITE_CANTOPEN, "No se pudo abrir la base de datos."},
+    {SQLITE_CORRUPT, "La base de datos está dañada."},
+    {SQLITE_NOTADB, "El archivo no es una base de datos, está dañado o tiene otra contraseña."},
+    {SQLITE_TOOBIG, "Un dato no entra en su lugar."},
+    {SQLITE_MISMATCH, "Un dato no es del tipo que corresponde."},
+    {SQLITE_NOMEM, "No hay memoria suficiente."},
+};
+
+QString palabras_del_motor(int codigo)
+{
+    for (const int buscado : {codigo, codigo & 0xff})
+        for (const Palabras& p : PALABRAS)
+            if (p.codigo == buscado)
+                return QString::fromUtf8(p.texto);
+    return u"La base de datos no pudo hacer lo que se le pidió."_s;
+}
+
 // Whether a comment begins outside of literals and quoted names.
 bool con_comentario(const QByteArray& sql)
 {
@@ -42,6 +77,14 @@ ErrorAlmacen::ErrorAlmacen(int numero_, const QString& descripcion_)
 {
 }
 
+// A trigger speaks in words of its own.
+ErrorAlmacen::ErrorAlmacen(int numero_, const char* motor_)
+    : std::runtime_error(motor_), numero(numero_),
+      descripcion(numero == SQLITE_CONSTRAINT_TRIGGER ? QString::fromUtf8(motor_) : palabras_del_motor(numero)),
+      motor(QString::fromUtf8(motor_))
+{
+}
+
 bool ErrorAlmacen::claveDuplicada() const
 {
     return numero == SQLITE_CONSTRAINT_PRIMARYKEY || numero == SQLITE_CONSTRAINT_UNIQUE
@@ -68,7 +111,7 @@ Conexion::~Conexion()
 
 void Conexion::fallar() const
 {
-    throw ErrorAlmacen(sqlite3_extended_errcode(base_), QString::fromUtf8(sqlite3_errmsg(base_)));
+    throw ErrorAlmacen(sqlite3_extended_errcode(base_), sqlite3_errmsg(base_));
 }
 
 void Conexion::conectar(const QString& ruta, const QString& clave, int modo)

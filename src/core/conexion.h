@@ -16,9 +16,12 @@ class ErrorAlmacen : public std::runtime_error
 {
 public:
     ErrorAlmacen(int numero_, const QString& descripcion_);
+    /// What the engine said, under its code.
+    ErrorAlmacen(int numero_, const char* motor_);
 
     int numero;           ///< extended result code of the engine
-    QString descripcion;  ///< the engine's own words
+    QString descripcion;  ///< in words of the office
+    QString motor;        ///< the engine's own words, empty when the program itself refused
 
     /// Whether a unique key or a primary key was violated.
     [[nodiscard]] bool claveDuplicada() const;

@@ -13,6 +13,7 @@ struct Mensaje
     QString texto;
     QString titulo;
     Icono icono = Icono::informacion;
+    QString detalles = {};  ///< behind "Detalles"
 };
 
 class Dialogo

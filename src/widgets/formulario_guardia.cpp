@@ -65,7 +65,7 @@ bool Formulario::proteger(const std::function<void()>& accion)
             throw;
         deshacer();
         if (vivo)
-            avisar(motivo_de_escritura(e), windowTitle(), Icono::exclamacion);
+            DialogoPantalla(this).avisar({motivo_de_escritura(e), windowTitle(), Icono::exclamacion, e.motor});
     }
     return false;
 }

@@ -25,6 +25,8 @@ int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons boton
     const QString titulo = m.titulo.isEmpty() ? u"VEDRA-RTN"_s : m.titulo;
     QMessageBox caja(icono_de(m.icono), titulo, m.texto, botones, padre);
     caja.setTextFormat(Qt::PlainText);
+    if (!m.detalles.isEmpty())
+        caja.setDetailedText(m.detalles);
     return caja.exec();
 }
 

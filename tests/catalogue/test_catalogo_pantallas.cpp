@@ -101,13 +101,13 @@ TEST_F(PantallasCatalogo, BorrarUnSubconceptoQueSeUsa)
                                 false, QMessageBox::Question, true};
     Cajas::durante({pregunta}, [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
     Cajas::durante(
-        {{pregunta.texto}, {"FOREIGN KEY"_u, "Borrar subconcepto de sellos"_u, true, QMessageBox::Information}},
+        {{pregunta.texto}, {"El dato está en uso"_u, "Borrar subconcepto de sellos"_u, true, QMessageBox::Information}},
         [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
     // A role of the item that is in use holds it too.
     cnRtn.ejecutarGuion(
         "delete from SEL_TB_RTN_INS_OPERACIONES; insert into SEL_TB_RTN_INS_ROLES values ('%1', 1, 1, 1, 5707001001, null)"_u
             .arg(dj));
-    Cajas::durante({{pregunta.texto}, {"FOREIGN KEY"_u, "Borrar subconcepto de sellos"_u}},
+    Cajas::durante({{pregunta.texto}, {"El dato está en uso"_u, "Borrar subconcepto de sellos"_u}},
                    [&] { pulsar(f, "toolbar"_u, "borrar"_u); });
     EXPECT_EQ(dato("select count(*) from SEL_TB_ROLES where SSUB_ID=5707001"_u), "3"_u);
     cnRtn.ejecutar("delete from SEL_TB_RTN_INS_ROLES"_u);

@@ -160,7 +160,7 @@ TEST_F(PantallasCatalogo, RolesYMascaras)
     const int quedan = manejo::filas(f, "grillaRoles"_u);
     celda(f, "grillaRoles"_u, 0, 1);
     Cajas::durante({{"¿Está seguro que desea borrar la parte seleccionada?"_u},
-                    {"FOREIGN KEY"_u, "Borrar rol"_u, true, QMessageBox::Information}},
+                    {"El dato está en uso"_u, "Borrar rol"_u, true, QMessageBox::Information}},
                    [&] { pulsar(f, "tlbRoles"_u, "borrar"_u); });
     EXPECT_EQ(manejo::filas(f, "grillaRoles"_u), quedan);
 

@@ -194,6 +194,35 @@ TEST_F(Arranque, BytesVolteadosEnCualquierPaginaSonUnErrorYNoUnaCaida)
     EXPECT_TRUE(abrir_base(oyente));
 }
 
+// No text of a user becomes a statement, and what the engine says comes in Spanish.
+TEST_F(Almacen, UnaInstruccionPorVezYEnEspanol)
+{
+    for (const QString& sql :
+         {"delete from SEL_TB_PARAMETROS; delete from SEL_TB_ROLES"_u, "delete from SEL_TB_PARAMETROS -- todo"_u,
+          "delete from SEL_TB_PARAMETROS /* todo */"_u, "select 'a' -- x"_u, "delete from SEL_TB_ROLES"_u + QChar(0)}) {
+        EXPECT_THROW(cnRtn.ejecutar(sql), ErrorAlmacen) << sql.toStdString();
+        EXPECT_THROW(Recordset(cnRtn, sql), ErrorAlmacen) << sql.toStdString();
+    }
+    EXPECT_NE(dato("select count(*) from SEL_TB_PARAMETROS"_u), "0"_u);
+    EXPECT_EQ(dato("select '-- /* ;' || 'D''ANGELO'"_u), "-- /* ;D'ANGELO"_u);
+    const auto dice = [](const QString& sql) {
+        try {
+            cnRtn.ejecutar(sql);
+        } catch (const ErrorAlmacen& e) {
+            EXPECT_FALSE(e.motor.isEmpty());
+            return e.descripcion;
+        }
+        return QString();
+    };
+    EXPECT_EQ(dice("delete from NADA"_u), "La base de datos no pudo hacer lo que se le pidió."_u);
+    EXPECT_EQ(
+        dice("insert into SEL_TB_CONCEPTOS (SCON_ID, SCON_DESCRIPCION) select SCON_ID, 'x' from SEL_TB_CONCEPTOS"_u),
+        "Ya existe un dato con esa clave."_u);
+    EXPECT_EQ(dice("insert into SEL_TB_ROLES (SROL_ID) values (1)"_u), "Falta un dato obligatorio."_u);
+    EXPECT_EQ(dice("insert into SEL_TB_ROLES (SROL_ID, SROL_DESCRIPCION, SSUB_ID) values (1, 'x', 1)"_u),
+              "El dato está en uso, o falta otro del que depende."_u);
+}
+
 TEST_F(Arranque, ParametrosYLeyVigente)
 {
     configurar("vedra_rtn.db\n");

@@ -19,11 +19,11 @@ int main(int argc, char** argv)
     QTimer::singleShot(0, &aplicacion, [] {
         cnRtn.comenzar();
         cnRtn.ejecutar(u"insert into GLB_TB_CONCEPTOS values (51, 'A MEDIAS')"_s);
-        Cajas::durante({{u"no such table: NADA"_s, u"VEDRA-RTN"_s}}, [] {
+        Cajas::durante({{u"La base de datos no pudo hacer lo que se le pidió."_s, u"VEDRA-RTN"_s}}, [] {
             try {
                 cnRtn.ejecutar(u"delete from NADA"_s);
             } catch (const ErrorAlmacen& e) {
-                Aplicacion::terminar(e.descripcion);
+                Aplicacion::terminar(e.descripcion, e.motor);
             }
         });
     });
