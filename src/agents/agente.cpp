@@ -48,7 +48,7 @@ bool guardar(const QString& titulo, Dialogo& dialogo, F escribir)
         escribir();
         return true;
     } catch (const ErrorAlmacen& e) {
-        dialogo.avisar({e.descripcion, titulo, Icono::informacion});
+        dialogo.avisar({e.descripcion, titulo, Icono::informacion, e.motor});
         return false;
     }
 }

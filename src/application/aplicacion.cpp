@@ -5,6 +5,7 @@
 #include "application/traduccion.h"
 #include "core/modGlobales.h"
 #include "widgets/barra.h"
+#include "widgets/guardia.h"
 #include "widgets/mensajes.h"
 
 #include <QIcon>
@@ -12,6 +13,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 using namespace Qt::StringLiterals;
 
@@ -33,10 +35,14 @@ bool Aplicacion::notify(QObject* objeto, QEvent* evento)
 {
     try {
         return QApplication::notify(objeto, evento);
-    } catch (const ErrorAlmacen& e) {
-        terminar(e.descripcion, e.motor);
-    } catch (const std::exception& e) {
-        terminar(QString::fromUtf8(e.what()));
+    } catch (...) {
+        // Forms have a guard around each of their actions; here goes what happens outside of them.
+        try {
+            con_guardia(activeWindow(), [error = std::current_exception()] { std::rethrow_exception(error); });
+        } catch (const ErrorAlmacen& e) {
+            terminar(e.descripcion, e.motor);
+        }
+        return false;
     }
 }
 

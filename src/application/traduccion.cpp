@@ -40,6 +40,8 @@ constexpr Texto TEXTOS[] = {
     {"QFileSystemModel",
      "<b>The name \"%1\" cannot be used.</b><p>Try using another name, with fewer characters or no punctuation marks.",
      "<b>No se puede usar el nombre «%1».</b><p>Pruebe con otro nombre, con menos letras o sin signos."},
+    {"QMessageBox", "Show Details...", "Detalles"},
+    {"QMessageBox", "Hide Details...", "Ocultar detalles"},
     {"QPageSize", "Architect D", "Arquitecto D"},
     {"QPrintDialog", "Invalid Pages Definition", "Páginas mal indicadas"},
     {"QPrintDialog",

@@ -103,8 +103,9 @@ std::optional<Totales> guardar_totales(const ClaveOperacion& clave, Dialogo& dia
             numero_sql(totales.dj), clave.dj));
         t.confirmar();
         return totales;
-    } catch (const ErrorAlmacen&) {
-        dialogo.avisar({u"Atención: No se pudo modificar el monto del renglón de la DJ"_s, {}, Icono::ninguno});
+    } catch (const ErrorAlmacen& e) {
+        dialogo.avisar(
+            {u"Atención: No se pudo modificar el monto del renglón de la DJ"_s, {}, Icono::ninguno, e.motor});
         return {};
     }
 }

@@ -72,7 +72,7 @@ bool guardar_roles(const ClaveOperacion& clave, const QList<ParteRol>& partes, c
         }
         return true;
     } catch (const ErrorAlmacen& e) {
-        dialogo.avisar({u"Error al guardar los roles\n"_s + e.descripcion, titulo, Icono::ninguno});
+        dialogo.avisar({u"Error al guardar los roles\n"_s + e.descripcion, titulo, Icono::ninguno, e.motor});
         return false;
     }
 }

@@ -37,7 +37,7 @@ QString componer_cadena(const QString& ruta)
 
 void mostrar_error(Dialogo& dialogo, const QString& prefijo, const ErrorAlmacen& e)
 {
-    dialogo.avisar({prefijo + QString::number(e.numero) + u": "_s + e.descripcion, {}, Icono::ninguno});
+    dialogo.avisar({prefijo + QString::number(e.numero) + u": "_s + e.descripcion, {}, Icono::ninguno, e.motor});
 }
 
 }  // namespace

@@ -265,7 +265,7 @@ void Conexion::deshacer()
         return;
     --nivel_;
     // A severe error (full disk) makes the engine roll back by itself.
-    if (sqlite3_get_autocommit(base_)) {
+    if (!enTransaccion()) {
         nivel_ = 0;
         return;
     }
@@ -277,10 +277,15 @@ void Conexion::deshacer()
     sentenciaSimple(QByteArray("rollback to " + punto + "; release " + punto).constData());
 }
 
+bool Conexion::enTransaccion() const
+{
+    return base_ && sqlite3_get_autocommit(base_) == 0;
+}
+
 void Conexion::deshacerTodo()
 {
     nivel_ = 0;
-    if (base_ && !sqlite3_get_autocommit(base_))
+    if (enTransaccion())
         sqlite3_exec(base_, "rollback", nullptr, nullptr, nullptr);
 }
 
@@ -299,4 +304,30 @@ void Transaccion::confirmar()
 {
     cn_.confirmar();
     abierta_ = false;
+}
+
+Tanda::~Tanda()
+{
+    if (!abierta_)
+        return;
+    try {
+        terminar();
+    } catch (const ErrorAlmacen&) {
+    }
+}
+
+void Tanda::terminar()
+{
+    abierta_ = false;
+    try {
+        // What the engine has rolled back by itself was told by the step that failed.
+        if (cn_.enTransaccion()) {
+            cn_.confirmar();
+            return;
+        }
+    } catch (const ErrorAlmacen&) {
+        cn_.deshacerTodo();
+        throw;
+    }
+    cn_.deshacerTodo();
 }

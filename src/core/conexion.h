@@ -59,6 +59,8 @@ public:
     /// Rolls back whatever is open, however deep.
     void deshacerTodo();
     [[nodiscard]] int transacciones() const { return nivel_; }
+    /// Whether the engine has a transaction open: after a full disk it may have rolled one back by itself.
+    [[nodiscard]] bool enTransaccion() const;
 
     [[nodiscard]] sqlite3* nativa() const { return base_; }
 
@@ -92,6 +94,24 @@ public:
     Transaccion(const Transaccion&) = delete;
     Transaccion& operator=(const Transaccion&) = delete;
     void confirmar();
+
+private:
+    Conexion& cn_;
+    bool abierta_ = true;
+};
+
+/// Steps that are one piece of work for the disk, but no transaction for the user: what was done before a step failed
+/// is confirmed as well. A kill leaves all of it or nothing.
+class Tanda
+{
+public:
+    explicit Tanda(Conexion& cn) : cn_(cn) { cn_.comenzar(); }
+    /// Confirms what was done when a failure is on its way through; that one is told, not one of this.
+    ~Tanda();
+    Tanda(const Tanda&) = delete;
+    Tanda& operator=(const Tanda&) = delete;
+    /// Confirms. Throws ErrorAlmacen when nothing of it could be stored.
+    void terminar();
 
 private:
     Conexion& cn_;

@@ -1,11 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What to tell of an error of the store.
+// What to tell of an error, in words of the office.
 #pragma once
 
 #include <QString>
 
+#include <stdexcept>
+
 class ErrorAlmacen;
+
+/// A task that could not be done, with the reason for the user and, apart from it, the system's own words.
+class ErrorTarea : public std::runtime_error
+{
+public:
+    explicit ErrorTarea(const QString& texto_, const QString& detalles_ = {})
+        : std::runtime_error(texto_.toStdString()), texto(texto_), detalles(detalles_)
+    {
+    }
+
+    QString texto;
+    QString detalles;  ///< behind "Detalles"
+};
 
 /// What to tell of an error on a write: a store that somebody holds has words of its own, any other
 /// error the engine's.
 [[nodiscard]] QString motivo_de_escritura(const ErrorAlmacen& e);
+
+/// The system's reason for a failed call on a file, by its number (errno).
+[[nodiscard]] QString motivo_del_sistema(int numero);

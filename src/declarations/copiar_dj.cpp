@@ -10,24 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The rows go in as one piece of work for the disk. The copy is no transaction for the user:
-// what was inserted before a failure is confirmed as well.
-class Tanda
-{
-public:
-    Tanda() { cnRtn.comenzar(); }
-    ~Tanda()
-    {
-        try {
-            cnRtn.confirmar();
-        } catch (const ErrorAlmacen&) {
-            cnRtn.deshacerTodo();
-        }
-    }
-    Tanda(const Tanda&) = delete;
-    Tanda& operator=(const Tanda&) = delete;
-};
-
 QString todo(const char* tabla, const QString& nro)
 {
     return u"select * from %1 where SEDJ_NRO='%2'"_s.arg(QLatin1String(tabla), nro);
@@ -54,13 +36,16 @@ bool copiar_tabla(const char* tabla, std::span<const Columna<T>> columnas, const
 QString copiar_dj(const QString& nro, Dialogo& dialogo)
 {
     auto cabecera = leer_fila<CabeceraDJ>(cnRtn, todo("SEL_TB_RTN_CABDJ", nro), columnas_cabecera());
-    if (!cabecera)
+    if (!cabecera) {
+        dialogo.avisar({u"No existe la declaración jurada %1: no se la puede copiar."_s.arg(nro), u"Rectificar DJ"_s,
+                        Icono::exclamacion});
         return {};
+    }
     const QString nuevo = NumeroDJ(nro).siguiente();
     cabecera->nro = nuevo;
     ++cabecera->secuencia;
 
-    const Tanda tanda;
+    Tanda tanda(cnRtn);
     const bool bien = alta_cabecera_dj(*cabecera, dialogo)
                       && copiar_tabla<Escritura>("SEL_TB_RTN_DETDJ", columnas_escritura(), nro, nuevo,
                                                  [&](auto& f) { return alta_detalle_dj(f, false, dialogo); })
@@ -75,5 +60,6 @@ QString copiar_dj(const QString& nro, Dialogo& dialogo)
                           [&](auto& f) { return alta_valor_contractual(f, false, dialogo); })
                       && copiar_tabla<RolOperacion>("SEL_TB_RTN_INS_ROLES", columnas_rol(), nro, nuevo,
                                                     [&](auto& f) { return alta_rol(f, dialogo); });
+    tanda.terminar();
     return bien ? nuevo : QString();
 }

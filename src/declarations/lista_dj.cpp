@@ -48,7 +48,8 @@ void borrar_dj(const QString& nro, Dialogo& dialogo)
         vaciar_testimonios(nro);
         t.confirmar();
     } catch (const ErrorAlmacen& e) {
-        dialogo.avisar({e.descripcion + u"No se pudo borrar la DJ seleccionada"_s, u"Borrar DJ"_s, Icono::exclamacion});
+        dialogo.avisar(
+            {e.descripcion + u"No se pudo borrar la DJ seleccionada"_s, u"Borrar DJ"_s, Icono::exclamacion, e.motor});
     }
 }
 

@@ -4,7 +4,10 @@
 
 #include "core/modGlobales.h"
 #include "core/numero.h"
+#include "core/redondeo.h"
 #include "tree/renglon.h"
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +61,35 @@ void leer_renglones(const QString& nro, const std::function<void(const FilaRengl
     }
 }
 
+QString diferencia_de_totales(const QString& nro)
+{
+    const auto distintos = [](double a, double b) { return std::llround(a * 100) != std::llround(b * 100); };
+    const auto cifras = [](const QString& que, double guardado, double operaciones) {
+        return u"%1 %2 (operaciones: %3)"_s.arg(que, importe_agrupado(guardado), importe_agrupado(operaciones));
+    };
+    double suma = 0;
+    QString primera;
+    int otras = -1;
+    for (Recordset rs(cnRtn,
+                      u"select SEDD_ESCRITURA_NRO, SEDD_TOTAL_IMPUESTO, (select total(SINS_MONTO_FINAL)"
+                      u" from SEL_TB_RTN_INS_OPERACIONES as O where O.SEDJ_NRO='%1' and O.SEDD_ID=D.SEDD_ID)"
+                      u" from SEL_TB_RTN_DETDJ as D where D.SEDJ_NRO='%1' order by D.SEDD_ESCRITURA_NRO"_s.arg(nro));
+         !rs.eof(); rs.siguiente()) {
+        suma += rs.real(2);
+        if (distintos(rs.real(1), rs.real(2)) && ++otras == 0)
+            primera = cifras(u"escritura "_s + rs.texto(0), rs.real(1), rs.real(2));
+    }
+    QStringList partes;
+    if (const Recordset dj(cnRtn, u"select SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_s.arg(nro));
+        !dj.eof() && distintos(dj.real(0), suma))
+        partes << cifras(u"total retenido"_s, dj.real(0), suma);
+    if (!primera.isEmpty())
+        partes << primera;
+    if (otras > 0)
+        partes << (otras == 1 ? u"y otra escritura"_s : u"y otras %1 escrituras"_s.arg(otras));
+    return partes.isEmpty() ? QString() : u"Totales guardados que difieren: "_s + partes.join(u", "_s);
+}
+
 bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
 {
     const QString donde = RenglonDJ{nro, QString::number(id)}.donde();
@@ -72,8 +104,9 @@ bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
         resta.ejecutar();
         t.confirmar();
         return true;
-    } catch (const ErrorAlmacen&) {
-        dialogo.avisar({u"No se pudo borrar el renglón seleccionado"_s, u"Borrar renglón"_s, Icono::informacion});
+    } catch (const ErrorAlmacen& e) {
+        dialogo.avisar(
+            {u"No se pudo borrar el renglón seleccionado"_s, u"Borrar renglón"_s, Icono::informacion, e.motor});
         return false;
     }
 }

@@ -21,6 +21,10 @@ struct FilaRenglon
 /// Reads the deeds in the order of their numbers. Throws ErrorAlmacen.
 void leer_renglones(const QString& nro, const std::function<void(const FilaRenglon&)>& fila);
 
+/// One line on stored totals, of the DJ or of its deeds, that are not the sum of their operations, with both figures in
+/// pesos; empty when all agree. Throws ErrorAlmacen.
+[[nodiscard]] QString diferencia_de_totales(const QString& nro);
+
 /// Deletes a deed with what hangs from it and takes its amount (pesos) off the total of the DJ.
 /// False after an error, which is told and leaves the deed.
 bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo);

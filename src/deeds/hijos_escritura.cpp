@@ -78,10 +78,9 @@ void borrar_inmueble(const RenglonDJ& r, const QString& id)
 void borrar_operacion(const RenglonDJ& r, const QString& id, const QString& total, Dialogo& dialogo)
 {
     const QString donde = u"%1 and SEDO_ID=%2"_s.arg(r.donde(), id);
-    cnRtn.comenzar();
+    Transaccion t(cnRtn);
     cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_ROLES %1"_s.arg(donde));
     if (cnRtn.ejecutar(u"delete from SEL_TB_RTN_INS_OPERACIONES %1"_s.arg(donde)) == 0) {
-        // The transaction deliberately stays open here, without a commit.
         dialogo.avisar({u"No se pudo borrar la operación"_s, u"Borrar operación"_s, Icono::informacion});
         return;
     }
@@ -90,5 +89,5 @@ void borrar_operacion(const RenglonDJ& r, const QString& id, const QString& tota
                    u" where SEDD_ID=%2 and SEDJ_NRO='%3'"_s.arg(total, r.renglon, r.dj));
     cnRtn.ejecutar(u" update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=SEDJ_TOTAL_RETENIDO-%1 "
                    u" where SEDJ_NRO='%2'"_s.arg(total, r.dj));
-    cnRtn.confirmar();
+    t.confirmar();
 }

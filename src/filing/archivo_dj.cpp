@@ -3,6 +3,7 @@
 #include "filing/archivo_dj.h"
 
 #include "core/modGlobales.h"
+#include "core/motivos.h"
 #include "filing/carpetas_dj.h"
 #include "filing/escribir_registro.h"
 #include "filing/salida_archivo.h"
@@ -62,7 +63,7 @@ EmisionArchivo generar_archivo_dj(const QString& nro)
         salida.descartarRegistro();
         salida.volcar();
         const QString escritura = e.renglon == 0 ? QString() : u", escritura Nº "_s + numero_escritura(nro, e.renglon);
-        throw std::runtime_error((e.registro + escritura + e.detalle).toStdString());
+        throw ErrorTarea(e.registro + escritura + e.detalle);
     }
     cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ  set SEDJ_MD5='%1'  where SEDJ_NRO='%2'"_s.arg(codigo, nro));
     emision.codigo = codigo;

@@ -4,6 +4,7 @@
 
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
+#include "core/motivos.h"
 #include "core/numero.h"
 #include "filing/archivos_disco.h"
 #include "filing/carpetas_dj.h"
@@ -22,7 +23,7 @@ constexpr int SIN_LIMITE = -1;
 
 [[noreturn]] void fallar(const QString& que, const QString& archivo)
 {
-    throw std::runtime_error(QString(que + QDir::toNativeSeparators(archivo)).toStdString());
+    throw ErrorTarea(que + QDir::toNativeSeparators(archivo));
 }
 
 void borrar(const QString& archivo)

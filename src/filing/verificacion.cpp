@@ -90,7 +90,7 @@ bool verificar_dj_completa(const QString& nro, const QString& tituloVentana, Dia
         }
     } catch (const ErrorAlmacen& e) {
         // The emission deliberately goes on after an error.
-        dialogo.avisar({e.descripcion, u"Verificar DJ completa"_s, Icono::informacion});
+        dialogo.avisar({e.descripcion, u"Verificar DJ completa"_s, Icono::informacion, e.motor});
     }
     return true;
 }

@@ -146,7 +146,7 @@ bool verificar_colision_partes(const ControlesParte& c, Dialogo& dialogo)
                    u" where (SEDJ_NRO='%1' and SEDD_ID=%2) %3%4"_s.arg(c.dj, c.renglon, otra, condicion_colision(c)));
         return rs.eof() || dialogo.preguntar(pregunta_colision(c, rs));
     } catch (const ErrorAlmacen& e) {
-        dialogo.avisar({e.descripcion, c.titulo, Icono::informacion});
+        dialogo.avisar({e.descripcion, c.titulo, Icono::informacion, e.motor});
         return false;
     }
 }

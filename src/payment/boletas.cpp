@@ -89,10 +89,12 @@ QString insertar_boleta(const ControlesBoleta& c)
         {"SBDI_CHEQUE2_MONTO", sql_o_cero(c.cheques[1].monto)},
         {"SBDI_TIPO_BOLETA", QString::number(TIPO_MENSUAL)},
     };
+    Transaccion t(cnRtn);
     if (insertar(u"SEL_TB_RTN_BOLDEP"_s, columnas) != 1)
         return {};
     cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='%1' where SBDI_NROBOLETA='%2'"_s.arg(
         codigo_barras_boleta(nro, c), nro));
+    t.confirmar();
     return nro;
 }
 

@@ -45,7 +45,7 @@ struct ControlesBoleta
 /// The 80 digits that the bank reads: agreement, slip, due date, amounts and the check digit.
 [[nodiscard]] QString codigo_barras_boleta(const QString& nroBoleta, const ControlesBoleta& c);
 /// Stores the slip and, in a second step, its code; gives its number, empty when no row went in.
-/// Throws ErrorAlmacen.
+/// Throws ErrorAlmacen; then there is no slip.
 [[nodiscard]] QString insertar_boleta(const ControlesBoleta& c);
 /// Rows deleted.
 int borrar_boleta(const QString& nro);

@@ -16,9 +16,10 @@ struct DatosComprobante
 };
 
 /// The next number over the whole store. A new year starts its sequence again with the prefix of
-/// this DJ; otherwise the prefix of the highest number stays, deliberately.
+/// this DJ; otherwise the prefix of the highest number stays, deliberately. A number that is taken is followed by the
+/// next free one of its series.
 [[nodiscard]] QString proximo_comprobante(const QString& dj);
 
-/// Annuls the earlier receipts of the deed and stores a new one under the number. Throws ErrorAlmacen:
-/// the agent's name goes as it stands, and an apostrophe in it breaks the statement.
+/// Annuls the earlier receipts of the deed and stores a new one under the number. Throws ErrorAlmacen; then the
+/// earlier ones are valid as before.
 void emitir_comprobante(const QString& nro, const DatosComprobante& d);

@@ -29,7 +29,7 @@ bool insertar(const char* tabla, std::span<const Columna<T>> columnas, const T& 
         return true;
     } catch (const ErrorAlmacen& e) {
         const bool repetida = e.claveDuplicada() && !duplicado.isEmpty();
-        dialogo.avisar({repetida ? duplicado : e.descripcion, QString::fromUtf8(titulo), Icono::informacion});
+        dialogo.avisar({repetida ? duplicado : e.descripcion, QString::fromUtf8(titulo), Icono::informacion, e.motor});
         return false;
     }
 }

@@ -75,7 +75,8 @@ protected:
     /// A refusal without a box, raised while a field is left.
     static void negar();
 
-    void avisar(const QString& texto, const QString& titulo, Icono icono = Icono::informacion);
+    void avisar(const QString& texto, const QString& titulo, Icono icono = Icono::informacion,
+                const QString& detalles = {});
     [[nodiscard]] bool preguntar(const QString& texto, const QString& titulo, Icono icono = Icono::pregunta);
     /// Shows the box of a failed check and moves the focus to its control.
     void mostrarFalla(const Falla& falla);

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The guard of a form's actions, its boxes, and what would be lost when it closes.
 
-#include "core/modGlobales.h"
-#include "core/motivos.h"
-#include "core/redondeo.h"
 #include "widgets/ctlNumero.h"
 #include "widgets/formulario.h"
+#include "widgets/guardia.h"
 #include "widgets/mensajes.h"
 
 #include <QAbstractButton>
@@ -45,34 +43,12 @@ QStringList huella_de(const QWidget* raiz)
 
 bool Formulario::proteger(const std::function<void()>& accion)
 {
-    const int nivel = cnRtn.transacciones();
-    const QPointer<Formulario> vivo = this;
-    const auto deshacer = [nivel] {
-        while (cnRtn.transacciones() > nivel)
-            cnRtn.deshacer();
-    };
-    try {
-        accion();
-        return true;
-    } catch (const ErrorConversion& e) {
-        deshacer();
-        if (vivo) {
-            avisar(QString::fromUtf8(e.what()), windowTitle(), Icono::exclamacion);
-            enfocarIlegible();
-        }
-    } catch (const ErrorAlmacen& e) {
-        if (e.perdido())
-            throw;
-        deshacer();
-        if (vivo)
-            DialogoPantalla(this).avisar({motivo_de_escritura(e), windowTitle(), Icono::exclamacion, e.motor});
-    }
-    return false;
+    return con_guardia(this, accion, [this] { enfocarIlegible(); });
 }
 
-void Formulario::avisar(const QString& texto, const QString& titulo, Icono icono)
+void Formulario::avisar(const QString& texto, const QString& titulo, Icono icono, const QString& detalles)
 {
-    DialogoPantalla(this).avisar({texto, titulo, icono});
+    DialogoPantalla(this).avisar({texto, titulo, icono, detalles});
 }
 
 bool Formulario::preguntar(const QString& texto, const QString& titulo, Icono icono)

@@ -12,11 +12,14 @@
 #include "declarations/screens/frmDJ_buscar.h"
 #include "ui_MDIPrincipal.h"
 #include "widgets/formulario.h"
+#include "widgets/guardia.h"
 #include "widgets/mensajes.h"
 
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -36,16 +39,19 @@ MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
     ui->sm_backup_recuperacion->setEnabled(false);
     Formulario::fijarArea(ui->area);
 
-    connect(ui->ssmRTN, &QAction::triggered, this, [] { cargar<frmRTN_buscar>()->mostrar(); });
-    connect(ui->smSubconceptos, &QAction::triggered, this, [this] {
+    const auto atender = [this](const QAction* entrada, const std::function<void()>& accion) {
+        connect(entrada, &QAction::triggered, this, [this, accion] { con_guardia(this, accion); });
+    };
+    atender(ui->ssmRTN, [] { cargar<frmRTN_buscar>()->mostrar(); });
+    atender(ui->smSubconceptos, [this] {
         auto* catalogo = cargar<frmSubconceptos>();
         Hab_Deshab_Menu(false);
         connect(catalogo, &frmSubconceptos::cerrado, this, [this] { Hab_Deshab_Menu(true); });
         catalogo->mostrar();
     });
-    connect(ui->ssmDJ, &QAction::triggered, this, [] { cargar<frmDJ_buscar>()->mostrar(); });
-    connect(ui->ssmBackup, &QAction::triggered, this, [] { cargar<frmBackup>()->mostrar(); });
-    connect(ui->smAcercaDe, &QAction::triggered, this, [] { cargar<frmAcercaDe>()->mostrar(); });
+    atender(ui->ssmDJ, [] { cargar<frmDJ_buscar>()->mostrar(); });
+    atender(ui->ssmBackup, [] { cargar<frmBackup>()->mostrar(); });
+    atender(ui->smAcercaDe, [] { cargar<frmAcercaDe>()->mostrar(); });
     connect(ui->smSalir, &QAction::triggered, this, &QWidget::close);
 }
 

@@ -67,7 +67,8 @@ bool frmEditarRango::guardar(const Rango& r)
         return true;
     } catch (const ErrorAlmacen& e) {
         // Nothing is being deleted; the title of a change stays as it is, deliberately.
-        avisar(motivo_de_escritura(e), nuevo ? windowTitle() : u"Borrar concepto de sellos"_s);
+        avisar(motivo_de_escritura(e), nuevo ? windowTitle() : u"Borrar concepto de sellos"_s, Icono::informacion,
+               e.motor);
         return false;
     }
 }

@@ -147,7 +147,7 @@ void frmEditarSubconceptoSellos::aceptar()
     try {
         Operacion == Modo::nuevo ? alta_subconcepto(c) : modificar_subconcepto(c);
     } catch (const ErrorAlmacen& e) {
-        avisar(motivo_de_escritura(e), windowTitle());
+        avisar(motivo_de_escritura(e), windowTitle(), Icono::informacion, e.motor);
         return;
     }
     guardado_ = true;

@@ -109,7 +109,7 @@ void frmEditarSubconceptoSellos::atenderBarra(const QString& clave, const T* ele
             if (preguntar(textos.pregunta, textos.titulo))
                 borrar(*elegido);
         } catch (const ErrorAlmacen& e) {
-            avisar(motivo_de_escritura(e), textos.tituloError);
+            avisar(motivo_de_escritura(e), textos.tituloError, Icono::informacion, e.motor);
         }
         (this->*releer)();
     } else if (clave == u"alta" || elegido) {

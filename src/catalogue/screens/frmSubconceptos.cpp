@@ -152,7 +152,7 @@ void frmSubconceptos::borrar()
     try {
         borrar_subconcepto(ui->grilla->clave());
     } catch (const ErrorAlmacen& e) {
-        avisar(e.descripcion, u"Borrar subconcepto de sellos"_s);
+        avisar(e.descripcion, u"Borrar subconcepto de sellos"_s, Icono::informacion, e.motor);
     }
     buscar_subconceptos();
 }

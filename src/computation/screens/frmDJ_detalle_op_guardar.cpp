@@ -5,6 +5,7 @@
 
 #include "computation/inmuebles_operacion.h"
 #include "computation/roles_operacion.h"
+#include "core/modGlobales.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_detalle_op.h"
 #include "widgets/ctlComunes.h"
@@ -83,7 +84,7 @@ bool frmDJ_detalle_op::validarDetalle()
     return false;
 }
 
-// The row, the link of the property, the roles: each stands once it is written.
+// The row, the link of the property, the roles: what was written before a step failed stays.
 bool frmDJ_detalle_op::guardarDatos()
 {
     DatosOperacion d;
@@ -99,13 +100,14 @@ bool frmDJ_detalle_op::guardarDatos()
     try {
         actualizar_operacion(clave(), campos(), d);
     } catch (const ErrorAlmacen& e) {
-        avisar(e.descripcion, windowTitle());
+        avisar(e.descripcion, windowTitle(), Icono::informacion, e.motor);
         return false;
     }
     try {
         vincular_inmueble(clave(), inmuebleVinculado_);
     } catch (const ErrorAlmacen& e) {
-        avisar(u"Error al guardar el vinculo entre la operación y el inmueble\n"_s + e.descripcion, windowTitle());
+        avisar(u"Error al guardar el vinculo entre la operación y el inmueble\n"_s + e.descripcion, windowTitle(),
+               Icono::informacion, e.motor);
         return false;
     }
     DialogoPantalla dialogo(this);
@@ -115,10 +117,12 @@ bool frmDJ_detalle_op::guardarDatos()
 void frmDJ_detalle_op::guardarDetalle()
 {
     editorRoles_->cerrar_celda(true);
-    if (!validarDetalle() || !guardarDatos())
+    if (!validarDetalle())
         return;
     DialogoPantalla dialogo(this);
-    const auto totales = guardar_totales(clave(), dialogo);
+    Tanda tanda(cnRtn);
+    const auto totales = guardarDatos() ? guardar_totales(clave(), dialogo) : std::nullopt;
+    tanda.terminar();
     if (!totales)
         return;
     emit totalesGuardados(totales->renglon, totales->dj);

@@ -36,6 +36,7 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
     ui->cboDJ_Estado->setCurrentIndex(0);
     ui->lblAviso->hide();
     ui->lblCantIncompletos->hide();
+    ui->lblDiferencia->hide();
     seleccionar_item(ui->cboMes, hoy().month());
     ui->txtAnio->setText(QString::number(hoy().year()));
     seleccionar_item(ui->cboRectificativa, 0);

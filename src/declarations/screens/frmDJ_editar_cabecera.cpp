@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tab of the header: agent, posición and due date, reading, showing and storing them.
 
+#include "core/modGlobales.h"
 #include "core/reloj.h"
 #include "declarations/cabecera_dj.h"
 #include "declarations/screens/frmDJ_editar.h"
@@ -201,18 +202,21 @@ void frmDJ_editar::aceptar()
     if (ui->txtNroDJ->text().isEmpty() && !componer_nro_dj())
         return;
     const CabeceraDJ dj = leer_cabecera(c);
-    if (Operacion == Modo::nuevo) {
-        DialogoPantalla dialogo(this);
-        if (!alta_cabecera_dj(dj, dialogo))
-            return;
+    const bool nueva = Operacion == Modo::nuevo;
+    DialogoPantalla dialogo(this);
+    Transaccion t(cnRtn);
+    if (!nueva)
+        actualizar_cabecera(dj);
+    else if (!alta_cabecera_dj(dj, dialogo))
+        return;
+    if (dj.estado == DJ_SIN_MOVIMIENTOS)
+        borrar_escrituras(dj.nro);
+    t.confirmar();
+    if (nueva) {
         Operacion = Modo::modificar;
         nroInicial_ = dj.nro;
         cerrarPosicion();
-    } else {
-        actualizar_cabecera(dj);
     }
-    if (dj.estado == DJ_SIN_MOVIMIENTOS)
-        borrar_escrituras(dj.nro);
     cargar_detalle();
     ui->lblAviso->setVisible(dj.estado == DJ_NORMAL);
     estado_botones(false, true, false, true, true);

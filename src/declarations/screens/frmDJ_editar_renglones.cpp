@@ -61,6 +61,9 @@ void frmDJ_editar::cargar_detalle()
     ui->lblAviso->setVisible(normal && (incompletos > 0 || fila == 0));
     ui->lblCantIncompletos->setText(u"Renglones incompletos: %1"_s.arg(incompletos));
     ui->lblCantIncompletos->setVisible(normal && incompletos > 0);
+    const QString diferencia = diferencia_de_totales(ui->txtNroDJ->text());
+    ui->lblDiferencia->setText(diferencia);
+    ui->lblDiferencia->setVisible(!diferencia.isEmpty());
     habilitar_tlbDetalle();
 }
 

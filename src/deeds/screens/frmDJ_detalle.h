@@ -45,6 +45,7 @@ private:
     void agregar_renglon(const ControlesEscritura& c);
     void modificar_renglon(const ControlesEscritura& c);
     void borrar_hijos_escritura();
+    void enUnTrabajo(const std::function<void()>& accion);
     void cargar_lista(BarraHerramientas* barra, Grilla* grilla, const char* que,
                       const std::function<void(const AgregarFila&)>& leer);
     void cargar_partes();

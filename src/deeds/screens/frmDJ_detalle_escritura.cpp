@@ -75,7 +75,7 @@ void frmDJ_detalle::cambioAlcance()
             u"¿Esta seguro de continuar con la acción?"_s,
             u"%1 - Escritura No Alcanzada"_s.arg(windowTitle()));
         if (si)
-            borrar_hijos_escritura();
+            enUnTrabajo([this] { borrar_hijos_escritura(); });
         else
             ui->cboAlcanzado->setCurrentIndex(0);
     }
@@ -154,10 +154,12 @@ void frmDJ_detalle::agregar_renglon(const ControlesEscritura& c)
 
 void frmDJ_detalle::modificar_renglon(const ControlesEscritura& c)
 {
-    Transaccion t(cnRtn);
-    const int filas = actualizar_escritura(c);
-    if (c.anulada())
-        borrar_hijos_escritura();
+    int filas = 0;
+    enUnTrabajo([&] {
+        filas = actualizar_escritura(c);
+        if (c.anulada())
+            borrar_hijos_escritura();
+    });
     if (filas == 0) {
         avisar(u"No se pudo modificar el renglón"_s, windowTitle());
     } else {
@@ -165,22 +167,39 @@ void frmDJ_detalle::modificar_renglon(const ControlesEscritura& c)
         enReposo();
     }
     habilitarMarcos(!c.anulada() && alcanzado());
-    t.confirmar();
+}
+
+// A deed and what hangs from it change together. After a failure the lists show again what is stored.
+void frmDJ_detalle::enUnTrabajo(const std::function<void()>& accion)
+{
+    try {
+        Transaccion t(cnRtn);
+        accion();
+        t.confirmar();
+    } catch (const ErrorAlmacen& e) {
+        if (!e.perdido()) {
+            cargar_operaciones();
+            cargar_partes();
+            cargar_inmuebles();
+        }
+        throw;
+    }
 }
 
 void frmDJ_detalle::anular_desanular_escritura(const QString& accion, const QString& estado)
 {
     const bool desanular = accion == u"DESANULAR";
-    Transaccion t(cnRtn);
-    if (accion == u"ANULAR") {
-        anular_escritura(renglon(), estado);
-        borrar_hijos_escritura();
+    enUnTrabajo([&] {
+        if (accion == u"ANULAR") {
+            anular_escritura(renglon(), estado);
+            borrar_hijos_escritura();
+        } else if (desanular) {
+            desanular_escritura(renglon(), ui->nroTotalImpuesto->toSQL());
+        }
+    });
+    if (accion == u"ANULAR")
         ui->txtTestimonio->clear();
-    } else if (desanular) {
-        desanular_escritura(renglon(), ui->nroTotalImpuesto->toSQL());
-    }
     habilitar_solapas(true);
     enReposo();
     habilitarMarcos(desanular);
-    t.confirmar();
 }

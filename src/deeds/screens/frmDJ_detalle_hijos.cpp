@@ -23,7 +23,8 @@ void frmDJ_detalle::cargar_lista(BarraHerramientas* barra, Grilla* grilla, const
     try {
         grilla->llenar([&] { leer([grilla](const QStringList& fila) { grilla->agregar(fila); }); });
     } catch (const ErrorAlmacen& e) {
-        avisar(e.descripcion, u"%1 - Buscar %2"_s.arg(windowTitle(), QLatin1StringView(que)));
+        avisar(e.descripcion, u"%1 - Buscar %2"_s.arg(windowTitle(), QLatin1StringView(que)), Icono::informacion,
+               e.motor);
     }
     habilitar_tlb(barra, grilla);
 }

@@ -116,7 +116,7 @@ void frmReportes::recibo(const QString& nro, const QString& dj)
     try {
         datos = leer_recibo(nro);
     } catch (const ErrorAlmacen& e) {
-        avisar(e.descripcion, titulo);
+        avisar(e.descripcion, titulo, Icono::informacion, e.motor);
     }
     poner(titulo, u"comprobante-"_s + nro, std::make_shared<rpt_recibo>(datos));
 }
