@@ -44,9 +44,11 @@ Cajas::Cajas(const QList<CajaEsperada>& cajas, const QStringList& archivos) : pe
 
 void Cajas::elegirArchivo(QFileDialog* dialogo)
 {
-    if (archivos_.isEmpty())
+    if (archivos_.isEmpty() && !vista_)
         falla_ = u"vino un diálogo de archivos que nadie esperaba: "_s + dialogo->windowTitle();
-    const QString archivo = archivos_.isEmpty() ? QString() : archivos_.takeFirst();
+    const QString archivo = archivos_.isEmpty() ? QString()
+                            : vista_            ? archivos_.constFirst()
+                                                : archivos_.takeFirst();
     auto* nombre = dialogo->findChild<QLineEdit*>(u"fileNameEdit"_s);
     if (archivo.isEmpty() || !nombre) {
         dialogo->reject();
@@ -67,7 +69,9 @@ void Cajas::mirar()
     if (!caja || !caja->isVisible())
         return;
     bool si = true;
-    if (pendientes_.isEmpty()) {
+    if (vista_) {
+        vista_(caja->text());
+    } else if (pendientes_.isEmpty()) {
         falla_ = u"vino una caja que nadie esperaba: "_s + describir(caja);
     } else {
         const CajaEsperada esperada = pendientes_.takeFirst();
@@ -81,13 +85,29 @@ void Cajas::mirar()
     QTest::mouseClick(boton, Qt::LeftButton);
 }
 
+namespace {
+
+struct Turno
+{
+    Turno() { ++vigias; }
+    ~Turno() { --vigias; }
+    Turno(const Turno&) = delete;
+    Turno& operator=(const Turno&) = delete;
+};
+
+}  // namespace
+
+void Cajas::aceptando(const std::function<void()>& accion, const std::function<void(const QString&)>& vista,
+                      const QString& archivo)
+{
+    const Turno turno;
+    Cajas c({}, archivo.isEmpty() ? QStringList() : QStringList{archivo});
+    c.vista_ = vista;
+    accion();
+}
+
 void Cajas::durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion, const QStringList& archivos)
 {
-    struct Turno
-    {
-        Turno() { ++vigias; }
-        ~Turno() { --vigias; }
-    };
     const Turno turno;
     Cajas c(cajas, archivos);
     accion();

@@ -36,6 +36,11 @@ public:
     static void durante(const QList<CajaEsperada>& cajas, const std::function<void()>& accion,
                         const QStringList& archivos = {});
 
+    /// Runs an action of somebody who agrees to every box, and who answers file dialogs with `archivo`, or cancels them
+    /// when it is empty; each box's text is told.
+    static void aceptando(const std::function<void()>& accion, const std::function<void(const QString&)>& vista,
+                          const QString& archivo = {});
+
     /// Runs an action during which no box is expected, unless somebody already answers the boxes.
     static void vigilar(const std::function<void()>& accion);
 
@@ -44,6 +49,7 @@ private:
     void mirar();
     void elegirArchivo(class QFileDialog* dialogo);
 
+    std::function<void(const QString&)> vista_;  ///< hears of each box, when all are agreed to
     QList<CajaEsperada> pendientes_;
     QStringList archivos_;
     QString falla_;
