@@ -54,8 +54,7 @@ public:
 
     void abrir(MDIPrincipal& principal)
     {
-        insistir([] { return abierto("frmDJ_buscar"); },
-                 [&] { principal.findChild<QAction*>(u"ssmDJ"_s)->trigger(); });
+        insistir([] { return abierto("frmDJ_buscar"); }, [&] { principal.findChild<QAction*>(u"ssmDJ"_s)->trigger(); });
         insistir([] { return abierto("frmDJ_editar"); },
                  [] { pulsar(formulario("frmDJ_buscar"), u"tlbDJ"_s, u"modificar"_s); });
         solapa(formulario("frmDJ_editar"), u"SSTab1"_s, 1);
@@ -147,8 +146,7 @@ private:
         escribir(f, u"txtDomicilio"_s, u"los álamos 15"_s);
         elegir(f, u"cboProv"_s, u"MARVEN"_s);
         elegir(f, u"cboLoc"_s, u"EL SAUCE"_s);
-        if (insistir([] { return !abierto("frmDJ_detalle_parte"); },
-                     [f] { pulsar(f, u"tlb"_s, u"aceptar"_s); }))
+        if (insistir([] { return !abierto("frmDJ_detalle_parte"); }, [f] { pulsar(f, u"tlb"_s, u"aceptar"_s); }))
             decir(u"parte "_s + clave());
         volver("frmDJ_detalle");
     }
@@ -161,8 +159,9 @@ private:
         teclear(f, u"ctlCodS"_s, u"29"_s);
         const bool abierta = insistir([f] { return habilitado(f, u"tlb"_s, u"guardar_det"_s); },
                                       [f] { pulsar(f, u"tlb"_s, u"guardar_op"_s); });
-        if (abierta && insistir([f] { return !habilitado(f, u"tlb"_s, u"guardar_det"_s); },
-                                [f] { pulsar(f, u"tlb"_s, u"guardar_det"_s); }))
+        if (abierta
+            && insistir([f] { return !habilitado(f, u"tlb"_s, u"guardar_det"_s); },
+                        [f] { pulsar(f, u"tlb"_s, u"guardar_det"_s); }))
             decir(u"operacion "_s + clave());
         volver("frmDJ_detalle");
     }
@@ -196,8 +195,7 @@ private:
         auto* f = formulario("frmDJ_editar");
         const int antes = filas(f, u"flxOp"_s);
         celda(f, u"flxOp"_s, antes - 1, 1);
-        if (!insistir([&] { return filas(f, u"flxOp"_s) < antes; },
-                      [f] { pulsar(f, u"tlbDetalle"_s, u"borrar"_s); }))
+        if (!insistir([&] { return filas(f, u"flxOp"_s) < antes; }, [f] { pulsar(f, u"tlbDetalle"_s, u"borrar"_s); }))
             return;
         decir(u"borrada "_s + clave());
         --nro_;
