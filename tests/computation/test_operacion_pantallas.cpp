@@ -3,6 +3,7 @@
 
 #include "apoyo/pantallas.h"
 #include "computation/screens/frmDJ_detalle_op.h"
+#include "declarations/renglones.h"
 #include "deeds/screens/frmDJ_detalle.h"
 
 #include <QApplication>
@@ -16,6 +17,41 @@
 namespace {
 
 using namespace manejo;
+
+// A step that fails leaves what was done before it, and the fields as they were; a disk that takes nothing leaves nothing.
+TEST_F(PantallasFormularios, GuardarLaOperacionEsUnSoloTrabajo)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    cnRtn.ejecutarGuion(
+        "update SEL_TB_ROLES set SROL_REQUERIDO=0; create trigger sin_total before update of SEDJ_TOTAL_RETENIDO on SEL_TB_RTN_CABDJ "
+        "begin select raise(abort, 'x'); end"_u);
+    QWidget* f = abrirOperacion("29");
+    const QString importe = texto(f, "nroImpuesto"_u);
+    Cajas::durante({{"Atención: No se pudo modificar el monto del renglón de la DJ"_u}},
+                   [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    EXPECT_TRUE(habilitado(f, "tlb"_u, "guardar_det"_u));
+    EXPECT_EQ(texto(f, "nroImpuesto"_u), importe);
+    const auto guardado = [] {
+        return dato(
+            "select (SINS_MONTO_FINAL>0)||' '||SEDD_TOTAL_IMPUESTO||' '||SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_INS_OPERACIONES "
+            "join SEL_TB_RTN_DETDJ using (SEDJ_NRO, SEDD_ID) join SEL_TB_RTN_CABDJ using (SEDJ_NRO)"_u);
+    };
+    EXPECT_EQ(guardado(), "1 0.0 0.0"_u);
+    EXPECT_EQ(cnRtn.transacciones(), 0);
+
+    cnRtn.ejecutarGuion("drop trigger sin_total; update SEL_TB_RTN_INS_OPERACIONES set SINS_MONTO_FINAL=0; "
+                        "create trigger sin_disco before update of SEDD_TOTAL_IMPUESTO on SEL_TB_RTN_DETDJ "
+                        "begin select raise(rollback, 'y'); end"_u);
+    Cajas::durante({{"Atención: No se pudo modificar el monto del renglón de la DJ"_u}},
+                   [&] { pulsar(f, "tlb"_u, "guardar_det"_u); });
+    EXPECT_EQ(guardado(), "0 0.0 0.0"_u);
+    EXPECT_EQ(cnRtn.transacciones(), 0);
+    cnRtn.ejecutar("drop trigger sin_disco"_u);
+    pulsar(f, "tlb"_u, "guardar_det"_u);
+    EXPECT_FALSE(habilitado(f, "tlb"_u, "guardar_det"_u));
+    EXPECT_EQ(diferencia_de_totales(dj), QString());
+}
 
 TEST_F(Pantallas, OperacionDePuntaAPunta)
 {

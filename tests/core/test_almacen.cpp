@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "apoyo/apoyo.h"
+#include "apoyo/ingles.h"
 #include "core/arranque.h"
+#include "core/motivos.h"
+
+#include <set>
 
 #include <QFile>
 
@@ -35,6 +39,48 @@ TEST_F(Almacen, TransaccionesAnidadas)
     cnRtn.deshacerTodo();
     EXPECT_EQ(cnRtn.transacciones(), 0);
     EXPECT_EQ(dato(cuenta), "11,13"_u);
+}
+
+// What was done before a step failed stays; what the engine itself has rolled back is no error of its own.
+TEST_F(Almacen, UnaTandaConfirmaLoQueSeHizo)
+{
+    const auto poner = [](int n) { cnRtn.ejecutar("insert into GLB_TB_CONCEPTOS values (%1, 'X')"_u.arg(n)); };
+    const auto hay = [] { return dato("select group_concat(GCON_ID) from GLB_TB_CONCEPTOS where GCON_ID>10"_u); };
+    try {
+        const Tanda t(cnRtn);
+        poner(11);
+        poner(11);
+        FAIL();
+    } catch (const ErrorAlmacen& e) {
+        EXPECT_TRUE(e.claveDuplicada());
+    }
+    EXPECT_EQ(hay(), "11"_u);
+    Tanda t(cnRtn);
+    poner(12);
+    cnRtn.ejecutar("rollback"_u);
+    t.terminar();
+    EXPECT_EQ(cnRtn.transacciones(), 0);
+    EXPECT_EQ(hay(), "11"_u);
+}
+
+// Every code of the engine, known or not.
+TEST_F(Almacen, CadaCodigoSeDiceEnEspanol)
+{
+    std::set<QString> dichos;
+    for (int primario = 1; primario < 30; ++primario)
+        for (int extendido = 0; extendido < 40; ++extendido) {
+            const ErrorAlmacen e(primario | extendido << 8, "engine words: constraint failed");
+            if (e.numero == 1811)  // a trigger speaks for itself
+                continue;
+            EXPECT_FALSE(e.descripcion.isEmpty());
+            EXPECT_EQ(ingles_en(e.descripcion), QString()) << e.numero;
+            EXPECT_EQ(e.motor, "engine words: constraint failed"_u);
+            dichos.insert(e.descripcion);
+        }
+    EXPECT_GE(dichos.size(), 12);
+    EXPECT_EQ(ErrorAlmacen(1811, "No se puede borrar").descripcion, "No se puede borrar"_u);
+    for (const int errno_ : {1, 2, 5, 13, 16, 20, 21, 23, 24, 26, 27, 28, 30, 36, 122, 999})
+        EXPECT_EQ(ingles_en(motivo_del_sistema(errno_)), QString()) << errno_;
 }
 
 TEST_F(Almacen, FuncionesYOrdenesDeLasSentencias)

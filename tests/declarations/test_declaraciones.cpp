@@ -215,6 +215,34 @@ TEST_F(Declaraciones, AltasConSuProximoNumero)
               "1|null|null|null|null"_u);
 }
 
+TEST_F(Declaraciones, LosTotalesQueDifierenSeDicenConLasDosCifras)
+{
+    const QString dj = nueva_dj();
+    for (const int n : {1, 2, 3}) {
+        nueva_escritura(dj, n, n + 10, n, 1);
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_INS_OPERACIONES (SEDJ_NRO, SEDD_ID, SEDO_ID, SSUB_ID, SINS_MONTO_FINAL) values ('%1', %2, 1, 5707029, 1000.10)"_u
+                .arg(dj)
+                .arg(n));
+    }
+    const auto guardar = [&](const char* totalDJ, const char* segunda, const char* tercera) {
+        cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_TOTAL_RETENIDO=%1"_u.arg(QLatin1StringView(totalDJ)));
+        cnRtn.ejecutar(
+            "update SEL_TB_RTN_DETDJ set SEDD_TOTAL_IMPUESTO=case SEDD_ID when 1 then 1000.10 when 2 then %1 else %2 end"_u
+                .arg(QLatin1StringView(segunda), QLatin1StringView(tercera)));
+        return diferencia_de_totales(dj);
+    };
+    EXPECT_EQ(guardar("3000.3", "1000.1", "1000.1"), QString());
+    EXPECT_EQ(guardar("3000.30000001", "1000.1", "1000.1"), QString());
+    EXPECT_EQ(guardar("900", "1000.1", "1000.1"),
+              "Totales guardados que difieren: total retenido 900,00 (operaciones: 3.000,30)"_u);
+    EXPECT_EQ(guardar("3000.3", "1000.09", "1000.1"),
+              "Totales guardados que difieren: escritura 12 1.000,09 (operaciones: 1.000,10)"_u);
+    EXPECT_EQ(
+        guardar("0", "null", "7"),
+        "Totales guardados que difieren: total retenido 0,00 (operaciones: 3.000,30), escritura 12 0,00 (operaciones: 1.000,10), y otra escritura"_u);
+}
+
 TEST_F(Declaraciones, RenglonesYLoQueLesFalta)
 {
     const QString dj = nueva_dj();

@@ -167,6 +167,38 @@ TEST_F(Pagos, LosComprobantesSiguenDespuesDelNoventaYNueveMil)
     EXPECT_EQ(proximo_comprobante("00123456786261000"_u), "02-00123-2027-00001"_u);
 }
 
+// The highest number is of last year's series: the rule gives the same first number to each agent.
+TEST_F(Pagos, UnNumeroTomadoLlevaAlProximoLibre)
+{
+    fijar_hoy(QDate(2026, 1, 2));
+    const auto agregar = [](const char* nro) {
+        cnRtn.ejecutar(
+            "insert into SEL_TB_RTN_COMP_RET (SCRT_NRO, SEDJ_NRO, SEDD_ID, SCRT_ANULADO) values ('%1', 'X', 1, 'N')"_u
+                .arg(QLatin1StringView(nro)));
+    };
+    agregar("02-00999-2025-00017");
+    for (const char* nro : {"02-00123-2026-00001", "02-00123-2026-00002", "02-00123-2026-00003"}) {
+        EXPECT_EQ(proximo_comprobante("00123456786261000"_u), QLatin1StringView(nro));
+        agregar(nro);
+    }
+    EXPECT_EQ(proximo_comprobante("00124456786261000"_u), "02-00124-2026-00001"_u);
+}
+
+TEST_F(Pagos, LoQueFallaDejaElReciboAnteriorYNingunaBoleta)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    const DatosComprobante datos{dj, "1"_u, "10"_u, QDate(2026, 10, 3), "PÉREZ"_u};
+    emitir_comprobante("a"_u, datos);
+    EXPECT_THROW(emitir_comprobante("a"_u, datos), ErrorAlmacen);
+    EXPECT_EQ(filas("select SCRT_NRO, SCRT_ANULADO from SEL_TB_RTN_COMP_RET"_u), "a|N"_u);
+    cnRtn.ejecutarGuion("create trigger sin_codigo before update of SBDI_CODIGO_BARRAS on SEL_TB_RTN_BOLDEP "
+                        "begin select raise(abort, 'sin código'); end"_u);
+    EXPECT_THROW(static_cast<void>(insertar_boleta(boleta(dj))), ErrorAlmacen);
+    EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_BOLDEP"_u), "0"_u);
+    EXPECT_EQ(cnRtn.transacciones(), 0);
+}
+
 TEST_F(Pagos, UnComprobanteNuevoAnulaElAnterior)
 {
     fijar_hoy(QDate(2026, 5, 4));
