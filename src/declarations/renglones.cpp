@@ -65,7 +65,7 @@ QString diferencia_de_totales(const QString& nro)
 {
     const auto distintos = [](double a, double b) { return std::llround(a * 100) != std::llround(b * 100); };
     const auto cifras = [](const QString& que, double guardado, double operaciones) {
-        return u"%1 %2 (operaciones: %3)"_s.arg(que, importe_agrupado(guardado), importe_agrupado(operaciones));
+        return u"%1: %2 (operaciones: %3)"_s.arg(que, importe_agrupado(guardado), importe_agrupado(operaciones));
     };
     double suma = 0;
     QString primera;

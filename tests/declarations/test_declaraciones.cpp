@@ -235,12 +235,12 @@ TEST_F(Declaraciones, LosTotalesQueDifierenSeDicenConLasDosCifras)
     EXPECT_EQ(guardar("3000.3", "1000.1", "1000.1"), QString());
     EXPECT_EQ(guardar("3000.30000001", "1000.1", "1000.1"), QString());
     EXPECT_EQ(guardar("900", "1000.1", "1000.1"),
-              "Totales guardados que difieren: total retenido 900,00 (operaciones: 3.000,30)"_u);
+              "Totales guardados que difieren: total retenido: 900,00 (operaciones: 3.000,30)"_u);
     EXPECT_EQ(guardar("3000.3", "1000.09", "1000.1"),
-              "Totales guardados que difieren: escritura 12 1.000,09 (operaciones: 1.000,10)"_u);
+              "Totales guardados que difieren: escritura 12: 1.000,09 (operaciones: 1.000,10)"_u);
     EXPECT_EQ(
         guardar("0", "null", "7"),
-        "Totales guardados que difieren: total retenido 0,00 (operaciones: 3.000,30), escritura 12 0,00 (operaciones: 1.000,10), y otra escritura"_u);
+        "Totales guardados que difieren: total retenido: 0,00 (operaciones: 3.000,30), escritura 12: 0,00 (operaciones: 1.000,10), y otra escritura"_u);
 }
 
 TEST_F(Declaraciones, RenglonesYLoQueLesFalta)
