@@ -277,6 +277,11 @@ void Conexion::deshacer()
     sentenciaSimple(QByteArray("rollback to " + punto + "; release " + punto).constData());
 }
 
+qint64 Conexion::cambios() const
+{
+    return sqlite3_total_changes(base_);
+}
+
 bool Conexion::enTransaccion() const
 {
     return base_ && sqlite3_get_autocommit(base_) == 0;

@@ -59,6 +59,8 @@ public:
     /// Rolls back whatever is open, however deep.
     void deshacerTodo();
     [[nodiscard]] int transacciones() const { return nivel_; }
+    /// Rows written since the connection was opened; another number tells that something may have changed.
+    [[nodiscard]] qint64 cambios() const;
     /// Whether the engine has a transaction open: after a full disk it may have rolled one back by itself.
     [[nodiscard]] bool enTransaccion() const;
 

@@ -67,17 +67,21 @@ QString diferencia_de_totales(const QString& nro)
     const auto cifras = [](const QString& que, double guardado, double operaciones) {
         return u"%1: %2 (operaciones: %3)"_s.arg(que, importe_agrupado(guardado), importe_agrupado(operaciones));
     };
+    // Two walks in the order of the keys, side by side: the screen reads this with each of its lists.
+    Recordset operaciones(cnRtn, u"select SEDD_ID, SINS_MONTO_FINAL from SEL_TB_RTN_INS_OPERACIONES"
+                                 u" where SEDJ_NRO='%1' order by SEDD_ID"_s.arg(nro));
     double suma = 0;
     QString primera;
     int otras = -1;
-    for (Recordset rs(cnRtn,
-                      u"select SEDD_ESCRITURA_NRO, SEDD_TOTAL_IMPUESTO, (select total(SINS_MONTO_FINAL)"
-                      u" from SEL_TB_RTN_INS_OPERACIONES as O where O.SEDJ_NRO='%1' and O.SEDD_ID=D.SEDD_ID)"
-                      u" from SEL_TB_RTN_DETDJ as D where D.SEDJ_NRO='%1' order by D.SEDD_ESCRITURA_NRO"_s.arg(nro));
+    for (Recordset rs(cnRtn, u"select SEDD_ID, SEDD_TOTAL_IMPUESTO, SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ"
+                             u" where SEDJ_NRO='%1' order by SEDD_ID"_s.arg(nro));
          !rs.eof(); rs.siguiente()) {
-        suma += rs.real(2);
-        if (distintos(rs.real(1), rs.real(2)) && ++otras == 0)
-            primera = cifras(u"escritura "_s + rs.texto(0), rs.real(1), rs.real(2));
+        double propia = 0;
+        for (; !operaciones.eof() && operaciones.entero(0) <= rs.entero(0); operaciones.siguiente())
+            propia += operaciones.real(1);
+        suma += propia;
+        if (distintos(rs.real(1), propia) && ++otras == 0)
+            primera = cifras(u"escritura "_s + rs.texto(2), rs.real(1), propia);
     }
     QStringList partes;
     if (const Recordset dj(cnRtn, u"select SEDJ_TOTAL_RETENIDO from SEL_TB_RTN_CABDJ where SEDJ_NRO='%1'"_s.arg(nro));

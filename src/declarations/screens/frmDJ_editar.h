@@ -54,6 +54,7 @@ private:
     void mostrarTotal(double total);
     void actualizar_totales();
     void cargar_detalle();
+    void mostrarDiferencia();
     void habilitar_tlbDetalle();
     void abrirRenglon(Modo operacion);
     void tlbDetalle_pulsada(const QString& clave);
@@ -72,5 +73,6 @@ private:
 
     std::unique_ptr<Ui::frmDJ_editar> ui;
     QString nroInicial_;
-    std::optional<int> localidad_;  ///< of the agent
+    std::pair<QString, qint64> diferenciaDe_;  ///< the DJ and the state of the store that the line of totals tells of
+    std::optional<int> localidad_;             ///< of the agent
 };

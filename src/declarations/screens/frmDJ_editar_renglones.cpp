@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The tab of the deeds, and the totals that they make.
 
-#include "core/almacen.h"
+#include "core/modGlobales.h"
 #include "core/numero.h"
 #include "declarations/cabecera_dj.h"
 #include "declarations/renglones.h"
@@ -61,10 +61,20 @@ void frmDJ_editar::cargar_detalle()
     ui->lblAviso->setVisible(normal && (incompletos > 0 || fila == 0));
     ui->lblCantIncompletos->setText(u"Renglones incompletos: %1"_s.arg(incompletos));
     ui->lblCantIncompletos->setVisible(normal && incompletos > 0);
-    const QString diferencia = diferencia_de_totales(ui->txtNroDJ->text());
+    mostrarDiferencia();
+    habilitar_tlbDetalle();
+}
+
+// Worked out again when something was written since, and not each time that the list is read.
+void frmDJ_editar::mostrarDiferencia()
+{
+    const auto visto = std::pair(ui->txtNroDJ->text(), cnRtn.cambios());
+    if (visto == diferenciaDe_)
+        return;
+    const QString diferencia = diferencia_de_totales(visto.first);
     ui->lblDiferencia->setText(diferencia);
     ui->lblDiferencia->setVisible(!diferencia.isEmpty());
-    habilitar_tlbDetalle();
+    diferenciaDe_ = visto;
 }
 
 void frmDJ_editar::habilitar_tlbDetalle()
