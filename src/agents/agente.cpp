@@ -5,6 +5,7 @@
 #include "core/asignaciones.h"
 #include "core/cuit.h"
 #include "core/modGlobales.h"
+#include "core/motivos.h"
 #include "core/modUtiles.h"
 
 using namespace Qt::StringLiterals;
@@ -150,8 +151,8 @@ Entradas agentes_por_nombre(Dialogo& dialogo)
         return leer_entradas(u"select AR.SRTN_NRO, AR.SRTN_TITULAR_NOMBRE  from SEL_TB_RTN_PADRON as AR"
                              u" order by AR.SRTN_TITULAR_NOMBRE collate ESPANOL "_s,
                              "SRTN_TITULAR_NOMBRE", "SRTN_NRO");
-    } catch (const ErrorAlmacen&) {
-        dialogo.avisar({u"Error al cargar los agentes de retención"_s, {}, Icono::ninguno});
+    } catch (const ErrorAlmacen& e) {
+        dialogo.avisar({u"Error al cargar los agentes de retención"_s, {}, Icono::ninguno, detalles_de(e)});
         return {};
     }
 }

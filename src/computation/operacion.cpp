@@ -5,6 +5,7 @@
 #include "computation/obligacion.h"
 #include "core/asignaciones.h"
 #include "core/modGlobales.h"
+#include "core/motivos.h"
 #include "core/modUtiles.h"
 #include "core/redondeo.h"
 
@@ -105,7 +106,7 @@ std::optional<Totales> guardar_totales(const ClaveOperacion& clave, Dialogo& dia
         return totales;
     } catch (const ErrorAlmacen& e) {
         dialogo.avisar(
-            {u"Atención: No se pudo modificar el monto del renglón de la DJ"_s, {}, Icono::ninguno, e.motor});
+            {u"Atención: No se pudo modificar el monto del renglón de la DJ"_s, {}, Icono::ninguno, detalles_de(e)});
         return {};
     }
 }

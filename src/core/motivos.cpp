@@ -41,6 +41,11 @@ QString motivo_de_escritura(const ErrorAlmacen& e)
                        : e.descripcion;
 }
 
+QString detalles_de(const ErrorAlmacen& e)
+{
+    return QStringList{motivo_de_escritura(e), e.motor}.join(u'\n').trimmed();
+}
+
 QString motivo_del_sistema(int numero)
 {
     for (const Motivo& m : MOTIVOS)

@@ -3,6 +3,7 @@
 #include "declarations/renglones.h"
 
 #include "core/modGlobales.h"
+#include "core/motivos.h"
 #include "core/numero.h"
 #include "core/redondeo.h"
 #include "tree/renglon.h"
@@ -110,7 +111,7 @@ bool borrar_renglon(const QString& nro, int id, double monto, Dialogo& dialogo)
         return true;
     } catch (const ErrorAlmacen& e) {
         dialogo.avisar(
-            {u"No se pudo borrar el renglón seleccionado"_s, u"Borrar renglón"_s, Icono::informacion, e.motor});
+            {u"No se pudo borrar el renglón seleccionado"_s, u"Borrar renglón"_s, Icono::informacion, detalles_de(e)});
         return false;
     }
 }

@@ -89,7 +89,7 @@ void frmEditarRol::aceptar()
         nuevo ? alta_rol(rol, IdSubconcepto_) : modificar_rol(rol, IdSubconcepto_);
     } catch (const ErrorAlmacen& e) {
         avisar(nuevo ? u"No se pudo dar de alta la parte para el subconcepto especificado"_s : motivo_de_escritura(e),
-               windowTitle());
+               windowTitle(), Icono::informacion, detalles_de(e));
         return;
     }
     descargar();
