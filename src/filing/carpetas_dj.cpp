@@ -2,21 +2,42 @@
 
 #include "filing/carpetas_dj.h"
 
+#include "core/archivos_disco.h"
 #include "core/modGlobales.h"
-#include "filing/archivos_disco.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QString carpeta_de_todas()
+{
+    return carpeta_programa() + u"/data"_s;
+}
+
+}  // namespace
+
 QString carpeta_dj(const QString& nro)
 {
-    return carpeta_programa() + u"/data/"_s + nro;
+    return carpeta_de_todas() + u'/' + nro;
 }
 
 QString carpeta_testimonios(const QString& nro)
 {
     return carpeta_dj(nro) + u"/testimonios"_s;
+}
+
+void hacer_carpeta_dj(const QString& nro)
+{
+    carpeta_privada(carpeta_de_todas());
+    carpeta_privada(carpeta_dj(nro));
+}
+
+void hacer_carpeta_testimonios(const QString& nro)
+{
+    hacer_carpeta_dj(nro);
+    carpeta_privada(carpeta_testimonios(nro));
 }
 
 QString vaciar_testimonios(const QString& nro)

@@ -9,6 +9,12 @@
 /// Where the copies of its testimonios stand under their export names.
 [[nodiscard]] QString carpeta_testimonios(const QString& nro);
 
+/// Makes the folder of a DJ and the one that holds those of all, readable by the user alone; narrows those that
+/// stand there. Throws ErrorDisco.
+void hacer_carpeta_dj(const QString& nro);
+/// The same, with the folder of testimonios.
+void hacer_carpeta_testimonios(const QString& nro);
+
 /// Deletes all files of the folder of testimonios, hidden ones too, and tries each one; gives the
 /// first that could not be deleted, empty when all went.
 QString vaciar_testimonios(const QString& nro);
