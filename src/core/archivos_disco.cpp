@@ -196,11 +196,10 @@ void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar)
     copia.ocupar();
 }
 
-bool borrar_archivo(const QString& archivo)
+void borrar_archivo(const QString& archivo)
 {
-    QFile f(archivo);
-    f.setPermissions(f.permissions() | QFile::WriteOwner);
-    return f.remove();
+    if (unlink(nombre(archivo).constData()) != 0)
+        throw ErrorDisco(u"No se pudo borrar "_s, archivo, errno);
 }
 
 void carpeta_privada(const QString& carpeta)

@@ -68,8 +68,8 @@ private:
 /// Copies aside and renames. Throws ErrorDisco when the source can't be read or the copy can't be written.
 void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar);
 
-/// Deletes a file, a write-protected one too; false when it could not be.
-[[nodiscard]] bool borrar_archivo(const QString& archivo);
+/// Deletes a file, a write-protected one too. Throws ErrorDisco, also when there is none.
+void borrar_archivo(const QString& archivo);
 
 /// Makes a folder with mode 0700, or narrows the one that stands there, where its owner lets it be narrowed. Its
 /// parent must exist. Throws ErrorDisco.

@@ -2,7 +2,6 @@
 
 #include "filing/carpetas_dj.h"
 
-#include "core/archivos_disco.h"
 #include "core/modGlobales.h"
 
 #include <QDir>
@@ -40,13 +39,18 @@ void hacer_carpeta_testimonios(const QString& nro)
     carpeta_privada(carpeta_testimonios(nro));
 }
 
-QString vaciar_testimonios(const QString& nro)
+std::optional<ErrorDisco> vaciar_testimonios(const QString& nro)
 {
     const QString carpeta = carpeta_testimonios(nro);
-    QString primero;
+    std::optional<ErrorDisco> primera;
     const auto nombres = QDir(carpeta).entryList(QDir::Files | QDir::Hidden | QDir::System);
-    for (const QString& nombre : nombres)
-        if (const QString archivo = carpeta + u'/' + nombre; !borrar_archivo(archivo) && primero.isEmpty())
-            primero = archivo;
-    return primero;
+    for (const QString& nombre : nombres) {
+        try {
+            borrar_archivo(carpeta + u'/' + nombre);
+        } catch (const ErrorDisco& e) {
+            if (!primera)
+                primera = e;
+        }
+    }
+    return primera;
 }

@@ -23,15 +23,10 @@ namespace {
 
 constexpr int SIN_LIMITE = -1;
 
-[[noreturn]] void fallar(const QString& que, const QString& archivo)
-{
-    throw std::runtime_error(QString(que + QDir::toNativeSeparators(archivo)).toStdString());
-}
-
 void borrar(const QString& archivo)
 {
-    if (QFileInfo::exists(archivo) && !borrar_archivo(archivo))
-        fallar(u"No se pudo borrar "_s, archivo);
+    if (QFileInfo::exists(archivo))
+        borrar_archivo(archivo);
 }
 
 constexpr mode_t NADIE_MAS = 077;
@@ -94,8 +89,8 @@ public:
         texto_ = palabra_shell(u"rm "_s + archivo()) + u'\n';
         empaquetar(carpeta_ + u"/SRTN"_s + nro_ + u".txt"_s);
         hacer_carpeta_testimonios(nro_);
-        if (const QString viejo = vaciar_testimonios(nro_); !viejo.isEmpty())
-            fallar(u"No se pudo borrar "_s, viejo);
+        if (const auto falla = vaciar_testimonios(nro_))
+            throw *falla;
         if (!copiarTestimonios())
             return false;
         escribirLote(texto_ + u'\n');

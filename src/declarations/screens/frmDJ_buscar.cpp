@@ -3,6 +3,7 @@
 #include "declarations/screens/frmDJ_buscar.h"
 
 #include "agents/agente.h"
+#include "core/archivos_disco.h"
 #include "declarations/lista_dj.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "filing/archivo_dj.h"
@@ -155,9 +156,19 @@ void frmDJ_buscar::rectificar()
         abrirEditor(Modo::rectificar, ultima);
 }
 
+// A disk that is full ends the emission, not the program.
 void frmDJ_buscar::emitir()
 {
     DialogoPantalla dialogo(this);
+    try {
+        emitirCon(dialogo);
+    } catch (const ErrorDisco& e) {
+        dialogo.avisar({QString::fromUtf8(e.what()), windowTitle(), Icono::exclamacion});
+    }
+}
+
+void frmDJ_buscar::emitirCon(Dialogo& dialogo)
+{
     const QString nro = ui->flx->clave();
     if (!verificar_dj_completa(nro, windowTitle(), dialogo))
         return;

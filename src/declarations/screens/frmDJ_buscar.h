@@ -31,6 +31,7 @@ private:
     void abrirEditor(Modo operacion, const QString& nro);
     void rectificar();
     void emitir();
+    void emitirCon(Dialogo& dialogo);
     bool aceptarMes();
     void aceptarAnio();
 
