@@ -2,18 +2,27 @@
 
 #include "archivo.h"
 
+#include "core/motivo_sistema.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <stdexcept>
 
-Archivo::Archivo(std::string ruta, int modo) : ruta_(std::move(ruta)), fd_(open(ruta_.c_str(), modo | O_CLOEXEC, 0644))
+namespace {
+constexpr mode_t SOLO_DEL_USUARIO = 0600;
+}
+
+// A stick may keep no modes: that one can't be set is no failure.
+Archivo::Archivo(std::string ruta, int modo)
+    : ruta_(std::move(ruta)), fd_(open(ruta_.c_str(), modo | O_CLOEXEC, SOLO_DEL_USUARIO))
 {
     if (fd_ < 0)
         fallar("no se puede abrir");
+    if (modo & O_CREAT)
+        (void)fchmod(fd_, SOLO_DEL_USUARIO);
 }
 
 Archivo::~Archivo()
@@ -23,7 +32,7 @@ Archivo::~Archivo()
 
 void Archivo::fallar(const char* que) const
 {
-    throw std::runtime_error(ruta_ + ": " + que + " (" + std::strerror(errno) + ")");
+    throw std::runtime_error(ruta_ + ": " + que + " (" + motivo_del_sistema(errno) + ")");
 }
 
 size_t Archivo::leer(void* donde, size_t cuantos)

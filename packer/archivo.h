@@ -8,6 +8,7 @@
 class Archivo
 {
 public:
+    /// Opens it with the flags of open(2); one that is made is for the user alone, whatever the umask.
     Archivo(std::string ruta, int modo);
     ~Archivo();
     Archivo(const Archivo&) = delete;

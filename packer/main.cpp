@@ -2,6 +2,7 @@
 // rar a -y ARCHIVE FILE… | rar t ARCHIVE | rar l ARCHIVE
 
 #include "rar5.h"
+#include "visible.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int USO = 7;
 constexpr int DANADO = 3;
+constexpr int SIN_SALIDA = 5;
 
 int uso()
 {
@@ -28,7 +30,7 @@ int probar(const std::string& archivo)
     int malas = 0;
     for (const EntradaRar& e : listar_rar(archivo)) {
         const bool bien = leer_entrada(archivo, e, [](const char*, size_t) {});
-        std::printf("%-5s %s\n", bien ? "OK" : "MAL", e.nombre.c_str());
+        std::printf("%-5s %s\n", bien ? "OK" : "MAL", visible(e.nombre).c_str());
         malas += !bien;
     }
     std::puts(malas == 0 ? "Todo bien" : "El archivo está dañado");
@@ -42,9 +44,19 @@ int listar(const std::string& archivo)
         char fecha[20] = {};
         std::tm partes{};
         std::strftime(fecha, sizeof fecha, "%d/%m/%Y %H:%M", localtime_r(&t, &partes));
-        std::printf("%14llu  %s  %08X  %s\n", static_cast<unsigned long long>(e.largo), fecha, e.crc, e.nombre.c_str());
+        std::printf("%14llu  %s  %08X  %s\n", static_cast<unsigned long long>(e.largo), fecha, e.crc,
+                    visible(e.nombre).c_str());
     }
     return EXIT_SUCCESS;
+}
+
+// The status, once what was said is out.
+int terminar(int estado)
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return estado;
+    std::fputs("rar: no se pudo escribir la salida\n", stderr);
+    return SIN_SALIDA;
 }
 
 }  // namespace
@@ -58,12 +70,12 @@ int main(int argc, char** argv)
             return EXIT_SUCCESS;
         }
         if (a.size() == 2 && a[0] == "t")
-            return probar(a[1]);
+            return terminar(probar(a[1]));
         if (a.size() == 2 && a[0] == "l")
-            return listar(a[1]);
+            return terminar(listar(a[1]));
         return uso();
     } catch (const std::exception& e) {
-        std::fprintf(stderr, "rar: %s\n", e.what());
+        std::fprintf(stderr, "rar: %s\n", visible(e.what()).c_str());
         return DANADO;
     }
 }

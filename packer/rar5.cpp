@@ -3,12 +3,14 @@
 #include "rar5.h"
 
 #include "archivo.h"
+#include "core/motivo_sistema.h"
 
 #include <fcntl.h>
 #include <unistd.h>
 #include <zlib.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <memory>
@@ -305,7 +307,8 @@ void agregar_rar(const std::string& archivo, const std::vector<std::string>& arc
         throw;
     }
     if (std::rename(nuevo.c_str(), archivo.c_str()) != 0) {
+        const int falla = errno;
         unlink(nuevo.c_str());
-        throw std::runtime_error(archivo + ": no se puede escribir");
+        throw std::runtime_error(archivo + ": no se puede escribir (" + motivo_del_sistema(falla) + ")");
     }
 }

@@ -3,6 +3,7 @@
 #include "constructor.h"
 
 #include "core/almacen.h"
+#include "core/archivos_disco.h"
 #include "csv.h"
 #include "tramos.h"
 
@@ -10,8 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -179,16 +178,13 @@ void llenar(Conexion& cn, const Construccion& c)
 
 void construir_almacen(const Construccion& c)
 {
-    const QString nuevo = c.destino + u".nuevo"_s;
-    QFile::remove(nuevo);
-    try {
+    // The engine takes the empty file for a new store, and gives its journal the file's mode.
+    ArchivoNuevo nuevo(c.destino);
+    nuevo.cerrar();
+    {
         Conexion cn;
-        crear_conexion_nueva(cn, nuevo, c.clave);
+        crear_conexion_nueva(cn, nuevo.aparte(), c.clave);
         llenar(cn, c);
-    } catch (...) {
-        QFile::remove(nuevo);
-        throw;
     }
-    if (std::rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(c.destino).constData()) != 0)
-        fallar(u"No se puede escribir "_s + c.destino);
+    nuevo.ocupar();
 }

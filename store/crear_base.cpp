@@ -33,6 +33,8 @@ int main(int argc, char** argv)
     try {
         construir_almacen(c);
         std::printf("%s\n", qUtf8Printable(c.destino));
+        if (std::fflush(stdout) != 0)
+            throw std::runtime_error("no se pudo escribir la salida");
         return EXIT_SUCCESS;
     } catch (const std::exception& e) {
         std::fprintf(stderr, "crear_base: %s\n", e.what());

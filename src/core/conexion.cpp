@@ -6,6 +6,8 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,6 +50,13 @@ QString palabras_del_motor(int codigo)
     return u"La base de datos no pudo hacer lo que se le pidió."_s;
 }
 
+bool es_perdida(int numero)
+{
+    const int primario = numero & 0xff;
+    return primario == SQLITE_CORRUPT || primario == SQLITE_NOTADB || primario == SQLITE_CANTOPEN
+           || primario == SQLITE_MISUSE || numero == SQLITE_READONLY_DBMOVED;
+}
+
 // Whether a comment begins outside of literals and quoted names.
 bool con_comentario(const QByteArray& sql)
 {
@@ -73,7 +82,8 @@ bool con_comentario(const QByteArray& sql)
 }  // namespace
 
 ErrorAlmacen::ErrorAlmacen(int numero_, const QString& descripcion_)
-    : std::runtime_error(descripcion_.toStdString()), numero(numero_), descripcion(descripcion_)
+    : std::runtime_error(descripcion_.toStdString()), numero(numero_), descripcion(descripcion_),
+      perdido_(es_perdida(numero))
 {
 }
 
@@ -81,7 +91,7 @@ ErrorAlmacen::ErrorAlmacen(int numero_, const QString& descripcion_)
 ErrorAlmacen::ErrorAlmacen(int numero_, const char* motor_)
     : std::runtime_error(motor_), numero(numero_),
       descripcion(numero == SQLITE_CONSTRAINT_TRIGGER ? QString::fromUtf8(motor_) : palabras_del_motor(numero)),
-      motor(QString::fromUtf8(motor_))
+      motor(QString::fromUtf8(motor_)), perdido_(es_perdida(numero))
 {
 }
 
@@ -97,13 +107,6 @@ bool ErrorAlmacen::ocupado() const
     return primario == SQLITE_BUSY || primario == SQLITE_LOCKED;
 }
 
-bool ErrorAlmacen::perdido() const
-{
-    const int primario = numero & 0xff;
-    return primario == SQLITE_CORRUPT || primario == SQLITE_NOTADB || primario == SQLITE_CANTOPEN
-           || primario == SQLITE_MISUSE || numero == SQLITE_READONLY_DBMOVED;
-}
-
 Conexion::~Conexion()
 {
     cerrar();
@@ -111,7 +114,14 @@ Conexion::~Conexion()
 
 void Conexion::fallar() const
 {
-    throw ErrorAlmacen(sqlite3_extended_errcode(base_), sqlite3_errmsg(base_));
+    ErrorAlmacen error(sqlite3_extended_errcode(base_), sqlite3_errmsg(base_));
+    // While the store stands, what could not be opened is the journal beside it.
+    const char* ruta = sqlite3_db_filename(base_, "main");
+    if ((error.numero & 0xff) == SQLITE_CANTOPEN && ruta && QFile::exists(QFile::decodeName(ruta))) {
+        error.perdido_ = false;
+        error.descripcion = u"No se pudo escribir junto a la base de datos: falta lugar o permiso."_s;
+    }
+    throw error;
 }
 
 void Conexion::conectar(const QString& ruta, const QString& clave, int modo)

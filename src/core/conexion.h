@@ -28,7 +28,11 @@ public:
     /// Whether somebody else holds the file.
     [[nodiscard]] bool ocupado() const;
     /// Whether the file is damaged, no store any more, or gone.
-    [[nodiscard]] bool perdido() const;
+    [[nodiscard]] bool perdido() const { return perdido_; }
+
+private:
+    friend class Conexion;
+    bool perdido_;
 };
 
 /// One connection to the store. Transactions nest: an inner one is a savepoint of the outer.

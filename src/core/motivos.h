@@ -27,6 +27,3 @@ public:
 
 /// What stands behind "Detalles" of a box whose text says nothing of the reason: the reason, and the engine's own words.
 [[nodiscard]] QString detalles_de(const ErrorAlmacen& e);
-
-/// The system's reason for a failed call on a file, by its number (errno).
-[[nodiscard]] QString motivo_del_sistema(int numero);

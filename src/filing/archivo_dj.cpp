@@ -2,13 +2,14 @@
 
 #include "filing/archivo_dj.h"
 
+#include "core/archivos_disco.h"
 #include "core/modGlobales.h"
 #include "core/motivos.h"
 #include "filing/carpetas_dj.h"
 #include "filing/escribir_registro.h"
 #include "filing/salida_archivo.h"
 
-#include <QDir>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -46,26 +47,45 @@ QString numero_escritura(const QString& nro, int renglon)
     return rs.eof() ? QString() : rs.texto(0);
 }
 
+// The code of the records; the new file stands aside, whole and on the disk.
+QString escribir_archivo(const QString& nro, ArchivoNuevo& nuevo)
+{
+    SalidaArchivo salida(nuevo);
+    try {
+        escribir_registros(nro, salida);
+    } catch (const ErrorRegistro& e) {
+        const QString escritura = e.renglon == 0 ? QString() : u", escritura Nº "_s + numero_escritura(nro, e.renglon);
+        throw ErrorTarea(e.registro + escritura + e.detalle);
+    }
+    return salida.cerrar();
+}
+
+// The file takes its place within the transaction that stores its code: both count, or neither.
+void guardar_con_codigo(const QString& nro, const QString& codigo, const ArchivoNuevo& nuevo, const QString& archivo)
+{
+    Transaccion t(cnRtn);
+    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ  set SEDJ_MD5='%1'  where SEDJ_NRO='%2'"_s.arg(codigo, nro));
+    Sustitucion sustitucion(nuevo.aparte(), archivo);
+    t.confirmar();
+    sustitucion.confirmar();
+}
+
 }  // namespace
 
 EmisionArchivo generar_archivo_dj(const QString& nro)
 {
     EmisionArchivo emision;
     emision.archivo = u"%1/SRTN%2.txt"_s.arg(carpeta_dj(nro), nro);
-    SalidaArchivo salida(emision.archivo);
-    if (!QDir().mkpath(carpeta_dj(nro)) || !salida.crear())
-        return emision;
-    QString codigo;
+    std::optional<ArchivoNuevo> nuevo;
     try {
-        escribir_registros(nro, salida);
-        codigo = salida.cerrar();
-    } catch (const ErrorRegistro& e) {
-        salida.descartarRegistro();
-        salida.volcar();
-        const QString escritura = e.renglon == 0 ? QString() : u", escritura Nº "_s + numero_escritura(nro, e.renglon);
-        throw ErrorTarea(e.registro + escritura + e.detalle);
+        hacer_carpeta_dj(nro);
+        nuevo.emplace(emision.archivo);
+    } catch (const ErrorDisco& e) {
+        emision.motivo = e.texto;
+        return emision;
     }
-    cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ  set SEDJ_MD5='%1'  where SEDJ_NRO='%2'"_s.arg(codigo, nro));
+    const QString codigo = escribir_archivo(nro, *nuevo);
+    guardar_con_codigo(nro, codigo, *nuevo, emision.archivo);
     emision.codigo = codigo;
     return emision;
 }

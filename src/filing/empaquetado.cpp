@@ -2,11 +2,10 @@
 
 #include "filing/empaquetado.h"
 
+#include "core/archivos_disco.h"
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
-#include "core/motivos.h"
 #include "core/numero.h"
-#include "filing/archivos_disco.h"
 #include "filing/carpetas_dj.h"
 #include "rar5.h"
 
@@ -14,6 +13,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -21,16 +23,52 @@ namespace {
 
 constexpr int SIN_LIMITE = -1;
 
-[[noreturn]] void fallar(const QString& que, const QString& archivo)
-{
-    throw ErrorTarea(que + QDir::toNativeSeparators(archivo));
-}
-
 void borrar(const QString& archivo)
 {
-    if (QFileInfo::exists(archivo) && !borrar_archivo(archivo))
-        fallar(u"No se pudo borrar "_s, archivo);
+    if (QFileInfo::exists(archivo))
+        borrar_archivo(archivo);
 }
+
+constexpr mode_t NADIE_MAS = 077;
+
+// The batch file at work. However the emission ends, the archive that it builds does not stay behind.
+class LoteEnMarcha
+{
+public:
+    LoteEnMarcha(const QString& lote, const QString& archivo) : archivo_(archivo)
+    {
+        proceso_.setStandardOutputFile(QProcess::nullDevice());
+        // Another packer makes its files for the user alone, too.
+        proceso_.setChildProcessModifier([] { umask(NADIE_MAS); });
+        proceso_.start(u"/bin/sh"_s, {lote});
+    }
+    ~LoteEnMarcha()
+    {
+        esperar();
+        QFile::remove(archivo_);
+        QFile::remove(archivo_ + u".nuevo"_s);
+    }
+    LoteEnMarcha(const LoteEnMarcha&) = delete;
+    LoteEnMarcha& operator=(const LoteEnMarcha&) = delete;
+
+    // Until every line was carried out; whether the last one ended well.
+    bool esperar()
+    {
+        if (proceso_.state() != QProcess::NotRunning)
+            proceso_.waitForFinished(SIN_LIMITE);
+        return proceso_.exitStatus() == QProcess::NormalExit && proceso_.exitCode() == 0;
+    }
+    // What the packer complained of; the shell's own complaint of the first line is none.
+    [[nodiscard]] QString queja()
+    {
+        const QStringList lineas = QString::fromUtf8(proceso_.readAllStandardError()).split(u'\n');
+        return lineas.filter(QRegularExpression(u"^rar: "_s)).join(u'\n');
+    }
+
+private:
+    QString archivo_;
+    QProcess proceso_;
+};
 
 class Empaquetado
 {
@@ -50,19 +88,15 @@ public:
         // The quote in front of the command's name makes the line one name that fails; it does no harm.
         texto_ = palabra_shell(u"rm "_s + archivo()) + u'\n';
         empaquetar(carpeta_ + u"/SRTN"_s + nro_ + u".txt"_s);
-        if (!QDir().mkpath(testimonios_))
-            fallar(u"No se pudo crear "_s, testimonios_);
-        if (const QString viejo = vaciar_testimonios(nro_); !viejo.isEmpty())
-            fallar(u"No se pudo borrar "_s, viejo);
+        hacer_carpeta_testimonios(nro_);
+        if (const auto falla = vaciar_testimonios(nro_))
+            throw *falla;
         if (!copiarTestimonios())
             return false;
         escribirLote(texto_ + u'\n');
-        QProcess lotes;
-        lotes.setStandardErrorFile(QProcess::nullDevice());
-        lotes.setStandardOutputFile(QProcess::nullDevice());
-        lotes.start(u"/bin/sh"_s, {lote()});
-        if (QFileInfo::exists(archivo()) && !copiar_archivo(archivo(), carpeta_ + u"/dj.rar"_s))
-            fallar(u"No se pudo copiar "_s, archivo());
+        LoteEnMarcha lotes(lote(), archivo());
+        if (QFileInfo::exists(archivo()))
+            copiar_archivo(archivo(), carpeta_ + u"/dj.rar"_s, Asegurar::si);
         return guardar(pedir, lotes);
     }
 
@@ -94,8 +128,7 @@ private:
             }
             const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.'
                                   + QFileInfo(origen).suffix().toLower();
-            if (!copiar_archivo(origen, copia))
-                fallar(u"No se pudo copiar "_s, origen);
+            copiar_archivo(origen, copia, Asegurar::no);
             empaquetar(copia);
         }
         return true;
@@ -103,30 +136,43 @@ private:
 
     void escribirLote(const QString& texto) const
     {
-        QFile f(lote());
-        const QByteArray bytes = QFile::encodeName(texto);
-        if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size() || !f.flush())
-            fallar(u"No se pudo escribir "_s, lote());
+        ArchivoNuevo f(lote(), Asegurar::no);
+        f.escribir(QFile::encodeName(texto).toStdString());
+        f.ocupar();
     }
 
     // The packer works while the user chooses; the copy waits for its end.
-    bool guardar(const PedirDestino& pedir, QProcess& lotes) const
+    bool guardar(const PedirDestino& pedir, LoteEnMarcha& lotes) const
     {
         const QString nombre = u"SRTN"_s + nro_ + u".rar"_s;
         const QString elegido = pedir(QDir::home().filePath(nombre));
-        lotes.waitForFinished(SIN_LIMITE);
-        if (!elegido.isEmpty() && entero(lotes)
-            && copiar_archivo(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre))
-            return true;
-        dialogo_.avisar({u"Error: Se canceló la emisión de la declaracion jurada"_s, titulo(), Icono::informacion});
+        QString motivo;
+        try {
+            const bool bien = lotes.esperar();
+            if (!elegido.isEmpty() && bien && entero()) {
+                copiar_archivo(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre, Asegurar::si);
+                return true;
+            }
+            motivo = elegido.isEmpty() ? QString() : motivoDelEmpaquetador(lotes);
+        } catch (const ErrorDisco& e) {
+            motivo = e.texto;
+        }
+        dialogo_.avisar(
+            {u"Error: Se canceló la emisión de la declaracion jurada"_s, titulo(), Icono::informacion, motivo});
         return false;
     }
 
-    // The shell only tells how its last line ended: the archive itself says whether it holds all.
-    [[nodiscard]] bool entero(const QProcess& lotes) const
+    [[nodiscard]] QString motivoDelEmpaquetador(LoteEnMarcha& lotes) const
     {
-        if (lotes.exitStatus() != QProcess::NormalExit || lotes.exitCode() != 0)
-            return false;
+        if (!QFileInfo(base_ + u"/rar"_s).isExecutable())
+            return u"No se puede ejecutar "_s + base_ + u"/rar"_s;
+        const QString queja = lotes.queja();
+        return queja.isEmpty() ? u"El archivo %1 no quedó completo."_s.arg(archivo()) : queja;
+    }
+
+    // The shell only tells how its last line ended: the archive itself says whether it holds all.
+    [[nodiscard]] bool entero() const
+    {
         try {
             QStringList nombres;
             for (const EntradaRar& e : listar_rar(QFile::encodeName(archivo()).toStdString()))

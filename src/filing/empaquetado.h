@@ -14,7 +14,7 @@ using PedirDestino = std::function<QString(const QString& propuesto)>;
 /// Copies the testimonios under their export names, has the packer called once for each file by a
 /// generated batch file, and saves the archive in the folder that the user chooses: its name is
 /// not the user's to choose. False after a missing testimonio, a cancel or a missing archive, which
-/// are told. Throws std::runtime_error and ErrorAlmacen on what fails before the user is asked.
+/// are told. Throws ErrorDisco and ErrorAlmacen on what fails before the user is asked.
 [[nodiscard]] bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir);
 
 /// A word of the shell that stands for exactly this text.

@@ -2,29 +2,7 @@
 
 #include "filing/salida_archivo.h"
 
-#include <QDir>
-
-#include <stdexcept>
-
-using namespace Qt::StringLiterals;
-
-bool SalidaArchivo::crear()
-{
-    return archivo_.open(QIODevice::WriteOnly | QIODevice::Truncate);
-}
-
-Piezas& SalidaArchivo::empezarRegistro()
-{
-    inicioArchivo_ = bloque_.archivo.size();
-    inicioCodigo_ = bloque_.codigo.size();
-    return bloque_;
-}
-
-void SalidaArchivo::descartarRegistro()
-{
-    bloque_.archivo.resize(inicioArchivo_);
-    bloque_.codigo.resize(inicioCodigo_);
-}
+#include "core/archivos_disco.h"
 
 void SalidaArchivo::terminarRegistro(bool saltoEnCodigo)
 {
@@ -37,8 +15,7 @@ void SalidaArchivo::terminarRegistro(bool saltoEnCodigo)
 
 void SalidaArchivo::volcar()
 {
-    if (archivo_.write(bloque_.archivo.data(), qint64(bloque_.archivo.size())) != qint64(bloque_.archivo.size()))
-        fallar();
+    archivo_.escribir(bloque_.archivo);
     codigo_.agregar(bloque_.codigo);
     bloque_.limpiar();
 }
@@ -46,15 +23,6 @@ void SalidaArchivo::volcar()
 QString SalidaArchivo::cerrar()
 {
     volcar();
-    if (!archivo_.flush())
-        fallar();
-    archivo_.close();
+    archivo_.cerrar();
     return codigo_.texto();
-}
-
-void SalidaArchivo::fallar() const
-{
-    throw std::runtime_error(u"No se pudo escribir el archivo %1: %2"_s
-                                 .arg(QDir::toNativeSeparators(archivo_.fileName()), archivo_.errorString())
-                                 .toStdString());
 }

@@ -3,7 +3,7 @@
 #include "apoyo/apoyo.h"
 #include "apoyo/ingles.h"
 #include "core/arranque.h"
-#include "core/motivos.h"
+#include "core/motivo_sistema.h"
 
 #include <set>
 
@@ -80,7 +80,7 @@ TEST_F(Almacen, CadaCodigoSeDiceEnEspanol)
     EXPECT_GE(dichos.size(), 12);
     EXPECT_EQ(ErrorAlmacen(1811, "No se puede borrar").descripcion, "No se puede borrar"_u);
     for (const int errno_ : {1, 2, 5, 13, 16, 20, 21, 23, 24, 26, 27, 28, 30, 36, 122, 999})
-        EXPECT_EQ(ingles_en(motivo_del_sistema(errno_)), QString()) << errno_;
+        EXPECT_EQ(ingles_en(QString::fromStdString(motivo_del_sistema(errno_))), QString()) << errno_;
 }
 
 TEST_F(Almacen, FuncionesYOrdenesDeLasSentencias)

@@ -11,6 +11,10 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 namespace {
 
 class Archivo : public ConAlmacen
@@ -23,6 +27,22 @@ protected:
         EXPECT_TRUE(f.open(QIODevice::ReadOnly));
         return f.readAll();
     }
+    // What is told when it can't be done.
+    static QString falla_al_emitir(const QString& dj)
+    {
+        try {
+            return "se emitió "_u + generar_archivo_dj(dj).codigo;
+        } catch (const ErrorAlmacen& e) {
+            return e.descripcion;
+        } catch (const std::exception& e) {
+            return QString::fromUtf8(e.what());
+        }
+    }
+    static QByteArray en_el_disco(const QString& dj)
+    {
+        QFile f(carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no está)");
+    }
     static QByteArray b(int n) { return QByteArray(n, ' '); }
     static QByteArray z(int n) { return QByteArray(n, '0'); }
     static QString md5(const QByteArray& t)
@@ -30,6 +50,29 @@ protected:
         return QString::fromLatin1(QCryptographicHash::hash(t, QCryptographicHash::Md5).toHex()).toUpper();
     }
     EmisionArchivo emision;
+};
+
+// No file of the process may grow beyond so many bytes, as on a disk that is full.
+class LimiteDeArchivo
+{
+public:
+    explicit LimiteDeArchivo(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &antes_);
+        const rlimit limite{bytes, antes_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limite);
+        signal(SIGXFSZ, SIG_IGN);
+    }
+    ~LimiteDeArchivo()
+    {
+        setrlimit(RLIMIT_FSIZE, &antes_);
+        signal(SIGXFSZ, SIG_DFL);
+    }
+    LimiteDeArchivo(const LimiteDeArchivo&) = delete;
+    LimiteDeArchivo& operator=(const LimiteDeArchivo&) = delete;
+
+private:
+    rlimit antes_{};
 };
 
 TEST(ArchivoTablas, AnchosDeLosRegistros)
@@ -240,12 +283,11 @@ struct Falla_
 {
     const char* cambio;
     const char* dice;
-    int lineas;  // records that stand in the file all the same
 };
 class ArchivoFalla : public Archivo, public testing::WithParamInterface<Falla_>
 {
 };
-TEST_P(ArchivoFalla, DiceQueAcortarYDejaElCodigoComoEstaba)
+TEST_P(ArchivoFalla, DiceQueAcortarYDejaArchivoYCodigoComoEstaban)
 {
     const QString dj = nueva_dj();
     nueva_escritura(dj, 1, 77, 1, 1);
@@ -256,35 +298,29 @@ TEST_P(ArchivoFalla, DiceQueAcortarYDejaElCodigoComoEstaba)
     cnRtn.ejecutar(
         "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA) values ('%1', 2, 1, '5')"_u
             .arg(dj));
-    cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_MD5='ANTES'"_u);
+    const QByteArray antes = emitir(dj);
+    const QString codigo = emision.codigo;
     cnRtn.ejecutar(QString::fromUtf8(GetParam().cambio));
-    QString dicho;
-    try {
-        (void)generar_archivo_dj(dj);
-    } catch (const std::exception& e) {
-        dicho = QString::fromUtf8(e.what());
-    }
-    EXPECT_EQ(dicho, QString::fromUtf8(GetParam().dice));
-    EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), "ANTES"_u);
-    QFile f(carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll().count("\r\n"), GetParam().lineas);
+    EXPECT_EQ(falla_al_emitir(dj), QString::fromUtf8(GetParam().dice));
+    EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
+    EXPECT_EQ(en_el_disco(dj), antes);
+    QFile::remove(emision.archivo);
+    EXPECT_EQ(falla_al_emitir(dj), QString::fromUtf8(GetParam().dice));
+    EXPECT_TRUE(QDir(carpeta_dj(dj)).isEmpty());  // nothing of a first emission that fails
 }
 INSTANTIATE_TEST_SUITE_P(
     Casos, ArchivoFalla,
     testing::Values(
         Falla_{
             "update SEL_TB_RTN_INS_INMUEBLES set SEII_UBIC_CALLE='AVENIDA 9 DE JULIO'",
-            "Registro 4 (inmueble), escritura Nº 78\nCampo: SEII_UBIC_CALLE\nTexto: AVENIDA 9 DE JULIO\nLargo: 18, ancho del campo: 10",
-            4},
+            "Registro 4 (inmueble), escritura Nº 78\nCampo: SEII_UBIC_CALLE\nTexto: AVENIDA 9 DE JULIO\nLargo: 18, ancho del campo: 10"},
         Falla_{"update SEL_TB_RTN_INS_PARTES set SPIN_RSOCIAL=null",
-               "Registro 3 (parte), escritura Nº 78\nCampo: SPIN_RSOCIAL\nEl valor falta (es nulo).", 3},
+               "Registro 3 (parte), escritura Nº 78\nCampo: SPIN_RSOCIAL\nEl valor falta (es nulo)."},
         Falla_{
             "update SEL_TB_RTN_CABDJ set SEDJ_DOMICILIO='ññññññññññññññññññññññññññññññññññññññññññññññññññññ'",
-            "Registro 1 (cabecera)\nCampo: SEDJ_DOMICILIO\nTexto: ññññññññññññññññññññññññññññññññññññññññññññññññññññ\nLargo: 52, ancho del campo: 50",
-            0},
+            "Registro 1 (cabecera)\nCampo: SEDJ_DOMICILIO\nTexto: ññññññññññññññññññññññññññññññññññññññññññññññññññññ\nLargo: 52, ancho del campo: 50"},
         Falla_{"update SEL_TB_RTN_DETDJ set SEDD_FOLIO=null where SEDD_ID=2",
-               "Registro 2 (escritura), escritura Nº 78\nCampo: SEDD_FOLIO\nEl valor falta (es nulo).", 2}));
+               "Registro 2 (escritura), escritura Nº 78\nCampo: SEDD_FOLIO\nEl valor falta (es nulo)."}));
 
 TEST_F(Archivo, LoQueNoSePuedeEscribir)
 {
@@ -292,17 +328,37 @@ TEST_F(Archivo, LoQueNoSePuedeEscribir)
     QFile obstaculo(carpeta.path() + "/data"_u);
     ASSERT_TRUE(obstaculo.open(QIODevice::WriteOnly));
     obstaculo.close();
-    EXPECT_EQ(generar_archivo_dj(dj).codigo, QString());  // no folder: no code, no message
+    const EmisionArchivo sin_carpeta = generar_archivo_dj(dj);
+    EXPECT_EQ(sin_carpeta.codigo, QString());
+    EXPECT_EQ(
+        sin_carpeta.motivo,
+        "No se pudo crear %1/data: en el camino hay un archivo donde debe haber una carpeta"_u.arg(carpeta.path()));
     obstaculo.remove();
-    QDir().mkpath(carpeta_dj(dj));
-    ASSERT_TRUE(QFile::link("/dev/full"_u, carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u));
-    try {
-        (void)generar_archivo_dj(dj);
-        FAIL();
-    } catch (const std::exception& e) {
-        EXPECT_TRUE(QString::fromUtf8(e.what()).startsWith("No se pudo escribir el archivo "_u)) << e.what();
+    const QByteArray antes = emitir(dj);
+    const QString codigo = emision.codigo;
+    const auto todo_igual = [&] {
+        EXPECT_EQ(en_el_disco(dj), antes);
+        EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
+        EXPECT_EQ(QDir(carpeta_dj(dj)).entryList(QDir::Files).size(), 1);
+    };
+    cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_TELEFONO='1'"_u);
+    {
+        const LimiteDeArchivo limite(200);
+        EXPECT_EQ(falla_al_emitir(dj),
+                  "No se pudo escribir el archivo %1: el archivo es demasiado grande"_u.arg(emision.archivo));
     }
-    EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), "null"_u);
+    todo_igual();
+    // Somebody reads the store when the code is to be stored: the file has taken its place, and goes again.
+    Conexion otra;
+    otra.abrir(ruta(), clave_almacen());
+    otra.ejecutarGuion("begin; select * from SEL_TB_RTN_CABDJ"_u);
+    EXPECT_EQ(falla_al_emitir(dj), "Otro programa está usando la base de datos. Intente más tarde."_u);
+    otra.deshacerTodo();
+    todo_igual();
+    ASSERT_TRUE(QFile::remove(emision.archivo));
+    ASSERT_TRUE(QDir().mkdir(emision.archivo));
+    EXPECT_EQ(falla_al_emitir(dj), "No se pudo copiar %1: hay una carpeta con ese nombre"_u.arg(emision.archivo));
+    EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
 }
 
 }  // namespace

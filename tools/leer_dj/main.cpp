@@ -4,6 +4,7 @@
 #include "filing/codificacion.h"
 #include "filing/lector_dj.h"
 #include "rar5.h"
+#include "visible.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -14,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -24,14 +26,19 @@ namespace {
 
 constexpr int NO_SE_LEE = 2;
 
+// Deeds, parties, properties and operations are numbered by three digits: 999 deeds with 999 of each are three
+// quarters of this. What is larger is no return, and is not read into memory.
+constexpr qint64 LARGO_MAXIMO = qint64(1) << 30;
+
+// One line; what a file holds must not command the terminal.
 void decir(const QString& texto)
 {
-    std::fputs(qUtf8Printable(texto + u'\n'), stdout);
+    std::puts(visible(texto.toStdString()).c_str());
 }
 
 bool es_de_dj(const QString& nombre)
 {
-    return nombre.startsWith(u"SRTN"_s) && nombre.endsWith(u".txt"_s);
+    return nombre.startsWith(u"SRTN"_s, Qt::CaseInsensitive) && nombre.endsWith(u".txt"_s, Qt::CaseInsensitive);
 }
 
 [[noreturn]] void fallar(const QString& texto)
@@ -39,26 +46,43 @@ bool es_de_dj(const QString& nombre)
     throw std::runtime_error(texto.toStdString());
 }
 
+void exigir_largo(const QString& ruta, quint64 largo)
+{
+    if (largo > quint64(LARGO_MAXIMO))
+        fallar(u"%1: es demasiado grande para ser una declaración jurada (%2 bytes, y el máximo es %3)"_s.arg(
+            ruta, QString::number(largo), QString::number(LARGO_MAXIMO)));
+}
+
+void exigir_una(const QString& ruta, qsizetype cuantas)
+{
+    if (cuantas != 1)
+        fallar(u"%1: debe contener un solo archivo SRTN….txt, y hay %2"_s.arg(ruta, QString::number(cuantas)));
+}
+
 QByteArray de_archivo(const QString& ruta)
 {
     QFile f(ruta);
-    if (!f.open(QIODevice::ReadOnly))
+    if (!QFileInfo(ruta).isFile() || !f.open(QIODevice::ReadOnly))
         fallar(u"No se puede leer "_s + ruta);
+    exigir_largo(ruta, quint64(f.size()));
     return f.readAll();
 }
 
 QByteArray de_rar(const QString& ruta)
 {
     const std::string archivo = QFile::encodeName(ruta).toStdString();
-    for (const EntradaRar& e : listar_rar(archivo)) {
-        if (!es_de_dj(QFileInfo(QString::fromStdString(e.nombre)).fileName()))
-            continue;
-        QByteArray bytes;
-        if (!leer_entrada(archivo, e, [&bytes](const char* p, size_t n) { bytes.append(p, qsizetype(n)); }))
-            fallar(ruta + u": "_s + QString::fromStdString(e.nombre) + u" está dañado"_s);
-        return bytes;
-    }
-    fallar(ruta + u": no contiene un archivo SRTN….txt"_s);
+    std::vector<EntradaRar> devueltas;
+    for (const EntradaRar& e : listar_rar(archivo))
+        if (es_de_dj(QFileInfo(QString::fromStdString(e.nombre)).fileName()))
+            devueltas.push_back(e);
+    exigir_una(ruta, qsizetype(devueltas.size()));
+    const EntradaRar& e = devueltas.front();
+    const QString nombre = ruta + u": "_s + QString::fromStdString(e.nombre);
+    exigir_largo(nombre, std::max(e.largo, e.almacenado));
+    QByteArray bytes;
+    if (!leer_entrada(archivo, e, [&bytes](const char* p, size_t n) { bytes.append(p, qsizetype(n)); }))
+        fallar(nombre + u" está dañado"_s);
+    return bytes;
 }
 
 QByteArray leer_entrada_de(const QString& ruta)
@@ -66,8 +90,7 @@ QByteArray leer_entrada_de(const QString& ruta)
     const QFileInfo info(ruta);
     if (info.isDir()) {
         const QStringList nombres = QDir(ruta).entryList({u"SRTN*.txt"_s}, QDir::Files);
-        if (nombres.size() != 1)
-            fallar(ruta + u": debe contener un solo archivo SRTN….txt, y hay %1"_s.arg(nombres.size()));
+        exigir_una(ruta, nombres.size());
         return de_archivo(QDir(ruta).filePath(nombres.constFirst()));
     }
     return ruta.endsWith(u".rar"_s, Qt::CaseInsensitive) ? de_rar(ruta) : de_archivo(ruta);
@@ -181,12 +204,15 @@ int main(int argc, char** argv)
         if (codigo.remove(u' '); !codigo.isEmpty() && codigo != l.codigo)
             l.fallas.push_back({0, 0, {}, codigo, u"el código del papel no es el del archivo ("_s + l.codigo + u')'});
         if (json)
-            std::fputs(QJsonDocument(resumen_json(l, registros_json)).toJson().constData(), stdout);
+            std::fputs(visible_json(QJsonDocument(resumen_json(l, registros_json)).toJson().toStdString()).c_str(),
+                       stdout);
         else
             resumir(ruta, l);
+        if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
+            fallar(u"no se pudo escribir la salida"_s);
         return l.fallas.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::exception& e) {
-        std::fprintf(stderr, "leer_dj: %s\n", e.what());
+        std::fprintf(stderr, "leer_dj: %s\n", visible(e.what()).c_str());
         return NO_SE_LEE;
     }
 }

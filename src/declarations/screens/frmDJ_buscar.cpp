@@ -163,9 +163,12 @@ void frmDJ_buscar::emitir()
         return;
     const EmisionArchivo emision = generar_archivo_dj(nro);
     if (emision.codigo.isEmpty()) {
-        avisar(u"No se puede emitir la DJ impresa sin generar el archivo previamente \n"
-               u"debido a que se genera un código de verificación de la integridad entre el diskete y la DJ impresa"_s,
-               {}, Icono::ninguno);
+        dialogo.avisar(
+            {u"No se puede emitir la DJ impresa sin generar el archivo previamente \n"
+             u"debido a que se genera un código de verificación de la integridad entre el diskete y la DJ impresa"_s,
+             {},
+             Icono::ninguno,
+             emision.motivo});
         return;
     }
     const auto pedir = [this](const QString& propuesto) {

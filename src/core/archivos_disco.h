@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Files that the program makes: for the user alone, whatever the umask, and whole or not at all.
+#pragma once
+
+#include "core/motivos.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <string_view>
+
+/// What the system refused; the text tells what was tried, with which file, and why, in Spanish.
+class ErrorDisco : public ErrorTarea
+{
+public:
+    /// `numero` is a value of errno.
+    ErrorDisco(const QString& que, const QString& archivo, int numero);
+};
+
+/// Whether a file is on the disk, with its entry in the folder, before the call ends. A working copy need not be.
+enum class Asegurar { no, si };
+
+/// A file that is written aside, as NAME.nuevo, with mode 0600, and takes its place when it is whole. What fails
+/// throws ErrorDisco and leaves what stands there as it is; what has not taken its place goes with the object.
+class ArchivoNuevo
+{
+public:
+    /// Makes the file aside; one that a killed program left there goes.
+    explicit ArchivoNuevo(const QString& destino, Asegurar asegurar = Asegurar::si);
+    ~ArchivoNuevo();
+    ArchivoNuevo(const ArchivoNuevo&) = delete;
+    ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
+
+    void escribir(std::string_view bytes);
+    /// Nothing more is written; what was written is on the disk when that is asked for.
+    void cerrar();
+    /// Closes, and takes the place of what stands there.
+    void ocupar();
+    [[nodiscard]] const QString& aparte() const { return aparte_; }
+
+private:
+    QString destino_;
+    QString aparte_;
+    Asegurar asegurar_;
+    int fd_ = -1;
+};
+
+/// The step of a replacement that can be undone: the new file takes its place at once, and goes again, the
+/// earlier one coming back, unless it is confirmed.
+class Sustitucion
+{
+public:
+    /// Throws ErrorDisco, with everything as it was.
+    Sustitucion(const QString& nuevo, const QString& destino);
+    ~Sustitucion();
+    Sustitucion(const Sustitucion&) = delete;
+    Sustitucion& operator=(const Sustitucion&) = delete;
+    void confirmar();
+
+private:
+    void deshacer();
+
+    QString nuevo_;
+    QString destino_;
+    QString anterior_;  // empty when none stood there
+    bool pendiente_ = false;
+};
+
+/// Copies aside and renames. Throws ErrorDisco when the source can't be read or the copy can't be written.
+void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar);
+
+/// Deletes a file, a write-protected one too. Throws ErrorDisco, also when there is none.
+void borrar_archivo(const QString& archivo);
+
+/// Makes a folder with mode 0700, or narrows the one that stands there, where its owner lets it be narrowed. Its
+/// parent must exist. Throws ErrorDisco.
+void carpeta_privada(const QString& carpeta);
+
+/// Brings the entries of a folder to the disk, where its file system can. Throws ErrorDisco.
+void asegurar_carpeta(const QString& carpeta);
