@@ -44,7 +44,7 @@ int Comando::ejecutar()
     const int rc = sqlite3_step(sentencia_);
     siguiente_ = 1;
     if (rc != SQLITE_DONE && rc != SQLITE_ROW) {
-        const ErrorAlmacen error(sqlite3_extended_errcode(cn_.base_), QString::fromUtf8(sqlite3_errmsg(cn_.base_)));
+        const ErrorAlmacen error = cn_.falla();
         sqlite3_reset(sentencia_);
         throw error;
     }

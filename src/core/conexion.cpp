@@ -112,7 +112,7 @@ Conexion::~Conexion()
     cerrar();
 }
 
-void Conexion::fallar() const
+ErrorAlmacen Conexion::falla() const
 {
     ErrorAlmacen error(sqlite3_extended_errcode(base_), sqlite3_errmsg(base_));
     // While the store stands, what could not be opened is the journal beside it.
@@ -121,7 +121,12 @@ void Conexion::fallar() const
         error.perdido_ = false;
         error.descripcion = u"No se pudo escribir junto a la base de datos: falta lugar o permiso."_s;
     }
-    throw error;
+    return error;
+}
+
+void Conexion::fallar() const
+{
+    throw falla();
 }
 
 void Conexion::conectar(const QString& ruta, const QString& clave, int modo)

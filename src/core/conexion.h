@@ -81,6 +81,7 @@ private:
     sqlite3_stmt* prestar(const QString& sql);
     void devolver(const QString& sql, sqlite3_stmt* sentencia);
     void sentenciaSimple(const char* sql);
+    [[nodiscard]] ErrorAlmacen falla() const;
     [[noreturn]] void fallar() const;
 
     sqlite3* base_ = nullptr;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One emission on a disk that fails at each of its calls in turn.
 
-#include "apoyo/apoyo.h"
+#include "apoyo/disco.h"
 #include "filing/lector_dj.h"
 #include "rar5.h"
 
@@ -61,29 +61,15 @@ protected:
     // The n-th call fails; gives the status of the emission, and takes down what was said.
     int emitir(int n, const char* error = "ENOSPC")
     {
-        const QString cuenta = carpeta.path() + "/cuenta"_u;
-        QFile::remove(cuenta);
-        QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
-        entorno.insert("LD_PRELOAD"_u, QStringLiteral(RTN_DISCO_LLENO));
-        entorno.insert("RTN_FALLA_CARPETA"_u, disco());
-        entorno.insert("RTN_FALLA_CUENTA"_u, cuenta);
-        entorno.insert("RTN_FALLA_ERROR"_u, QString::fromLatin1(error));
-        entorno.insert("RTN_FALLA_N"_u, QString::number(n));
-        // A sanitizer wants to be the first of what is loaded.
-        entorno.insert("ASAN_OPTIONS"_u, entorno.value("ASAN_OPTIONS"_u) + ":verify_asan_link_order=0"_u);
+        const DiscoQueFalla falla{disco(), carpeta.path() + "/cuenta"_u};
         QProcess p;
-        p.setProcessEnvironment(entorno);
+        p.setProcessEnvironment(falla.entorno(n, error));
         p.setProcessChannelMode(QProcess::MergedChannels);
         p.start(QStringLiteral(RTN_EMITIR), {disco() + "/programa"_u, dj, disco() + "/destino"_u});
         if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit)
             return -1;
         dicho = QString::fromUtf8(p.readAll());
-        const QByteArray numeros = leer(cuenta);
-        if (numeros.size() != 16)
-            return -1;
-        quint64 fallas = 0;
-        std::memcpy(&fallas, numeros.constData() + 8, sizeof fallas);
-        fallo = fallas == 1;
+        fallo = falla.contadas().second == 1;
         return p.exitCode();
     }
     // Whether file and code are the new pair; an error when they are neither that nor the earlier one.

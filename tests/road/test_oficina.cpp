@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What an office confirmed is in its store, whatever happens to the program. MATANZAS sets how often it is killed:
 //   MATANZAS=2000 build/dev/programa/pruebas --gtest_filter='Oficina.Matada*'
+//   FALLAS=0 build/dev/programa/pruebas --gtest_filter='Oficina.ConUnDisco*'
 
-#include "apoyo/apoyo.h"
+#include "apoyo/disco.h"
 #include "apoyo/ingles.h"
 
 #include <QDir>
@@ -78,6 +79,16 @@ protected:
         ASSERT_TRUE(QDir(carpeta.path()).mkdir("salida"_u));
         ASSERT_TRUE(QFile::copy(ruta(), ruta() + ".primera"_u));
     }
+    // The office at work for some rounds; whether it came to the end of them.
+    bool trabajar(const QProcessEnvironment& entorno)
+    {
+        QProcess p;
+        p.setProcessEnvironment(entorno);
+        p.start(QStringLiteral(RTN_OFICINA), {carpeta.path(), "4"_u});
+        EXPECT_TRUE(p.waitForFinished(120000));
+        anotar(p.readAllStandardOutput());
+        return p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0 && dichos_["fin"_u] == 1;
+    }
     // Takes in what the program told; what stands behind the last line end was not told whole.
     void anotar(const QByteArray& dicho)
     {
@@ -117,7 +128,11 @@ protected:
     // The store as it was before the first deed.
     void deNuevo()
     {
+        for (const char* resto : {"data", "respaldos", "salida"})
+            QDir(carpeta.filePath(QLatin1StringView(resto))).removeRecursively();
+        QDir(carpeta.path()).mkdir("salida"_u);
         QFile::remove(ruta());
+        QFile::remove(ruta() + "-journal"_u);
         ASSERT_TRUE(QFile::copy(ruta() + ".primera"_u, ruta()));
         pasos_.clear();
         dichos_.clear();
@@ -146,6 +161,28 @@ TEST_F(Oficina, MatadaEnCualquierMomentoConservaLoConfirmado)
         comprobar();
     }
     EXPECT_GT(confirmados, 20);
+}
+
+// Each call fails once; FALLAS is how many of them are tried for each error, 0 for all.
+TEST_F(Oficina, ConUnDiscoQueFallaSigueYConservaLoConfirmado)
+{
+    const QString raiz = QFileInfo(carpeta.path()).canonicalFilePath();
+    const QTemporaryDir fuera;
+    const DiscoQueFalla disco{raiz, fuera.filePath("cuenta"_u)};
+    deNuevo();
+    ASSERT_TRUE(trabajar(disco.entorno(0, "EIO")));
+    const int llamadas = int(disco.contadas().first);
+    ASSERT_GT(llamadas, 200);
+    const int cuantas = entorno("FALLAS", 8);
+    QRandomGenerator azar(20261124);
+    for (const char* error : {"ENOSPC", "EIO"})
+        for (int i = 1; i <= (cuantas == 0 ? llamadas : cuantas) && !HasFailure(); ++i) {
+            deNuevo();
+            const int n = cuantas == 0 ? i : 1 + int(azar.bounded(llamadas));
+            SCOPED_TRACE(error + (" en la llamada " + std::to_string(n)));
+            EXPECT_TRUE(trabajar(disco.entorno(n, error)));
+            comprobar();
+        }
 }
 
 }  // namespace
