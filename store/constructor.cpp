@@ -3,6 +3,8 @@
 #include "constructor.h"
 
 #include "core/almacen.h"
+#include "core/archivos.h"
+#include "core/candado.h"
 #include "csv.h"
 #include "tramos.h"
 
@@ -10,8 +12,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -179,9 +179,14 @@ void llenar(Conexion& cn, const Construccion& c)
 
 void construir_almacen(const Construccion& c)
 {
+    // A store that a program has open is not replaced under its hands.
+    Candado candado;
+    candado.tomar(c.destino);
     const QString nuevo = c.destino + u".nuevo"_s;
-    QFile::remove(nuevo);
     try {
+        QFile vacio(nuevo);
+        abrir_privado(vacio);
+        vacio.close();
         Conexion cn;
         crear_conexion_nueva(cn, nuevo, c.clave);
         llenar(cn, c);
@@ -189,6 +194,5 @@ void construir_almacen(const Construccion& c)
         QFile::remove(nuevo);
         throw;
     }
-    if (std::rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(c.destino).constData()) != 0)
-        fallar(u"No se puede escribir "_s + c.destino);
+    poner_en_lugar(nuevo, c.destino);
 }

@@ -94,7 +94,6 @@ void MDIPrincipal::closeEvent(QCloseEvent* evento)
     while (!formularios.isEmpty())
         if (!formularios.takeLast()->cerrar())
             return;
-    cnRtn.cerrar();
-    cnTmp.cerrar();
+    cerrar_base();
     evento->accept();
 }

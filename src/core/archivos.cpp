@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "core/archivos.h"
+
+#include "core/conexion.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr mode_t SOLO_DUENO = 0600;
+constexpr mode_t CARPETA_DE_DUENO = 0700;
+
+QString motivo_del_sistema(int error)
+{
+    switch (error) {
+    case ENOSPC:
+    case EDQUOT: return u"el disco está lleno"_s;
+    case EACCES:
+    case EPERM: return u"no hay permiso"_s;
+    case EROFS: return u"el disco es de solo lectura"_s;
+    case ENOENT: return u"no existe"_s;
+    case EISDIR: return u"es una carpeta"_s;
+    case ENOTDIR:
+    case EEXIST: return u"hay un archivo en su lugar"_s;
+    default: return u"error %1 del sistema (%2)"_s.arg(error).arg(QString::fromLocal8Bit(std::strerror(error)));
+    }
+}
+
+}  // namespace
+
+void fallar_archivo(const QString& que, const QString& ruta)
+{
+    const int error = errno;
+    throw ErrorAlmacen(error == ENOSPC ? SQLITE_FULL : SQLITE_IOERR,
+                       u"%1 %2: %3."_s.arg(que, ruta, motivo_del_sistema(error)));
+}
+
+void abrir_privado(QFile& archivo)
+{
+    const QByteArray ruta = QFile::encodeName(archivo.fileName());
+    const int fd = ::open(ruta.constData(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, SOLO_DUENO);
+    if (fd < 0)
+        fallar_archivo(u"No se pudo crear"_s, archivo.fileName());
+    const bool bien = ::fchmod(fd, SOLO_DUENO) == 0
+                      && archivo.open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle);
+    if (!bien) {
+        ::close(fd);
+        fallar_archivo(u"No se pudo crear"_s, archivo.fileName());
+    }
+}
+
+void escribir_todo(QFile& archivo, const char* bytes, qint64 cuantos)
+{
+    while (cuantos > 0) {
+        const ssize_t escritos = ::write(archivo.handle(), bytes, size_t(cuantos));
+        if (escritos < 0 && errno == EINTR)
+            continue;
+        if (escritos <= 0)
+            fallar_archivo(u"No se pudo escribir"_s, archivo.fileName());
+        bytes += escritos;
+        cuantos -= escritos;
+    }
+}
+
+void asentar(QFile& archivo)
+{
+    if (::fsync(archivo.handle()) != 0)
+        fallar_archivo(u"No se pudo escribir"_s, archivo.fileName());
+}
+
+void asentar_carpeta(const QString& archivo)
+{
+    const int fd = ::open(QFile::encodeName(QFileInfo(archivo).absolutePath()).constData(),
+                          O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    (void)::fsync(fd);
+    ::close(fd);
+}
+
+void poner_en_lugar(const QString& nuevo, const QString& lugar)
+{
+    if (std::rename(QFile::encodeName(nuevo).constData(), QFile::encodeName(lugar).constData()) != 0)
+        fallar_archivo(u"No se pudo escribir"_s, lugar);
+    asentar_carpeta(lugar);
+}
+
+void escribir_privado(const QString& ruta, const QByteArray& bytes)
+{
+    QFile nuevo(ruta + u".nuevo"_s);
+    abrir_privado(nuevo);
+    escribir_todo(nuevo, bytes.constData(), bytes.size());
+    asentar(nuevo);
+    nuevo.close();
+    poner_en_lugar(nuevo.fileName(), ruta);
+}
+
+void crear_carpeta_privada(const QString& carpeta)
+{
+    const QByteArray ruta = QFile::encodeName(carpeta);
+    if (::mkdir(ruta.constData(), CARPETA_DE_DUENO) == 0)
+        asentar_carpeta(carpeta);
+    else if (errno != EEXIST || !QFileInfo(carpeta).isDir())
+        fallar_archivo(u"No se pudo crear"_s, carpeta);
+    // The umask may have taken from a new folder; one that somebody else owns keeps its mode.
+    (void)::chmod(ruta.constData(), CARPETA_DE_DUENO);
+}
