@@ -184,9 +184,7 @@ void construir_almacen(const Construccion& c)
     candado.tomar(c.destino);
     const QString nuevo = c.destino + u".nuevo"_s;
     try {
-        QFile vacio(nuevo);
-        abrir_privado(vacio);
-        vacio.close();
+        const ArchivoPrivado vacio(nuevo);
         Conexion cn;
         crear_conexion_nueva(cn, nuevo, c.clave);
         llenar(cn, c);

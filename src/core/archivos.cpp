@@ -6,8 +6,10 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -40,6 +42,13 @@ QString motivo_del_sistema(int error)
 
 }  // namespace
 
+QString ruta_real(const QString& archivo)
+{
+    const QFileInfo info(archivo);
+    const QString real = info.canonicalFilePath();
+    return real.isEmpty() ? QFileInfo(info.absolutePath()).canonicalFilePath() + u'/' + info.fileName() : real;
+}
+
 void fallar_archivo(const QString& que, const QString& ruta)
 {
     const int error = errno;
@@ -47,37 +56,34 @@ void fallar_archivo(const QString& que, const QString& ruta)
                        u"%1 %2: %3."_s.arg(que, ruta, motivo_del_sistema(error)));
 }
 
-void abrir_privado(QFile& archivo)
+ArchivoPrivado::ArchivoPrivado(const QString& ruta)
+    : ruta_(ruta),
+      archivo_(::open(QFile::encodeName(ruta).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, SOLO_DUENO))
 {
-    const QByteArray ruta = QFile::encodeName(archivo.fileName());
-    const int fd = ::open(ruta.constData(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, SOLO_DUENO);
-    if (fd < 0)
-        fallar_archivo(u"No se pudo crear"_s, archivo.fileName());
-    const bool bien = ::fchmod(fd, SOLO_DUENO) == 0
-                      && archivo.open(fd, QIODevice::ReadWrite | QIODevice::Unbuffered, QFile::AutoCloseHandle);
-    if (!bien) {
-        ::close(fd);
-        fallar_archivo(u"No se pudo crear"_s, archivo.fileName());
+    if (archivo_ < 0 || ::fchmod(archivo_, SOLO_DUENO) != 0)
+        fallar_archivo(u"No se pudo crear"_s, ruta);
+}
+
+ArchivoPrivado::~ArchivoPrivado()
+{
+    if (archivo_ >= 0)
+        ::close(archivo_);
+}
+
+void ArchivoPrivado::escribir(const QByteArray& bytes)
+{
+    for (qsizetype hechos = 0; hechos < bytes.size();) {
+        const ssize_t n = ::write(archivo_, bytes.constData() + hechos, size_t(bytes.size() - hechos));
+        if (n < 0 && errno != EINTR)
+            fallar_archivo(u"No se pudo escribir"_s, ruta_);
+        hechos += std::max<ssize_t>(n, 0);
     }
 }
 
-void escribir_todo(QFile& archivo, const char* bytes, qint64 cuantos)
+void ArchivoPrivado::asentar()
 {
-    while (cuantos > 0) {
-        const ssize_t escritos = ::write(archivo.handle(), bytes, size_t(cuantos));
-        if (escritos < 0 && errno == EINTR)
-            continue;
-        if (escritos <= 0)
-            fallar_archivo(u"No se pudo escribir"_s, archivo.fileName());
-        bytes += escritos;
-        cuantos -= escritos;
-    }
-}
-
-void asentar(QFile& archivo)
-{
-    if (::fsync(archivo.handle()) != 0)
-        fallar_archivo(u"No se pudo escribir"_s, archivo.fileName());
+    if (::fsync(archivo_) != 0)
+        fallar_archivo(u"No se pudo escribir"_s, ruta_);
 }
 
 void asentar_carpeta(const QString& archivo)
@@ -99,12 +105,11 @@ void poner_en_lugar(const QString& nuevo, const QString& lugar)
 
 void escribir_privado(const QString& ruta, const QByteArray& bytes)
 {
-    QFile nuevo(ruta + u".nuevo"_s);
-    abrir_privado(nuevo);
-    escribir_todo(nuevo, bytes.constData(), bytes.size());
-    asentar(nuevo);
-    nuevo.close();
-    poner_en_lugar(nuevo.fileName(), ruta);
+    const QString nuevo = ruta + u".nuevo"_s;
+    ArchivoPrivado archivo(nuevo);
+    archivo.escribir(bytes);
+    archivo.asentar();
+    poner_en_lugar(nuevo, ruta);
 }
 
 void crear_carpeta_privada(const QString& carpeta)

@@ -2,6 +2,7 @@
 
 #include "core/arranque.h"
 
+#include "core/cuidado.h"
 #include "core/modGlobales.h"
 #include "core/numero.h"
 
@@ -75,10 +76,13 @@ bool abrir_base(Dialogo& dialogo)
         return true;
     } catch (const ErrorAlmacen& e) {
         // The text names another file than the one that is read; it is kept so on purpose.
+        const UltimoSano sano = e.perdido() && QFileInfo(ruta_abierta()).isFile()
+                                    ? ultimo_respaldo_sano(ruta_abierta(), dialogo)
+                                    : UltimoSano{};
         dialogo.avisar({u"Error. No se puede obtener la ruta de acceso a la base de datos "
                         u"(ventanilla.cfg). Comuniquese con el administrador del sistema"_s,
                         u"Error de acceso al sistema"_s, Icono::informacion,
-                        (e.descripcion + u'\n' + e.motor).trimmed()});
+                        QStringList{e.descripcion, e.motor, sano.frase, sano.receta}.join(u'\n').trimmed()});
         return false;
     }
 }

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QSysInfo>
 
@@ -49,13 +50,9 @@ QString ocupante(const QString& ruta)
 
 }  // namespace
 
-// The store itself may be missing: its folder tells.
 QString Candado::ruta_de(const QString& almacen)
 {
-    const QFileInfo info(almacen);
-    const QString real = info.canonicalFilePath();
-    return (real.isEmpty() ? QFileInfo(info.absolutePath()).canonicalFilePath() + u'/' + info.fileName() : real)
-           + u".lock"_s;
+    return ruta_real(almacen) + u".lock"_s;
 }
 
 bool Candado::sigueAhi() const
