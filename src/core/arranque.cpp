@@ -65,11 +65,16 @@ QString ruta_abierta()
     return QDir(carpeta_programa()).absoluteFilePath(RutaBaseDatos);
 }
 
+void leer_configuracion()
+{
+    if (!leer_ruta(carpeta_programa() + u"/vedra_rtn.cfg"_s, RutaBaseDatos) || RutaBaseDatos.isEmpty())
+        throw ErrorAlmacen(0, u"No se puede leer la ruta de la base de datos en vedra_rtn.cfg."_s);
+}
+
 bool abrir_base(Dialogo& dialogo)
 {
     try {
-        if (!leer_ruta(carpeta_programa() + u"/vedra_rtn.cfg"_s, RutaBaseDatos) || RutaBaseDatos.isEmpty())
-            throw ErrorAlmacen(0, u"No se puede leer vedra_rtn.cfg."_s);
+        leer_configuracion();
         CadenaConexion = componer_cadena(RutaBaseDatos);
         if (!cnRtn.abierta())
             abrir_sola(ruta_abierta());

@@ -4,7 +4,10 @@
 
 #include "core/dialogo.h"
 
-/// Reads the path of the store from `vedra_rtn.cfg`, takes the store's lock and opens it. False after a failure,
+/// Reads the path of the store from `vedra_rtn.cfg` beside the program into `RutaBaseDatos`. Throws ErrorAlmacen.
+void leer_configuracion();
+
+/// Reads the configuration, takes the store's lock and opens it. False after a failure,
 /// which has been told (who has the store open, or the reason, as details) and ends the program. A relative path stands
 /// below the program's folder.
 [[nodiscard]] bool abrir_base(Dialogo& dialogo);

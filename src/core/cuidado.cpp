@@ -68,7 +68,9 @@ std::optional<Revision> respaldar_hoy(Dialogo& dialogo, bool& fallo)
                              progreso_de(dialogo, u"Se hace el respaldo del día y se lo revisa…"_s));
     } catch (const ErrorAlmacen& e) {
         fallo = true;
-        avisar_sin_respaldo(dialogo, lineas_de(e));
+        // A store that can't be read is found so by its check.
+        if (!e.perdido())
+            avisar_sin_respaldo(dialogo, lineas_de(e));
     }
     return {};
 }

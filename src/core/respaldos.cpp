@@ -19,6 +19,7 @@ namespace {
 constexpr int DIAS = 10;
 constexpr int MESES = 24;
 constexpr int PREVIOS = 3;
+constexpr qint64 UN_MINUTO = 60;
 constexpr qsizetype LARGO_DIA = 10;
 constexpr qsizetype LARGO_MES = 7;
 // More than any page of the format: the first page is written anew, under a new random vector, by each transaction.
@@ -171,11 +172,20 @@ QString marca_del_dia(const QDate& dia)
 
 QString marca_previa(const QString& almacen, QDateTime momento)
 {
-    const QList<Respaldo> lista = listar_respaldos(almacen);
-    const auto marca = [&] { return momento.toString(u"yyyy-MM-dd-HHmmss"_s); };
-    while (existe_marca(lista, marca()))
+    const QString forma = u"yyyy-MM-dd-HHmmss"_s;
+    QStringList previas;
+    for (const Respaldo& r : listar_respaldos(almacen))
+        if (es_previo(r.marca))
+            previas << r.marca;
+    // Several of one second are told apart, each later than the one before.
+    if (!previas.isEmpty()) {
+        const QDateTime ultima = QDateTime::fromString(previas.constLast(), forma);
+        if (momento.msecsTo(ultima) > -1000 && momento.secsTo(ultima) < UN_MINUTO)
+            momento = ultima.addSecs(1);
+    }
+    while (previas.contains(momento.toString(forma)))
         momento = momento.addSecs(1);
-    return marca();
+    return momento.toString(forma);
 }
 
 QDate ultima_revision(const QString& almacen)
