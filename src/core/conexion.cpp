@@ -2,11 +2,10 @@
 
 #include "core/conexion.h"
 
+#include "core/archivos.h"
 #include "core/funciones_sql.h"
 
 #include <sqlcipher/sqlite3.h>
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -183,7 +182,7 @@ sqlite3_file* Conexion::archivo() const
 
 QString Conexion::ruta() const
 {
-    return base_ ? QFileInfo(QString::fromUtf8(sqlite3_db_filename(base_, "main"))).canonicalFilePath() : QString();
+    return base_ ? ruta_real(QString::fromUtf8(sqlite3_db_filename(base_, "main"))) : QString();
 }
 
 void crear_conexion_nueva(Conexion& cn, const QString& ruta, const QString& clave)

@@ -60,7 +60,8 @@ void dar_otro_nombre(const QString& de, const QString& a)
     poner_en_lugar(nuevo, a);
 }
 
-// One that was cut short may have left the store under a second name.
+// One that was cut short may have left the store under a second name. Where a journal stands beside that name the two
+// are the whole store, and stay.
 void quitar_otros_nombres(const QString& almacen)
 {
     struct stat propio = {};
@@ -70,7 +71,7 @@ void quitar_otros_nombres(const QString& almacen)
     for (const QFileInfo& info : carpeta.entryInfoList({prefijo_de(almacen) + u"*.db"_s}, QDir::Files)) {
         struct stat otro = {};
         if (::stat(QFile::encodeName(info.absoluteFilePath()).constData(), &otro) == 0 && otro.st_ino == propio.st_ino
-            && otro.st_dev == propio.st_dev)
+            && otro.st_dev == propio.st_dev && !QFile::exists(diario_de(info.absoluteFilePath())))
             QFile::remove(info.absoluteFilePath());
     }
 }

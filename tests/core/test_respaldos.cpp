@@ -8,8 +8,13 @@
 #include "core/respaldos.h"
 #include "declarations/screens/frmDJ_buscar.h"
 #include "manejo/manejo.h"
+#include "widgets/mensajes.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTest>
 
 namespace {
 
@@ -179,6 +184,26 @@ TEST_F(Respaldos, UnaBaseDaniadaTerminaSinTocarlaYNombraElUltimoSano)
     EXPECT_EQ(QDir(carpeta.path()).entryList(QDir::Files), QStringList("vedra_rtn.db"_u));
     EXPECT_EQ(copias(), "05 06"_u);
     EXPECT_FALSE(QFile::exists(carpeta.path() + "/respaldos/vedra_rtn.nuevo"_u));
+}
+
+TEST_F(Respaldos, LoQueTardaMuestraUnaVentanaConSuAvance)
+{
+    const auto ventana = [] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->objectName() == u"progreso" && w->isVisible())
+                return w;
+        return static_cast<QWidget*>(nullptr);
+    };
+    DialogoPantalla dialogo(principal.get());
+    dialogo.progresar("Se revisa la base de datos…"_u, 1, 10);
+    EXPECT_EQ(ventana(), nullptr);
+    QTest::qSleep(600);
+    dialogo.progresar("Se revisa la base de datos…"_u, 5, 10);
+    ASSERT_NE(ventana(), nullptr);
+    EXPECT_EQ(ventana()->findChild<QLabel*>()->text(), "Se revisa la base de datos…"_u);
+    EXPECT_EQ(ventana()->findChild<QProgressBar*>()->value() * 2, ventana()->findChild<QProgressBar*>()->maximum());
+    Cajas::durante({{"Listo"_u}}, [&] { dialogo.avisar({"Listo"_u, {}}); });
+    EXPECT_EQ(ventana(), nullptr);
 }
 
 // The window with the bar is told of the work from its beginning to its end.

@@ -164,7 +164,7 @@ TEST_F(Restaurar, MatadoEnCualquierMomentoQuedaLaViejaOLaNueva)
         ASSERT_FALSE(vieja.isEmpty());
         p.start(carpeta.path() + "/respaldo"_u, {"restaurar"_u, "2026-01-05"_u, "--si"_u});
         ASSERT_TRUE(p.waitForStarted());
-        QTest::qSleep(azar.bounded(duracion * 5 / 4));
+        QTest::qSleep(azar.bounded(2 * duracion));
         p.kill();
         ASSERT_TRUE(p.waitForFinished());
         cnRtn.abrir(ruta(), clave_almacen());
