@@ -84,7 +84,7 @@ void arranque(benchmark::State& estado)
         QApplication::processEvents();
     };
     medir(
-        estado, 1.3,
+        estado, 1.15,
         [&] {
             MDIPrincipal principal;
             if (!principal.iniciar())

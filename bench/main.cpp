@@ -67,6 +67,7 @@ int main(int argc, char** argv)
     registrar_pantallas();
     registrar_impresion();
     registrar_catalogo();
+    registrar_respaldo();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

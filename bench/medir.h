@@ -20,3 +20,4 @@ void registrar_logica();
 void registrar_pantallas();
 void registrar_impresion();
 void registrar_catalogo();
+void registrar_respaldo();

@@ -4,6 +4,7 @@
 
 #include "core/almacen.h"
 #include "core/archivos_disco.h"
+#include "core/candado.h"
 #include "csv.h"
 #include "tramos.h"
 
@@ -178,6 +179,9 @@ void llenar(Conexion& cn, const Construccion& c)
 
 void construir_almacen(const Construccion& c)
 {
+    // A store that a program has open is not replaced under its hands.
+    Candado candado;
+    candado.tomar(c.destino);
     // The engine takes the empty file for a new store, and gives its journal the file's mode.
     ArchivoNuevo nuevo(c.destino);
     nuevo.cerrar();

@@ -3,6 +3,7 @@
 #include "application/aplicacion.h"
 
 #include "application/traduccion.h"
+#include "core/arranque.h"
 #include "core/modGlobales.h"
 #include "widgets/barra.h"
 #include "widgets/guardia.h"
@@ -55,8 +56,7 @@ void Aplicacion::terminar(const QString& error, const QString& detalles)
         cnRtn.deshacerTodo();
         std::fprintf(stderr, "%s %s\n", qUtf8Printable(error), qUtf8Printable(detalles));
         DialogoPantalla(nullptr).avisar({error, u"VEDRA-RTN"_s, Icono::critico, detalles});
-        cnRtn.cerrar();
-        cnTmp.cerrar();
+        cerrar_base();
     }
     std::_Exit(EXIT_FAILURE);
 }

@@ -84,9 +84,14 @@ ErrorDisco::ErrorDisco(const QString& que, const QString& archivo, int numero)
 {
 }
 
-// A stick may keep no modes: that one can't be set is no failure.
 ArchivoNuevo::ArchivoNuevo(const QString& destino, Asegurar asegurar)
-    : destino_(destino), aparte_(destino + u".nuevo"_s), asegurar_(asegurar)
+    : ArchivoNuevo(destino, asegurar, destino + u".nuevo"_s)
+{
+}
+
+// A stick may keep no modes: that one can't be set is no failure.
+ArchivoNuevo::ArchivoNuevo(const QString& destino, Asegurar asegurar, const QString& aparte)
+    : destino_(destino), aparte_(aparte), asegurar_(asegurar)
 {
     const QByteArray ruta = nombre(aparte_);
     unlink(ruta.constData());
@@ -186,6 +191,19 @@ void Sustitucion::deshacer()
     } catch (const ErrorDisco&) {
         // What failed first is told.
     }
+}
+
+void poner_en_lugar(const QString& nuevo, const QString& lugar)
+{
+    renombrar(nuevo, lugar);
+    asegurar_carpeta(carpeta_de(lugar));
+}
+
+QString ruta_real(const QString& archivo)
+{
+    const QFileInfo info(archivo);
+    const QString real = info.canonicalFilePath();
+    return real.isEmpty() ? QFileInfo(info.absolutePath()).canonicalFilePath() + u'/' + info.fileName() : real;
 }
 
 void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar)

@@ -27,6 +27,8 @@ class ArchivoNuevo
 public:
     /// Makes the file aside; one that a killed program left there goes.
     explicit ArchivoNuevo(const QString& destino, Asegurar asegurar = Asegurar::si);
+    /// The same with a name of its own for the file aside.
+    ArchivoNuevo(const QString& destino, Asegurar asegurar, const QString& aparte);
     ~ArchivoNuevo();
     ArchivoNuevo(const ArchivoNuevo&) = delete;
     ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
@@ -65,6 +67,12 @@ private:
     QString anterior_;  // empty when none stood there
     bool pendiente_ = false;
 };
+
+/// Puts a file in the place of another, or where none is, and has the folder on the disk. Throws ErrorDisco.
+void poner_en_lugar(const QString& nuevo, const QString& lugar);
+
+/// The path of a file without links on its way; the file itself may be missing.
+[[nodiscard]] QString ruta_real(const QString& archivo);
 
 /// Copies aside and renames. Throws ErrorDisco when the source can't be read or the copy can't be written.
 void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar);

@@ -2,11 +2,14 @@
 
 #include "core/arranque.h"
 
+#include "core/cuidado.h"
 #include "core/modGlobales.h"
+#include "core/motivos.h"
 #include "core/numero.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +38,22 @@ QString componer_cadena(const QString& ruta)
            + ruta + u";Persist Security Info=false"_s;
 }
 
+// Nobody else has the store open while this program has.
+void abrir_sola(const QString& ruta)
+{
+    const QFileInfo info(ruta);
+    if (info.isFile())
+        candadoRtn.tomar(ruta);
+    try {
+        cnRtn.abrir(ruta, clave_almacen());
+        // Stores used to be made with the umask's mode; one that another user owns keeps it.
+        QFile::setPermissions(ruta, QFile::ReadOwner | QFile::WriteOwner);
+    } catch (...) {
+        candadoRtn.soltar();
+        throw;
+    }
+}
+
 void mostrar_error(Dialogo& dialogo, const QString& prefijo, const ErrorAlmacen& e)
 {
     dialogo.avisar({prefijo + QString::number(e.numero) + u": "_s + e.descripcion, {}, Icono::ninguno, e.motor});
@@ -47,22 +66,40 @@ QString ruta_abierta()
     return QDir(carpeta_programa()).absoluteFilePath(RutaBaseDatos);
 }
 
+void leer_configuracion()
+{
+    if (!leer_ruta(carpeta_programa() + u"/vedra_rtn.cfg"_s, RutaBaseDatos) || RutaBaseDatos.isEmpty())
+        throw ErrorAlmacen(0, u"No se puede leer la ruta de la base de datos en vedra_rtn.cfg."_s);
+}
+
 bool abrir_base(Dialogo& dialogo)
 {
     try {
-        if (!leer_ruta(carpeta_programa() + u"/vedra_rtn.cfg"_s, RutaBaseDatos) || RutaBaseDatos.isEmpty())
-            throw ErrorAlmacen(0, u"vedra_rtn.cfg"_s);
+        leer_configuracion();
         CadenaConexion = componer_cadena(RutaBaseDatos);
         if (!cnRtn.abierta())
-            cnRtn.abrir(ruta_abierta(), clave_almacen());
+            abrir_sola(ruta_abierta());
         return true;
-    } catch (const ErrorAlmacen&) {
+    } catch (const std::exception& e) {
+        const auto* almacen = dynamic_cast<const ErrorAlmacen*>(&e);
+        const UltimoSano sano = almacen && almacen->perdido() && QFileInfo(ruta_abierta()).isFile()
+                                    ? ultimo_respaldo_sano(ruta_abierta(), dialogo)
+                                    : UltimoSano{};
+        const Motivo m = motivo_de(e);
         // The text names another file than the one that is read; it is kept so on purpose.
         dialogo.avisar({u"Error. No se puede obtener la ruta de acceso a la base de datos "
                         u"(ventanilla.cfg). Comuniquese con el administrador del sistema"_s,
-                        u"Error de acceso al sistema"_s, Icono::informacion});
+                        u"Error de acceso al sistema"_s, Icono::informacion,
+                        QStringList{m.texto, m.detalles, sano.frase, sano.receta}.join(u'\n').trimmed()});
         return false;
     }
+}
+
+void cerrar_base()
+{
+    cnRtn.cerrar();
+    cnTmp.cerrar();
+    candadoRtn.soltar();
 }
 
 void cargar_parametros(Dialogo& dialogo)

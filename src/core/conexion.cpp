@@ -2,6 +2,7 @@
 
 #include "core/conexion.h"
 
+#include "core/archivos_disco.h"
 #include "core/funciones_sql.h"
 
 #include <sqlcipher/sqlite3.h>
@@ -163,9 +164,9 @@ bool Conexion::tieneTablas()
     return hay;
 }
 
-void Conexion::abrir(const QString& ruta, const QString& clave)
+void Conexion::abrirPara(int modo, const QString& ruta, const QString& clave)
 {
-    conectar(ruta, clave, SQLITE_OPEN_READWRITE);
+    conectar(ruta, clave, modo);
     try {
         if (!tieneTablas())
             throw ErrorAlmacen(SQLITE_NOTADB, u"El archivo no es una base de datos"_s);
@@ -174,6 +175,29 @@ void Conexion::abrir(const QString& ruta, const QString& clave)
         cerrar();
         throw;
     }
+}
+
+void Conexion::abrir(const QString& ruta, const QString& clave)
+{
+    abrirPara(SQLITE_OPEN_READWRITE, ruta, clave);
+}
+
+void Conexion::abrirParaLeer(const QString& ruta, const QString& clave)
+{
+    abrirPara(SQLITE_OPEN_READONLY, ruta, clave);
+}
+
+sqlite3_file* Conexion::archivo() const
+{
+    sqlite3_file* abierto = nullptr;
+    if (!base_ || sqlite3_file_control(base_, "main", SQLITE_FCNTL_FILE_POINTER, &abierto) != SQLITE_OK)
+        throw ErrorAlmacen(SQLITE_MISUSE, u"La conexión está cerrada"_s);
+    return abierto;
+}
+
+QString Conexion::ruta() const
+{
+    return base_ ? ruta_real(QString::fromUtf8(sqlite3_db_filename(base_, "main"))) : QString();
 }
 
 void crear_conexion_nueva(Conexion& cn, const QString& ruta, const QString& clave)

@@ -9,6 +9,7 @@
 #include <unordered_map>
 
 struct sqlite3;
+struct sqlite3_file;
 struct sqlite3_stmt;
 
 /// A statement or an opening that the engine refused.
@@ -47,6 +48,8 @@ public:
     /// Opens an existing store, never creates one. Throws ErrorAlmacen when the file is
     /// missing, is no store, is locked or does not open with the password.
     void abrir(const QString& ruta, const QString& clave);
+    /// The same for reading alone: nothing can be written.
+    void abrirParaLeer(const QString& ruta, const QString& clave);
     /// Rolls an open transaction back and closes; nothing happens on a closed connection.
     void cerrar();
     [[nodiscard]] bool abierta() const { return base_ != nullptr; }
@@ -69,12 +72,17 @@ public:
     [[nodiscard]] bool enTransaccion() const;
 
     [[nodiscard]] sqlite3* nativa() const { return base_; }
+    /// The engine's handle of the open file.
+    [[nodiscard]] sqlite3_file* archivo() const;
+    /// Absolute path of the open file, without links on its way.
+    [[nodiscard]] QString ruta() const;
 
 private:
     friend class Recordset;
     friend class Comando;
     friend void crear_conexion_nueva(Conexion&, const QString&, const QString&);
 
+    void abrirPara(int modo, const QString& ruta, const QString& clave);
     [[nodiscard]] bool tieneTablas();
     void conectar(const QString& ruta, const QString& clave, int modo);
     sqlite3_stmt* preparar(const QString& sql);

@@ -23,6 +23,8 @@ public:
     virtual void avisar(const Mensaje& mensaje) = 0;
     /// A box with Yes and No; true for Yes.
     [[nodiscard]] virtual bool preguntar(const Mensaje& mensaje) = 0;
+    /// How far a work is that may take long; it is told again and again, until the next notice or question.
+    virtual void progresar(const QString& /*que*/, qint64 /*hecho*/, qint64 /*total*/) {}
 };
 
 /// The first thing that a check found wrong: what to tell and which control gets the focus.

@@ -8,6 +8,7 @@ using namespace Qt::StringLiterals;
 
 Conexion cnRtn;
 Conexion cnTmp;
+Candado candadoRtn;
 
 QString RutaBaseDatos;
 QString CadenaConexion;

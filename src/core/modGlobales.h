@@ -3,12 +3,14 @@
 #pragma once
 
 #include "core/almacen.h"
+#include "core/candado.h"
 
 #include <QDate>
 #include <QString>
 
-extern Conexion cnRtn;  ///< the connection through which every form reads and writes
-extern Conexion cnTmp;  ///< serves the grid of contract values
+extern Conexion cnRtn;      ///< the connection through which every form reads and writes
+extern Conexion cnTmp;      ///< serves the grid of contract values
+extern Candado candadoRtn;  ///< held while the program has the store open
 
 extern QString RutaBaseDatos;
 extern QString CadenaConexion;

@@ -25,5 +25,13 @@ public:
 /// error the engine's.
 [[nodiscard]] QString motivo_de_escritura(const ErrorAlmacen& e);
 
+/// What to tell of whatever failed.
+struct Motivo
+{
+    QString texto;
+    QString detalles;  ///< behind "Detalles"
+};
+[[nodiscard]] Motivo motivo_de(const std::exception& e);
+
 /// What stands behind "Detalles" of a box whose text says nothing of the reason: the reason, and the engine's own words.
 [[nodiscard]] QString detalles_de(const ErrorAlmacen& e);

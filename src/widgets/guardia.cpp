@@ -17,27 +17,25 @@ bool con_guardia(QWidget* ventana, const std::function<void()>& accion, const st
     const int nivel = cnRtn.transacciones();
     const QPointer<QWidget> viva = ventana;
     // The box comes last: while it stands, nothing half done is held open.
-    const auto contar = [&](const QString& texto, const QString& detalles = {}) {
+    const auto contar = [&](const Motivo& m) {
         while (cnRtn.transacciones() > nivel)
             cnRtn.deshacer();
-        DialogoPantalla(viva).avisar({texto, viva ? viva->windowTitle() : QString(), Icono::exclamacion, detalles});
+        DialogoPantalla(viva).avisar({m.texto, viva ? viva->windowTitle() : QString(), Icono::exclamacion, m.detalles});
         return false;
     };
     try {
         accion();
         return true;
     } catch (const ErrorConversion& e) {
-        contar(QString::fromUtf8(e.what()));
+        contar({QString::fromUtf8(e.what()), {}});
         if (viva && ilegible)
             ilegible();
         return false;
     } catch (const ErrorAlmacen& e) {
         if (e.perdido())
             throw;
-        return contar(motivo_de_escritura(e), e.motor);
-    } catch (const ErrorTarea& e) {
-        return contar(e.texto, e.detalles);
+        return contar(motivo_de(e));
     } catch (const std::exception& e) {
-        return contar(u"No se pudo completar la acción."_s, QString::fromUtf8(e.what()));
+        return contar(motivo_de(e));
     }
 }

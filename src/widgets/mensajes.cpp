@@ -2,6 +2,8 @@
 
 #include "widgets/mensajes.h"
 
+#include "widgets/ventana_progreso.h"
+
 #include <QMessageBox>
 
 using namespace Qt::StringLiterals;
@@ -34,13 +36,26 @@ int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons boton
 
 int DialogoPantalla::avisos_ = 0;
 
+DialogoPantalla::DialogoPantalla(QWidget* padre) : padre_(padre) {}
+
+DialogoPantalla::~DialogoPantalla() = default;
+
+void DialogoPantalla::progresar(const QString& que, qint64 hecho, qint64 total)
+{
+    if (!progreso_)
+        progreso_ = std::make_unique<VentanaProgreso>(padre_);
+    progreso_->avanzar(que, hecho, total);
+}
+
 void DialogoPantalla::avisar(const Mensaje& mensaje)
 {
+    progreso_.reset();
     ++avisos_;
     mostrar(padre_, mensaje, QMessageBox::Ok);
 }
 
 bool DialogoPantalla::preguntar(const Mensaje& mensaje)
 {
+    progreso_.reset();
     return mostrar(padre_, mensaje, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }

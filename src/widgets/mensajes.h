@@ -4,15 +4,20 @@
 
 #include "core/dialogo.h"
 
+#include <memory>
+
 class QWidget;
 
 /// Shows what the logic says in boxes over a window.
 class DialogoPantalla : public Dialogo
 {
 public:
-    explicit DialogoPantalla(QWidget* padre) : padre_(padre) {}
+    explicit DialogoPantalla(QWidget* padre);
+    ~DialogoPantalla() override;
     void avisar(const Mensaje& mensaje) override;
     [[nodiscard]] bool preguntar(const Mensaje& mensaje) override;
+    /// A window with a bar comes up when it takes long.
+    void progresar(const QString& que, qint64 hecho, qint64 total) override;
 
     /// How many notices have been shown since the program began.
     [[nodiscard]] static int avisos() { return avisos_; }
@@ -20,4 +25,5 @@ public:
 private:
     static int avisos_;
     QWidget* padre_;
+    std::unique_ptr<class VentanaProgreso> progreso_;
 };

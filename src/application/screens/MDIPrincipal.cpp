@@ -8,6 +8,7 @@
 #include "application/screens/rotulo_ruta.h"
 #include "catalogue/screens/frmSubconceptos.h"
 #include "core/arranque.h"
+#include "core/cuidado.h"
 #include "core/modGlobales.h"
 #include "declarations/screens/frmDJ_buscar.h"
 #include "ui_MDIPrincipal.h"
@@ -65,6 +66,10 @@ bool MDIPrincipal::iniciar()
     DialogoPantalla dialogo(nullptr);
     if (!abrir_base(dialogo))
         return false;
+    if (!cuidar_base(dialogo)) {
+        cerrar_base();
+        return false;
+    }
     cargar_parametros(dialogo);
     cargar_ley_vigente(dialogo);
     mostrarEstado();
@@ -100,7 +105,6 @@ void MDIPrincipal::closeEvent(QCloseEvent* evento)
     while (!formularios.isEmpty())
         if (!formularios.takeLast()->cerrar())
             return;
-    cnRtn.cerrar();
-    cnTmp.cerrar();
+    cerrar_base();
     evento->accept();
 }

@@ -18,8 +18,8 @@ public:
     MDIPrincipal();
     ~MDIPrincipal() override;
 
-    /// Opens the store and loads what start-up loads. False when the store does not open: the
-    /// failure has been told and the program ends.
+    /// Opens the store and loads what start-up loads. False when the store does not open or
+    /// is damaged: the failure has been told and the program ends.
     [[nodiscard]] bool iniciar();
 
     /// Sets the enabled state of the menu entry that opens the subconcept browser.

@@ -3,6 +3,7 @@
 #include "declarations/screens/frmDJ_buscar.h"
 
 #include "agents/agente.h"
+#include "core/cuidado.h"
 #include "declarations/lista_dj.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "filing/archivo_dj.h"
@@ -142,6 +143,8 @@ void frmDJ_buscar::tlbDJ_pulsada(const QString& clave)
         emitir();
     else if (clave == u"borrar" && preguntar(u"¿Esta seguro que desea borrar la DJ seleccionada?"_s, u"Borrar DJ"_s)) {
         DialogoPantalla dialogo(this);
+        if (!respaldar_antes(dialogo))
+            return;
         borrar_dj(nro, dialogo);
         listar_dj();
     }
@@ -151,7 +154,7 @@ void frmDJ_buscar::rectificar()
 {
     DialogoPantalla dialogo(this);
     const QString ultima = dj_a_rectificar(ui->flx->clave(), dialogo);
-    if (!ultima.isEmpty())
+    if (!ultima.isEmpty() && respaldar_antes(dialogo))
         abrirEditor(Modo::rectificar, ultima);
 }
 

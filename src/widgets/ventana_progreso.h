@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A small window with a bar over a work that takes long.
+#pragma once
+
+#include <QElapsedTimer>
+
+#include <memory>
+
+class QDialog;
+class QLabel;
+class QProgressBar;
+class QWidget;
+
+/// Comes up once the work takes longer than half a second, and goes with the object.
+class VentanaProgreso
+{
+public:
+    explicit VentanaProgreso(QWidget* padre);
+    ~VentanaProgreso();
+    VentanaProgreso(const VentanaProgreso&) = delete;
+    VentanaProgreso& operator=(const VentanaProgreso&) = delete;
+
+    /// Shows what is done and how far it is; may be called as often as one likes. While the window stands, windows are
+    /// painted, and what the user types or clicks waits.
+    void avanzar(const QString& que, qint64 hecho, qint64 total);
+
+private:
+    void abrir();
+
+    QWidget* padre_;
+    QElapsedTimer desde_;
+    QElapsedTimer pintada_;
+    std::unique_ptr<QDialog> ventana_;
+    QLabel* rotulo_ = nullptr;
+    QProgressBar* barra_ = nullptr;
+};
