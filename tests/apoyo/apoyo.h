@@ -40,6 +40,7 @@ public:
     bool respuesta = true;
     QStringList textos;
     QStringList titulos;
+    QStringList detalles;
     QList<Icono> iconos;
 
 private:
@@ -47,6 +48,7 @@ private:
     {
         textos << m.texto;
         titulos << m.titulo;
+        detalles << m.detalles;
         iconos << m.icono;
     }
 };
