@@ -1,49 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The packer against an independent reader of its archives, and the emission's archive.
 
-#include "apoyo/apoyo.h"
+#include "apoyo/procesos.h"
 #include "filing/archivo_dj.h"
 #include "filing/carpetas_dj.h"
 #include "filing/empaquetado.h"
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
+#include <QDirIterator>
 #include <QRandomGenerator>
 #include <QTest>
 
 namespace {
 
-class Empaquetado : public ConAlmacen
+class Empaquetado : public ConProcesos
 {
 protected:
-    QString archivo(const QString& nombre, const QByteArray& datos) const
-    {
-        const QString ruta = carpeta.path() + u'/' + nombre;
-        QDir().mkpath(QFileInfo(ruta).path());
-        QFile f(ruta);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(datos);
-        return ruta;
-    }
-    static int correr(const QString& programa, const QStringList& argumentos, QString* salida = nullptr)
-    {
-        QProcess p;
-        p.start(programa, argumentos);
-        EXPECT_TRUE(p.waitForFinished(300000));
-        if (salida)
-            *salida = QString::fromUtf8(p.readAllStandardOutput());
-        return p.exitCode();
-    }
-    static int rar(const QStringList& argumentos, QString* salida = nullptr)
-    {
-        return correr(QStringLiteral(RTN_RAR), argumentos, salida);
-    }
-    static QByteArray leer(const QString& ruta)
-    {
-        QFile f(ruta);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no está)");
-    }
     /// Extracts by bsdtar into a new folder.
     QString extraer(const QString& rar_)
     {
@@ -132,7 +103,7 @@ protected:
         ConAlmacen::SetUp();
         // The program's folder has blanks, quotes, dollar signs and accents in its name.
         base = carpeta.path() + "/mi 'base' $x ñ\"q"_u;
-        QDir().mkpath(base);
+        ASSERT_TRUE(QDir().mkpath(base));
         ASSERT_TRUE(QFile::copy(QStringLiteral(RTN_RAR), base + "/rar"_u));
         fijar_carpeta_programa(base);
         destino = carpeta.path() + "/destino"_u;
@@ -152,6 +123,7 @@ protected:
     {
         (void)generar_archivo_dj(dj);
         oyente.textos.clear();
+        oyente.detalles.clear();
         return comprimir_dj(dj, oyente, [this](const QString& p) {
             propuesto = p;
             return cancelar ? QString() : destino + "/otro nombre.rar"_u;
@@ -237,10 +209,57 @@ TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
     EXPECT_TRUE(QFile::exists(carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u));
     EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
     cancelar = false;
+    EXPECT_EQ(oyente.detalles, QStringList(QString()));
     QFile::remove(base + "/rar"_u);
     EXPECT_FALSE(emitir());  // without the packer there is no archive
     EXPECT_EQ(oyente.textos, QStringList(cancelada));
+    EXPECT_EQ(oyente.detalles.last(), "No se puede ejecutar "_u + base + "/rar"_u);
     EXPECT_FALSE(QFile::exists(final_));
+}
+
+// Whatever the umask and what stood there; the folder that the user chose is his.
+TEST_F(EmpaquetadoDJ, SoloParaElUsuario)
+{
+    escritura(1, archivo("uno.pdf"_u, "uno"));
+    const QString vieja = "mi 'base' $x ñ\"q/"_u;
+    for (const mode_t mascara : {0, 0077, 0177})
+        for (const bool cancela : {false, true}) {
+            SCOPED_TRACE(testing::Message() << "umask " << std::oct << mascara << (cancela ? " cancela" : ""));
+            cancelar = cancela;
+            const QStringList anchos{archivo(vieja + "comprimir.bat"_u, "viejo"),
+                                     archivo(vieja + "data/%1/SRTN%1.txt"_u.arg(dj), "viejo"),
+                                     archivo("destino/SRTN%1.rar"_u.arg(dj), "viejo")};
+            for (const QString& a : anchos)
+                chmod(QFile::encodeName(a).constData(), 0666);
+            for (const QString& c : {base + "/data"_u, carpeta_dj(dj), carpeta_testimonios(dj), destino})
+                chmod(QFile::encodeName(c).constData(), 0755);
+            {
+                const Mascara otra(mascara);
+                EXPECT_EQ(emitir(), !cancela);
+            }
+            EXPECT_EQ(modo_de(destino), 0755U);
+            EXPECT_EQ(modo_de(final_), cancela ? 0666U : 0600U);
+            EXPECT_EQ(modo_de(base + "/comprimir.bat"_u), 0600U);
+            EXPECT_FALSE(QFile::exists(base + "/dj.rar"_u));  // nothing of the work stays behind
+            int archivos = 0;
+            for (QDirIterator it(base + "/data"_u, QDir::AllEntries | QDir::NoDotAndDotDot,
+                                 QDirIterator::Subdirectories);
+                 it.hasNext();) {
+                const QString hay = it.next();
+                EXPECT_EQ(modo_de(hay), it.fileInfo().isDir() ? 0700U : 0600U) << hay.toStdString();
+                archivos += it.fileInfo().isFile();
+            }
+            EXPECT_GE(archivos, 2);
+            EXPECT_EQ(modo_de(base + "/data"_u), 0700U);
+        }
+    const Mascara ninguna(0);
+    const QString propio = archivo("propio.rar"_u, {});
+    ASSERT_TRUE(QFile::remove(propio));
+    for (int vez = 0; vez < 2; ++vez) {
+        EXPECT_EQ(rar({"a"_u, "-y"_u, propio, final_}), 0);
+        EXPECT_EQ(modo_de(propio), 0600U);
+        chmod(QFile::encodeName(propio).constData(), 0666);
+    }
 }
 
 }  // namespace

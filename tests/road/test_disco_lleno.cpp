@@ -141,6 +141,7 @@ TEST_P(DiscoLleno, CadaLlamadaDejaLoAnteriorOLoNuevo)
         delMotor += motor;
         delEmpaquetador += dicho.contains("rar: "_u);
     }
+    RecordProperty("llamadas", n - 1);
     // The calls of all who write are met: the program's own, the engine's, the packer's.
     EXPECT_GT(delMotor, 3);
     EXPECT_GT(delEmpaquetador, 3);

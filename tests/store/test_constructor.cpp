@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "apoyo/apoyo.h"
+#include "apoyo/procesos.h"
 #include "constructor.h"
 
 #include <QDir>
@@ -73,6 +73,20 @@ TEST_F(Constructor, LosTextosDelProyectoSonCoherentes)
                           "select C.SEDJ_NRO from SEL_TB_RTN_CABDJ C join SEL_TB_RTN_DETDJ D on D.SEDJ_NRO=C.SEDJ_NRO "
                           "group by C.SEDJ_NRO having abs(sum(D.SEDD_TOTAL_IMPUESTO)-C.SEDJ_TOTAL_RETENIDO)>0.001"_u)
                     .eof());
+}
+
+// The engine gives its journal the store's mode.
+TEST_F(Constructor, SoloParaElUsuario)
+{
+    const Mascara ninguna(0);
+    ASSERT_EQ(construir(), QString());
+    Conexion cn;
+    cn.abrir(dir.filePath("x.db"_u), clave_almacen());
+    cn.comenzar();
+    cn.ejecutar("delete from SEL_TB_PARAMETROS"_u);
+    for (const char* nombre : {"x.db", "x.db-journal"})
+        EXPECT_EQ(modo_de(dir.filePath(QLatin1StringView(nombre))), 0600U) << nombre;
+    EXPECT_EQ(QDir(dir.path()).entryList({"*.nuevo*"_u}), QStringList());
 }
 
 TEST_F(Constructor, RechazaLoIncoherentePorArchivoYLinea)
