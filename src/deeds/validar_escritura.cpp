@@ -4,6 +4,7 @@
 #include "core/modGlobales.h"
 #include "core/modUtiles.h"
 #include "deeds/escritura.h"
+#include "filing/carpetas_dj.h"
 
 #include <QFileInfo>
 
@@ -166,5 +167,10 @@ ResultadoEscritura validar_escritura(ControlesEscritura& c, Dialogo& dialogo)
     if (!QFileInfo(c.testimonio).isFile())
         return tropiezo(
             {u"El archivo del testimonio no existe. \nVerifique que el nombre de archivo sea correcto."_s, campo, {}});
+    if (QFileInfo(c.testimonio).canonicalPath() == QFileInfo(carpeta_testimonios(c.dj)).canonicalFilePath())
+        return tropiezo({u"El archivo es una copia hecha al emitir esta DJ, y la próxima emisión la borra. \n"
+                         u"Elija el archivo original."_s,
+                         campo,
+                         {}});
     return verificar_testimonio_unico(c, dialogo) ? ResultadoEscritura{true, foco} : ResultadoEscritura{false, campo};
 }

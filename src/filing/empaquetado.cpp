@@ -127,7 +127,7 @@ private:
                 return false;
             }
             const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.'
-                                  + QFileInfo(origen).suffix().toLower();
+                                  + QFileInfo(rs.texto(2)).suffix().toLower();
             copiar_archivo(origen, copia, Asegurar::no);
             empaquetar(copia);
         }
@@ -145,7 +145,7 @@ private:
     bool guardar(const PedirDestino& pedir, LoteEnMarcha& lotes) const
     {
         const QString nombre = u"SRTN"_s + nro_ + u".rar"_s;
-        const QString elegido = pedir(QDir::home().filePath(nombre));
+        const QString elegido = pedir(nombre);
         QString motivo;
         try {
             const bool bien = lotes.esperar();

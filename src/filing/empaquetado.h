@@ -8,8 +8,8 @@
 
 #include <functional>
 
-/// Asks where to save: takes the proposed full name, gives the one chosen, empty on cancel.
-using PedirDestino = std::function<QString(const QString& propuesto)>;
+/// Asks where to save: takes the archive's name, gives the full name chosen, empty on cancel.
+using PedirDestino = std::function<QString(const QString& nombre)>;
 
 /// Copies the testimonios under their export names, has the packer called once for each file by a
 /// generated batch file, and saves the archive in the folder that the user chooses: its name is

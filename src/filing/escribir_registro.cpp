@@ -47,6 +47,15 @@ int buscar_columna(sqlite3_stmt* s, const char* nombre)
     return -1;
 }
 
+// Bytes of the first letter of a text in UTF-8.
+size_t largo_letra(std::string_view t)
+{
+    size_t n = 1;
+    while (n < t.size() && (static_cast<unsigned char>(t[n]) & 0xc0) == 0x80)
+        ++n;
+    return n;
+}
+
 }  // namespace
 
 ErrorRegistro::ErrorRegistro(const QString& registro_, int renglon_, const QString& detalle_)
@@ -117,7 +126,7 @@ void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida
     case Clase::contenido: rellenar(c, recortar(t), largo(recortar(t)), salida); break;
     case Clase::talCual: salida.utf8(t); break;
     case Clase::siNo: salida.ascii(!nulo && sqlite3_column_int(sentencia_, columna) != 0 ? "S" : "N"); break;
-    case Clase::primeraLetra: salida.utf8(t.empty() ? std::string_view(" ") : t.substr(0, 1)); break;
+    case Clase::primeraLetra: salida.utf8(t.empty() ? std::string_view(" ") : t.substr(0, largo_letra(t))); break;
     case Clase::cerosDelante:
         salida.repetir('0', std::max<qsizetype>(0, c.ancho - largo(t)));
         salida.utf8(t);

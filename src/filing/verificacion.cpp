@@ -8,33 +8,47 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString INCOMPLETA = u"La declaración jurada está incompleta."_s;
 
-// A mistyped number may leave hundreds of millions of them missing: no box holds that list.
-constexpr qsizetype MAXIMO_LISTADO = 5000;
+// A mistyped number may leave hundreds of millions of them missing: then their count has to do.
+constexpr qint64 MAXIMO_LISTADO = 100'000;
+
+// Without the blanks around it; other white space is part of a name.
+QString sin_blancos(QString nombre)
+{
+    while (nombre.startsWith(u' '))
+        nombre.remove(0, 1);
+    while (nombre.endsWith(u' '))
+        nombre.chop(1);
+    return nombre;
+}
 
 // What is missing in the numbers between the first deed and the last; empty when nothing is.
 QString huecos(const QString& nro)
 {
     QStringList faltan;
+    qint64 cuantas = 0;
     Recordset rs(cnRtn, u" select SEDD_ESCRITURA_NRO from SEL_TB_RTN_DETDJ  where SEDJ_NRO='%1'"
                         u"  and SEDD_ESTADO<>'E'  order by SEDD_ESCRITURA_NRO"_s.arg(nro));
     if (rs.eof())
         return {};
     for (qint64 anterior = rs.entero(0); !rs.eof(); rs.siguiente()) {
         const qint64 actual = rs.entero(0);
-        for (qint64 n = anterior + 1; n < actual && faltan.size() < MAXIMO_LISTADO; ++n)
+        cuantas += std::max<qint64>(0, actual - anterior - 1);
+        for (qint64 n = anterior + 1; n < actual && cuantas <= MAXIMO_LISTADO; ++n)
             faltan << QString::number(n);
         anterior = actual;
     }
-    if (faltan.size() == MAXIMO_LISTADO)
-        faltan << u"..."_s;
-    return faltan.isEmpty() ? QString()
-                            : INCOMPLETA + u"\nFaltan declarar las escrituras Nº: "_s + faltan.join(u", "_s);
+    if (cuantas == 0)
+        return {};
+    return INCOMPLETA + u"\nFaltan declarar las escrituras Nº: "_s
+           + (cuantas <= MAXIMO_LISTADO ? faltan.join(u", "_s) : u"son %1 números"_s.arg(cuantas));
 }
 
 QString sin_operacion(const QString& nro)
@@ -61,7 +75,7 @@ QString sin_testimonio(const QString& nro)
     for (; !rs.eof(); rs.siguiente()) {
         if (rs.entero(3) == 0)
             continue;
-        const QString archivo = fromSQL(rs.texto(2).trimmed());
+        const QString archivo = fromSQL(sin_blancos(rs.texto(2)));
         if (archivo.isEmpty())
             sin_archivo << rs.texto(1);
         else if (!QFileInfo(archivo).isFile())

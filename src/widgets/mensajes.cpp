@@ -4,7 +4,10 @@
 
 #include "widgets/ventana_progreso.h"
 
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +25,29 @@ QMessageBox::Icon icono_de(Icono icono)
     return QMessageBox::NoIcon;
 }
 
+constexpr qsizetype LARGO_A_LA_VISTA = 1500;
+constexpr QSize LISTA(560, 280);
+
+// A text that would outgrow the screen stands in a field that scrolls, in the place of the box's label.
+void hacerDesplazable(QMessageBox& caja, const QString& texto)
+{
+    auto* rotulo = caja.findChild<QLabel*>(u"qt_msgbox_label"_s);
+    auto* rejilla = qobject_cast<QGridLayout*>(caja.layout());
+    if (!rotulo || !rejilla)
+        return;
+    int fila = 0, columna = 0, filas = 0, columnas = 0;
+    rejilla->getItemPosition(rejilla->indexOf(rotulo), &fila, &columna, &filas, &columnas);
+    auto* campo = new QPlainTextEdit(texto);
+    campo->setObjectName(u"texto"_s);
+    campo->setReadOnly(true);
+    campo->setFrameShape(QFrame::NoFrame);
+    campo->viewport()->setAutoFillBackground(false);
+    campo->setFixedSize(LISTA);
+    rotulo->hide();
+    rejilla->removeWidget(rotulo);
+    rejilla->addWidget(campo, fila, columna, filas, columnas);
+}
+
 int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons botones)
 {
     const QString titulo = m.titulo.isEmpty() ? u"VEDRA-RTN"_s : m.titulo;
@@ -29,6 +55,8 @@ int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons boton
     caja.setTextFormat(Qt::PlainText);
     if (!m.detalles.isEmpty())
         caja.setDetailedText(m.detalles);
+    if (m.texto.size() > LARGO_A_LA_VISTA)
+        hacerDesplazable(caja, m.texto);
     return caja.exec();
 }
 

@@ -3,6 +3,7 @@
 #include "application/aplicacion.h"
 
 #include <QLocale>
+#include <QStandardPaths>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,8 @@ int main(int argc, char** argv)
     // Not the program's own: what a form throws is to reach the test.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication aplicacion(argc, argv);
+    // What tests prefer is not what the user of this machine prefers.
+    QStandardPaths::setTestModeEnabled(true);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     return RUN_ALL_TESTS();
 }

@@ -3,6 +3,7 @@
 #include "apoyo/apoyo.h"
 #include "deeds/escritura.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace {
@@ -160,6 +161,15 @@ TEST_F(EscrituraDJ, Testimonio)
     EXPECT_FALSE(validar_escritura(c, oyente).vale);
     EXPECT_EQ(oyente.ultimo(),
               "El archivo del testimonio no existe. \nVerifique que el nombre de archivo sea correcto."_u);
+    // The copies that an emission makes are emptied by the next one.
+    ASSERT_TRUE(QDir(carpeta.path()).mkpath("data/%1/testimonios"_u.arg(dj)));
+    const QString copia = carpeta.path() + "/data/%1/testimonios/%1-0001.pdf"_u.arg(dj);
+    ASSERT_TRUE(QFile::copy(archivo, copia));
+    c.testimonio = copia;
+    r = validar_escritura(c, oyente);
+    EXPECT_FALSE(r.vale);
+    EXPECT_EQ(r.foco, "txtTestimonio"_u);
+    EXPECT_TRUE(oyente.ultimo().startsWith("El archivo es una copia hecha al emitir esta DJ"_u));
     c.testimonio = "  "_u + archivo + " "_u;
     EXPECT_TRUE(validar_escritura(c, oyente).vale);
     EXPECT_EQ(c.testimonio, archivo);

@@ -136,7 +136,7 @@ protected:
 TEST_F(EmpaquetadoDJ, ConTestimoniosYSinEllos)
 {
     EXPECT_TRUE(emitir());
-    EXPECT_EQ(propuesto, QDir::home().filePath("SRTN"_u + dj + ".rar"_u));
+    EXPECT_EQ(propuesto, "SRTN"_u + dj + ".rar"_u);
     EXPECT_EQ(leer(extraer(final_) + "/SRTN"_u + dj + ".txt"_u), leer(carpeta_dj(dj) + "/SRTN"_u + dj + ".txt"_u));
     EXPECT_EQ(QString::fromUtf8(leer(base + "/comprimir.bat"_u)).count(u'\n'), 3);
 

@@ -27,6 +27,13 @@ TEST_F(Verificacion, TresRevisionesEnSuOrden)
     nueva_escritura(dj, 4, 9, 4, 1);
     nueva_escritura(dj, 5, 8, 5, 1, "E");
     EXPECT_EQ(dice(), "La declaración jurada está incompleta.\nFaltan declarar las escrituras Nº: 7, 8"_u);
+    // The list is whole up to a hundred thousand; past that it is their count.
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_ESCRITURA_NRO=100007 where SEDD_ID=4"_u);
+    EXPECT_TRUE(dice().endsWith(", 100005, 100006"_u));
+    EXPECT_EQ(dice().count(u','), 99'999);
+    cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_ESCRITURA_NRO=100008 where SEDD_ID=4"_u);
+    EXPECT_EQ(dice(),
+              "La declaración jurada está incompleta.\nFaltan declarar las escrituras Nº: son 100001 números"_u);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_ESCRITURA_NRO=7 where SEDD_ID=4"_u);
     EXPECT_EQ(
         dice(),

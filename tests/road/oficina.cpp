@@ -12,6 +12,7 @@
 
 #include <QAction>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QTest>
 
 #include <cstdio>
@@ -223,6 +224,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Aplicacion aplicacion(argc, argv);
+    QStandardPaths::setTestModeEnabled(true);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     const QString carpeta = QString::fromLocal8Bit(argv[1]);
     const int vueltas = argc > 2 ? std::atoi(argv[2]) : 0;

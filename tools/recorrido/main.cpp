@@ -14,6 +14,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
+#include <QStandardPaths>
 
 #include <cstdio>
 #include <cstdlib>
@@ -45,6 +46,8 @@ int main(int argc, char** argv)
 {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     Aplicacion aplicacion(argc, argv);
+    // What is chosen on the way is not what the user chose.
+    QStandardPaths::setTestModeEnabled(true);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     QCommandLineParser argumentos;
     argumentos.setApplicationDescription(u"Recorre un mes completo en las ventanas del programa."_s);

@@ -4,6 +4,7 @@
 
 #include "agents/agente.h"
 #include "core/cuidado.h"
+#include "core/preferencias.h"
 #include "declarations/lista_dj.h"
 #include "declarations/screens/frmDJ_editar.h"
 #include "filing/archivo_dj.h"
@@ -14,7 +15,9 @@
 #include "widgets/ctlComunes.h"
 #include "widgets/mensajes.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -174,9 +177,14 @@ void frmDJ_buscar::emitir()
              emision.motivo});
         return;
     }
-    const auto pedir = [this](const QString& propuesto) {
-        return QFileDialog::getSaveFileName(this, u"Guardar la declaración jurada"_s, propuesto,
-                                            u"Archivo comprimido (*.rar)"_s);
+    // The name that is typed does not count, so nothing is asked about a file of that name.
+    const auto pedir = [this](const QString& nombre) {
+        const QString elegido = QFileDialog::getSaveFileName(
+            this, u"Guardar la declaración jurada"_s, QDir(ultima_carpeta()).filePath(nombre),
+            u"Archivo comprimido (*.rar)"_s, nullptr, QFileDialog::DontConfirmOverwrite);
+        if (!elegido.isEmpty())
+            recordar_carpeta(QFileInfo(elegido).absolutePath());
+        return elegido;
     };
     if (!comprimir_dj(nro, dialogo, pedir))
         return;
