@@ -4,6 +4,7 @@
 
 #include "filing/codificacion.h"
 
+#include <algorithm>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +39,17 @@ void AnotadorFallas::aviso(const FallaLectura& f)
 bool AnotadorFallas::cabenAvisos() const
 {
     return lectura_.avisos.size() < FALLAS_MAXIMAS;
+}
+
+void AnotadorFallas::rareza(const RegistroLeido& r, const char* campo, size_t largo, int previsto)
+{
+    auto& todas = lectura_.rarezas;
+    auto it = std::find_if(todas.begin(), todas.end(), [&](const RarezaLeida& una) {
+        return una.tipo == r.registro->tipo && una.largo == int(largo) && una.campo == QLatin1StringView(campo);
+    });
+    if (it == todas.end())
+        it = todas.insert(it, {r.registro->tipo, QString::fromLatin1(campo), int(largo), previsto, 0, r.linea});
+    ++it->veces;
 }
 
 void AnotadorFallas::campo(const RegistroLeido& r, size_t campo)

@@ -14,6 +14,8 @@ public:
     void aviso(const FallaLectura& f);
     /// Whether a notice would still be kept; the text of one that is not need not be made.
     [[nodiscard]] bool cabenAvisos() const;
+    /// One more record with a quirk: of a field of its type, or of none.
+    void rareza(const RegistroLeido& r, const char* campo, size_t largo, int previsto);
     /// The field, by its place, does not fit in the record.
     void campo(const RegistroLeido& r, size_t campo);
     /// The value of the field can't be.

@@ -21,10 +21,22 @@ struct FallaLectura
     QString mensaje;
 };
 
+/// A quirk that the format itself makes, and how often: a field of another width than its own, or absent.
+struct RarezaLeida
+{
+    char tipo = 0;  ///< of the record
+    QString campo;  ///< empty when which field it is can't be told
+    int largo = 0;  ///< of the field, 0 for an absent one; of the record when the field can't be told
+    int previsto = 0;
+    int veces = 0;
+    int linea = 0;  ///< the first time
+};
+
 struct LecturaDJ
 {
     std::vector<FallaLectura> fallas;
     std::vector<FallaLectura> avisos;  ///< quirks of the format that were read right, or could not be told
+    std::vector<RarezaLeida> rarezas;  ///< the same quirks counted
     std::map<char, int> registros;     ///< how many of each type
     QString codigo;                    ///< recomputed integrity code
     QString agente, titular, cuit, posicion, secuencia, estado;

@@ -24,7 +24,15 @@ constexpr Dominio DOMINIOS[] = {{'1', "SEDJ_ESTADO", "01"},
 void revisar_largo(const RegistroLeido& r, AnotadorFallas& fallas)
 {
     const auto previsto = r.registro->ancho() + 1;
-    if ((!r.dudoso && int(r.bytes.size()) == previsto) || !fallas.cabenAvisos())
+    if (!r.dudoso && int(r.bytes.size()) == previsto)
+        return;
+    if (r.dudoso)
+        fallas.rareza(r, "", r.bytes.size(), previsto);
+    else
+        for (size_t i = 0; i < r.registro->campos.size(); ++i)
+            if (const CampoRegistro& c = r.registro->campos[i]; int(r.campos[i].size()) != c.ancho)
+                fallas.rareza(r, c.nombre, r.campos[i].size(), c.ancho);
+    if (!fallas.cabenAvisos())
         return;
     const QString mensaje = r.dudoso ? u"no se puede saber qué campo falta o sobra (largo %1, previsto %2)"_s
                                      : u"el registro tiene otro largo (%1, previsto %2)"_s;

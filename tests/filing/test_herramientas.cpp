@@ -142,6 +142,28 @@ TEST_F(Herramientas, UnaSolaDevueltaYDeTamanoPosible)
     EXPECT_EQ(leer_dj({archivoQueDice(3, 3)}, &salida), 1);  // the same archive with sizes that hold is read
 }
 
+TEST_F(Herramientas, ElLectorSeUsaEnEspanol)
+{
+    const QString dj = archivo("SRTN1.txt"_u, "1");
+    QString salida;
+    EXPECT_EQ(leer_dj({"--help"_u}, &salida), 0);
+    EXPECT_TRUE(salida.contains("Termina con 0 si todo está bien"_u));
+    EXPECT_FALSE(salida.contains("Options"_u));
+    for (const QStringList& mal : {QStringList{}, {dj, dj}, {"--nada"_u, dj}, {dj, "--codigo"_u}}) {
+        EXPECT_EQ(leer_dj(mal, &salida), 2);
+        EXPECT_TRUE(salida.contains("Uso: leer_dj"_u));
+    }
+    // The code of the paper, as it is printed and typed.
+    EXPECT_EQ(leer_dj({"--json"_u, dj}, &salida), 1);
+    const QString codigo = QJsonDocument::fromJson(salida.toUtf8()).object()["codigo"_u].toString();
+    for (const QString& escrito : {codigo.toLower(), " "_u + codigo.left(8) + "  "_u + codigo.mid(8) + "\t"_u}) {
+        EXPECT_EQ(leer_dj({"--codigo"_u, escrito, dj}, &salida), 1);
+        EXPECT_FALSE(salida.contains("el código del papel"_u)) << salida.toStdString();
+    }
+    EXPECT_EQ(leer_dj({"--codigo=0"_u, dj}, &salida), 1);
+    EXPECT_TRUE(salida.contains("el código del papel no es el del archivo"_u));
+}
+
 TEST_F(Herramientas, LoQueNoSePuedeDecirEsUnaFalla)
 {
     const QString a = carpeta.path() + "/a.rar"_u;

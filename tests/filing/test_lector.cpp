@@ -108,6 +108,18 @@ INSTANTIATE_TEST_SUITE_P(
                true},  // four numbers of one width stand there
         Rareza{"update SEL_TB_RTN_INS_ROLES set SROL_ID=5707001001", false}));
 
+// What the format itself makes is counted, not told record by record.
+TEST_F(LectorDJ, LasRarezasSeCuentan)
+{
+    const LecturaDJ l = leer_archivo_dj(archivo("update SEL_TB_RTN_INS_ROLES set SROL_ID=5707001001"));
+    ASSERT_EQ(l.rarezas.size(), 1);
+    const RarezaLeida& r = l.rarezas.front();
+    EXPECT_EQ(QString(QLatin1Char(r.tipo)) + r.campo, "6SROL_ID"_u);
+    EXPECT_EQ(QString::number(r.largo) + u'/' + QString::number(r.previsto), "10/7"_u);
+    EXPECT_EQ(size_t(r.veces), l.avisos.size());
+    EXPECT_EQ(r.linea, l.avisos.front().linea);
+}
+
 struct Alteracion
 {
     const char* de;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // leer_dj [--codigo CODE] [--campos] [--json] FILE|FOLDER|ARCHIVE
 
+#include "core/redondeo.h"
 #include "filing/codificacion.h"
 #include "filing/lector_dj.h"
 #include "rar5.h"
 #include "visible.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -25,6 +25,60 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int NO_SE_LEE = 2;
+
+constexpr const char* AYUDA = R"(Uso: leer_dj [--codigo CÓDIGO] [--campos] [--json] ENTRADA
+
+Lee y revisa el archivo de una declaración jurada emitida.
+
+  ENTRADA           el archivo SRTN….txt, su carpeta, o el archivo SRTN….rar
+
+  --codigo CÓDIGO   código impreso en el papel, para comparar; no importan blancos ni mayúsculas
+  --campos          lista cada campo de cada registro
+  --json            da todo como JSON
+  --ayuda           muestra esto
+
+Termina con 0 si todo está bien; con 1 si hay fallas; con 2 si no se puede leer o está mal usado.
+)";
+
+struct Pedido
+{
+    QString entrada;
+    QString codigo;
+    bool campos = false;
+    bool json = false;
+    bool ayuda = false;
+};
+
+// What is asked for, or what is wrong with it.
+QString entender(const QStringList& argumentos, Pedido& p)
+{
+    QStringList sueltos;
+    for (qsizetype i = 0; i < argumentos.size(); ++i) {
+        const QString& a = argumentos[i];
+        if (a == u"--campos")
+            p.campos = true;
+        else if (a == u"--json")
+            p.json = true;
+        else if (a == u"--ayuda" || a == u"--help" || a == u"-h")
+            p.ayuda = true;
+        else if (a == u"--codigo" && i + 1 < argumentos.size())
+            p.codigo = argumentos[++i];
+        else if (a == u"--codigo")
+            return u"Falta el CÓDIGO."_s;
+        else if (a.startsWith(u"--codigo="_s))
+            p.codigo = a.mid(a.indexOf(u'=') + 1);
+        else if (a.startsWith(u'-'))
+            return u"No existe la opción «%1»."_s.arg(a);
+        else
+            sueltos << a;
+    }
+    if (p.ayuda)
+        return {};
+    if (sueltos.size() != 1)
+        return sueltos.isEmpty() ? u"Falta la ENTRADA."_s : u"Sobra «%1»."_s.arg(sueltos.constLast());
+    p.entrada = sueltos.constFirst();
+    return {};
+}
 
 // Deeds, parties, properties and operations are numbered by three digits: 999 deeds with 999 of each are three
 // quarters of this. What is larger is no return, and is not read into memory.
@@ -106,6 +160,33 @@ QString linea_de(const FallaLectura& f)
     return t + u": "_s + f.mensaje;
 }
 
+QString linea_de(const RarezaLeida& r)
+{
+    const QString que = r.campo.isEmpty() ? u"no se puede saber qué campo falta o sobra (largo %1, previsto %2)"_s
+                        : r.largo == 0    ? u"falta %3, como el formato admite"_s
+                                          : u"%3 tiene otro largo (%1, previsto %2)"_s;
+    return u"registros %1: %2: %3, el primero en la línea %4"_s.arg(
+        QString(QLatin1Char(r.tipo)),
+        QString(que)
+            .replace(u"%1"_s, QString::number(r.largo))
+            .replace(u"%2"_s, QString::number(r.previsto))
+            .replace(u"%3"_s, r.campo),
+        r.veces == 1 ? u"1 vez"_s : u"%1 veces"_s.arg(r.veces), QString::number(r.linea));
+}
+
+QJsonArray en_json(const std::vector<RarezaLeida>& rarezas)
+{
+    QJsonArray lista;
+    for (const RarezaLeida& r : rarezas)
+        lista << QJsonObject{{u"tipo"_s, QString(QLatin1Char(r.tipo))},
+                             {u"campo"_s, r.campo},
+                             {u"largo"_s, r.largo},
+                             {u"previsto"_s, r.previsto},
+                             {u"veces"_s, r.veces},
+                             {u"linea"_s, r.linea}};
+    return lista;
+}
+
 QJsonArray en_json(const std::vector<FallaLectura>& fallas)
 {
     QJsonArray lista;
@@ -151,6 +232,7 @@ QJsonObject resumen_json(const LecturaDJ& l, const QJsonArray& registros)
             {u"totalEscrituras"_s, l.totalEscrituras},
             {u"fallas"_s, en_json(l.fallas)},
             {u"avisos"_s, en_json(l.avisos)},
+            {u"rarezas"_s, en_json(l.rarezas)},
             {u"registros"_s, registros}};
 }
 
@@ -164,11 +246,11 @@ void resumir(const QString& ruta, const LecturaDJ& l)
         if (const auto it = l.registros.find(r.tipo); it != l.registros.end())
             decir(
                 u"  registros %1 (%2): %3"_s.arg(QLatin1Char(r.tipo)).arg(QString::fromUtf8(r.titulo)).arg(it->second));
-    decir(u"Total retenido: %1; las escrituras suman %2"_s.arg(l.totalRetenido, 0, 'f', 2)
-              .arg(l.totalEscrituras, 0, 'f', 2));
+    decir(u"Total retenido: $ %1; las escrituras suman $ %2"_s.arg(importe_agrupado(l.totalRetenido),
+                                                                   importe_agrupado(l.totalEscrituras)));
     decir(u"Código de integridad: "_s + l.codigo);
-    for (const FallaLectura& f : l.avisos)
-        decir(u"Aviso:"_s + linea_de(f));
+    for (const RarezaLeida& r : l.rarezas)
+        decir(u"Aviso:  "_s + linea_de(r));
     for (const FallaLectura& f : l.fallas)
         decir(u"Falla:"_s + linea_de(f));
     decir(l.fallas.empty() ? u"Todo está bien."_s : u"Hay %1 fallas."_s.arg(l.fallas.size()));
@@ -179,35 +261,34 @@ void resumir(const QString& ruta, const LecturaDJ& l)
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
-    QCommandLineParser a;
-    a.setApplicationDescription(u"Lee y revisa el archivo de una declaración jurada emitida."_s);
-    a.addHelpOption();
-    a.addOption({u"codigo"_s, u"Código impreso en el papel, para comparar."_s, u"código"_s});
-    a.addOption({u"campos"_s, u"Lista cada campo."_s});
-    a.addOption({u"json"_s, u"Da todo como JSON."_s});
-    a.addPositionalArgument(u"entrada"_s, u"Archivo, carpeta o archivo RAR."_s);
-    a.process(aplicacion);
-    if (a.positionalArguments().size() != 1)
-        a.showHelp(NO_SE_LEE);
-    const QString ruta = a.positionalArguments().constFirst();
+    Pedido p;
+    if (const QString mal = entender(QCoreApplication::arguments().mid(1), p); !mal.isEmpty()) {
+        std::fprintf(stderr, "leer_dj: %s\n\n%s", visible(mal.toStdString()).c_str(), AYUDA);
+        return NO_SE_LEE;
+    }
+    if (p.ayuda) {
+        std::fputs(AYUDA, stdout);
+        return EXIT_SUCCESS;
+    }
     try {
-        const QByteArray bytes = leer_entrada_de(ruta);
-        const bool json = a.isSet(u"json"_s);
+        const QByteArray bytes = leer_entrada_de(p.entrada);
         QJsonArray registros_json;
         LecturaDJ l = leer_archivo_dj(bytes, [&](const RegistroLeido& r) {
-            if (json)
+            if (p.json)
                 registros_json << registro_json(r);
-            else if (a.isSet(u"campos"_s))
+            else if (p.campos)
                 mostrar_campos(r);
         });
-        QString codigo = a.value(u"codigo"_s).toUpper();
-        if (codigo.remove(u' '); !codigo.isEmpty() && codigo != l.codigo)
+        // As it is read from paper: in groups, in any letters.
+        QString codigo = p.codigo.toUpper();
+        codigo.removeIf([](QChar c) { return c.isSpace(); });
+        if (!codigo.isEmpty() && codigo != l.codigo)
             l.fallas.push_back({0, 0, {}, codigo, u"el código del papel no es el del archivo ("_s + l.codigo + u')'});
-        if (json)
+        if (p.json)
             std::fputs(visible_json(QJsonDocument(resumen_json(l, registros_json)).toJson().toStdString()).c_str(),
                        stdout);
         else
-            resumir(ruta, l);
+            resumir(p.entrada, l);
         if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0)
             fallar(u"no se pudo escribir la salida"_s);
         return l.fallas.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
