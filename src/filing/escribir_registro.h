@@ -3,7 +3,7 @@
 #pragma once
 
 #include "filing/codificacion.h"
-#include "filing/registros.h"
+#include "tree/registros.h"
 
 #include <stdexcept>
 #include <vector>
