@@ -8,7 +8,7 @@
 #include "declarations/copiar_dj.h"
 #include "filing/archivo_dj.h"
 #include "filing/lector_dj.h"
-#include "filing/registros.h"
+#include "tree/registros.h"
 #include "tree/modABM_dj.h"
 
 #include <rar5.h>

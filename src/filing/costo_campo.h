@@ -2,7 +2,7 @@
 // Whether a piece of a record may be a field, and what it costs to take it for one.
 #pragma once
 
-#include "filing/registros.h"
+#include "tree/registros.h"
 
 #include <string_view>
 #include <utility>

@@ -7,6 +7,7 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <cstring>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +57,17 @@ size_t largo_letra(std::string_view t)
     return n;
 }
 
+// Characters of a text that count against its field's width; nothing for a field that takes any text.
+std::optional<qsizetype> contados(Clase clase, std::string_view t)
+{
+    switch (clase) {
+    case Clase::texto: return largo(t);
+    case Clase::recortado:
+    case Clase::contenido: return largo(recortar(t));
+    default: return {};
+    }
+}
+
 }  // namespace
 
 ErrorRegistro::ErrorRegistro(const QString& registro_, int renglon_, const QString& detalle_)
@@ -101,6 +113,21 @@ bool EscritorRegistro::vale(const CampoRegistro& c, int columna) const
                && texto_de(sentencia_, columnaAlcanzado_) != "S");
 }
 
+std::vector<ValorQueNoEntra> EscritorRegistro::revisar() const
+{
+    std::vector<ValorQueNoEntra> fallas;
+    for (size_t i = 0; i < columnas_.size(); ++i) {
+        const CampoRegistro& c = registro_.campos[i];
+        if (c.forma.clase == Clase::literal)
+            continue;
+        const bool nulo = !vale(c, columnas_[i]);
+        const auto n = nulo ? std::nullopt : contados(c.forma.clase, texto_de(sentencia_, columnas_[i]));
+        if ((nulo && c.forma.nuloEsFalla) || n.value_or(0) > c.ancho)
+            fallas.push_back({c.nombre, n.value_or(0), c.ancho});
+    }
+    return fallas;
+}
+
 void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida) const
 {
     if (c.forma.clase == Clase::literal) {
@@ -121,9 +148,9 @@ void EscritorRegistro::campo(const CampoRegistro& c, int columna, Piezas& salida
         if (!nulo)
             escribir_cifras(sqlite3_column_double(sentencia_, columna) * c.forma.factor, c.ancho, salida);
         break;
-    case Clase::texto: rellenar(c, t, largo(t), salida); break;
-    case Clase::recortado: rellenar(c, t, largo(recortar(t)), salida); break;
-    case Clase::contenido: rellenar(c, recortar(t), largo(recortar(t)), salida); break;
+    case Clase::texto:
+    case Clase::recortado: rellenar(c, t, *contados(c.forma.clase, t), salida); break;
+    case Clase::contenido: rellenar(c, recortar(t), *contados(c.forma.clase, t), salida); break;
     case Clase::talCual: salida.utf8(t); break;
     case Clase::siNo: salida.ascii(!nulo && sqlite3_column_int(sentencia_, columna) != 0 ? "S" : "N"); break;
     case Clase::primeraLetra: salida.utf8(t.empty() ? std::string_view(" ") : t.substr(0, largo_letra(t))); break;

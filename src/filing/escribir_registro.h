@@ -3,7 +3,7 @@
 #pragma once
 
 #include "filing/codificacion.h"
-#include "filing/registros.h"
+#include "tree/registros.h"
 
 #include <stdexcept>
 #include <vector>
@@ -20,6 +20,14 @@ public:
     QString detalle;
 };
 
+/// A value of a row that its field can't take.
+struct ValorQueNoEntra
+{
+    const char* campo = nullptr;
+    qsizetype largo = 0;  ///< characters that it has; 0 for a null where a value must stand
+    int ancho = 0;        ///< and that the field takes
+};
+
 /// Writes the rows of one statement; the places of the columns are found once.
 class EscritorRegistro
 {
@@ -28,6 +36,8 @@ public:
 
     /// Appends the record of the current row, without its line end. Throws ErrorRegistro.
     void escribir(Piezas& salida) const;
+    /// What of the current row would stop `escribir`, all of it.
+    [[nodiscard]] std::vector<ValorQueNoEntra> revisar() const;
 
 private:
     void campo(const CampoRegistro& c, int columna, Piezas& salida) const;

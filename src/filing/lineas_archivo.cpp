@@ -3,7 +3,7 @@
 #include "filing/lineas_archivo.h"
 
 #include "filing/codificacion.h"
-#include "filing/registros.h"
+#include "tree/registros.h"
 
 LineasArchivo::LineasArchivo(std::string_view bytes) : bytes_(bytes)
 {

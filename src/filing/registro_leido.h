@@ -2,7 +2,7 @@
 // One record of a return file with the places of its fields.
 #pragma once
 
-#include "filing/registros.h"
+#include "tree/registros.h"
 
 #include <array>
 #include <cstring>

@@ -71,6 +71,30 @@ TEST_F(Pantallas, EmisionQueNoHaceArchivo)
         [&] { pulsar(f, "tlbDJ"_u, "emitir"_u); });
 }
 
+// All of them in one box, before anything is made.
+TEST_F(Pantallas, LoQueNoEntraEnElArchivoSeDiceAntesDeEmitir)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 12, 1, 1, "P", "N");
+    cnRtn.ejecutarGuion(
+        "update SEL_TB_RTN_DETDJ set SNAD_ID=1, SEDD_FOLIO=null; "
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD) values "
+        "(1, '%1', 1, '96', '22333444', '%2', 'A'); "
+        "insert into SEL_TB_RTN_INS_INMUEBLES (SEDJ_NRO, SEDD_ID, SEII_ID, SEII_PARTIDA, SEII_UBIC_CALLE, SEII_UBIC_NRO) values "
+        "('%1', 1, 1, '55', 'AVENIDA DEL LIBERTADOR', '  1234567890  ')"_u.arg(dj, QString(60, u'Ñ')));
+    auto* f = cargar<frmDJ_buscar>();
+    f->mostrar();
+    Cajas::durante(
+        {{"La declaración jurada tiene valores que no entran en el archivo a presentar. Corríjalos y vuelva a emitirla.\n\n"
+          "Escritura Nº 12: Folio no tiene valor\n"
+          "Escritura Nº 12, parte 1 %1: Denominación tiene 60 caracteres, y entran 50\n"
+          "Escritura Nº 12, inmueble 1 55: Calle tiene 22 caracteres, y entran 10"_u.arg(QString(40, u'Ñ')),
+          "Emitir DJ "_u + dj, true, QMessageBox::Warning, true}},
+        [&] { pulsar(f, "tlbDJ"_u, "emitir"_u); });
+    EXPECT_FALSE(QFile::exists(carpeta.path() + "/data"_u));
+    EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), "null"_u);
+}
+
 TEST_F(Pantallas, EditorDeDJEstadoPorEstado)
 {
     auto* lista = cargar<frmDJ_buscar>();

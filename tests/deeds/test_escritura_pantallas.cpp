@@ -3,6 +3,8 @@
 
 #include "apoyo/pantallas.h"
 
+#include <QAction>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace {
@@ -178,6 +180,31 @@ TEST_F(Pantallas, ElReciboSeVaConLaUltimaOperacion)
                        [&] { pulsar(e, "tlbOp"_u, "quitar"_u); });
         EXPECT_EQ(habilitado(e, "tlbDetalle"_u, "recibo"_u), queda);
     }
+}
+
+// A text past what is emitted says so at once, and is stored all the same.
+TEST_F(Pantallas, UnTextoMasLargoQueLoEmitidoLlevaUnaMarca)
+{
+    nueva_escritura(nueva_dj(), 1, 1, 1, 1);
+    pulsar(abrirEscritura(false), "tlbInm"_u, "agregar"_u);
+    auto* f = formulario("frmDJ_editar_inmueble");
+    auto* calle = qobject_cast<QLineEdit*>(control(f, "txtU_calle"_u));
+    const auto* marca = calle->findChild<QAction*>("largo"_u);
+    ASSERT_TRUE(marca);
+    teclear(f, "txtU_calle"_u, " belgrano 5"_u);
+    EXPECT_FALSE(marca->isVisible());
+    caracteres(calle, "0"_u);
+    EXPECT_TRUE(marca->isVisible());
+    EXPECT_EQ(calle->toolTip(), "La declaración jurada emitida toma 10 caracteres"_u);
+    QTest::keyClick(calle, Qt::Key_Backspace);
+    EXPECT_FALSE(marca->isVisible());
+    EXPECT_EQ(calle->toolTip(), QString());
+    caracteres(calle, "55"_u);
+    escribir(f, "txtINM_partida"_u, "1"_u);
+    escribir(f, "nroValFiscal"_u, "10"_u);
+    elegir(f, "cboU_caracter"_u, "URBANO"_u);
+    pulsar(f, "tlb"_u, "aceptar"_u);
+    EXPECT_EQ(dato("select SEII_UBIC_CALLE from SEL_TB_RTN_INS_INMUEBLES"_u), " belgrano 555"_u);
 }
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include "filing/carpetas_dj.h"
 #include "filing/codificacion.h"
 #include "filing/lector_dj.h"
-#include "filing/registros.h"
+#include "tree/registros.h"
 
 #include <QCryptographicHash>
 #include <QDir>

@@ -14,6 +14,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
 #include <algorithm>
 #include <cstdio>
@@ -261,6 +262,7 @@ void resumir(const QString& ruta, const LecturaDJ& l)
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
+    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     Pedido p;
     if (const QString mal = entender(QCoreApplication::arguments().mid(1), p); !mal.isEmpty()) {
         std::fprintf(stderr, "leer_dj: %s\n\n%s", visible(mal.toStdString()).c_str(), AYUDA);

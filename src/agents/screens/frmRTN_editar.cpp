@@ -3,9 +3,11 @@
 #include "agents/screens/frmRTN_editar.h"
 
 #include "agents/agente.h"
+#include "tree/registros.h"
 #include "ui_frmRTN_editar.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/enlaces.h"
+#include "widgets/marca_largo.h"
 #include "widgets/mensajes.h"
 
 #include <QRegularExpressionValidator>
@@ -32,6 +34,16 @@ constexpr Enlace<Agente> CAMPOS[] = {
 frmRTN_editar::frmRTN_editar() : ui(std::make_unique<Ui::frmRTN_editar>())
 {
     ui->setupUi(this);
+    const LargoEmitido largos[] = {
+        {"txtTitular", ancho_emitido("SEDJ_TITULAR_NOMBRE")},
+        {"txtDomicilio", ancho_emitido("SEDJ_DOMICILIO")},
+        {"txtCodPostal", ancho_emitido("SEDJ_CODPOSTAL")},
+        {"txtTelefono", ancho_emitido("SEDJ_TELEFONO")},
+        {"txtEmail", ancho_emitido("SEDJ_EMAIL")},
+        {"txtAdscripto1_nombre", ancho_emitido("SEDJ_ADSCRIPTO1_NOMBRE")},
+        {"txtAdscripto2_nombre", ancho_emitido("SEDJ_ADSCRIPTO2_NOMBRE")},
+    };
+    marcar_largos(this, largos);
     for (QLineEdit* texto :
          {ui->txtTitular, ui->txtDomicilio, ui->txtCodPostal, ui->txtAdscripto1_nombre, ui->txtAdscripto2_nombre})
         a_mayusculas(texto);

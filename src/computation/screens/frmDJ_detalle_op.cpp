@@ -6,8 +6,10 @@
 #include "computation/moneda.h"
 #include "computation/operacion.h"
 #include "computation/screens/frmDetalleSSUB.h"
+#include "tree/registros.h"
 #include "ui_frmDJ_detalle_op.h"
 #include "widgets/ctlComunes.h"
+#include "widgets/marca_largo.h"
 #include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,11 @@ using namespace Qt::StringLiterals;
 frmDJ_detalle_op::frmDJ_detalle_op() : ui(std::make_unique<Ui::frmDJ_detalle_op>())
 {
     ui->setupUi(this);
+    const LargoEmitido largos[] = {
+        {"txtObligAccesoria_poliza", ancho_emitido("SINS_OBLIG_ACCESORIA_POLIZA")},
+        {"txtObs", ancho_emitido("SINS_OBS")},
+    };
+    marcar_largos(this, largos);
     prepararGrillas();
     prepararEditorDeRoles();
     llenar_combo(ui->cboMoneda, monedas());

@@ -9,6 +9,7 @@
 #include "declarations/screens/frmDJ_editar.h"
 #include "filing/archivo_dj.h"
 #include "filing/empaquetado.h"
+#include "filing/valores_largos.h"
 #include "filing/verificacion.h"
 #include "printing/screens/frmReportes.h"
 #include "ui_frmDJ_buscar.h"
@@ -167,6 +168,13 @@ void frmDJ_buscar::emitir()
     const QString nro = ui->flx->clave();
     if (!verificar_dj_completa(nro, windowTitle(), dialogo))
         return;
+    if (const QStringList valores = valores_que_no_entran(nro); !valores.isEmpty()) {
+        avisar(u"La declaración jurada tiene valores que no entran en el archivo a presentar. "
+               u"Corríjalos y vuelva a emitirla.\n\n"_s
+                   + valores.join(u'\n'),
+               u"Emitir DJ "_s + nro, Icono::exclamacion);
+        return;
+    }
     const EmisionArchivo emision = generar_archivo_dj(nro);
     if (emision.codigo.isEmpty()) {
         dialogo.avisar(

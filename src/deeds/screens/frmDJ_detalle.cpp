@@ -3,8 +3,10 @@
 
 #include "deeds/screens/frmDJ_detalle.h"
 
+#include "tree/registros.h"
 #include "ui_frmDJ_detalle.h"
 #include "widgets/ctlComunes.h"
+#include "widgets/marca_largo.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +29,12 @@ Entradas entradas_estado()
 frmDJ_detalle::frmDJ_detalle() : ui(std::make_unique<Ui::frmDJ_detalle>())
 {
     ui->setupUi(this);
+    const LargoEmitido largos[] = {
+        {"txtFolio", ancho_emitido("SEDD_FOLIO")},
+        {"txtObs", ancho_emitido("SEDD_OBSERVACIONES")},
+        {"txtNoAlcanzado_Otro", ancho_emitido("NOA_DESC")},
+    };
+    marcar_largos(this, largos);
     ui->nroDia->ClearText();
     llenar_combo(ui->cboDET_Estado, entradas_estado());
     ui->cboDET_Estado->setCurrentIndex(int(EstadoEscritura::paso));

@@ -4,9 +4,11 @@
 
 #include "deeds/inmueble.h"
 #include "tree/modABM_dj.h"
+#include "tree/registros.h"
 #include "ui_frmDJ_editar_inmueble.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/enlaces.h"
+#include "widgets/marca_largo.h"
 #include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,29 @@ const QString EXTRANA = u"EXTRAÑA JURISDICCION"_s;
 frmDJ_editar_inmueble::frmDJ_editar_inmueble() : ui(std::make_unique<Ui::frmDJ_editar_inmueble>())
 {
     ui->setupUi(this);
+    const LargoEmitido largos[] = {
+        {"txtINM_partida", ancho_emitido("SEII_PARTIDA")},
+        {"txtINMObs", ancho_emitido("SEII_OBSERVACIONES")},
+        {"txtU_Lote", ancho_emitido("SEII_UBIC_LOTE")},
+        {"txtU_Manzana", ancho_emitido("SEII_UBIC_MANZANA")},
+        {"txtU_UnidadFuncional", ancho_emitido("SEII_UBIC_UFUNCIONAL")},
+        {"txtU_circulacion", ancho_emitido("SEII_UBIC_CIRCULACION")},
+        {"txtU_piso", ancho_emitido("SEII_UBIC_PISO")},
+        {"txtU_dpto", ancho_emitido("SEII_UBIC_DPTO")},
+        {"txtU_calle", ancho_emitido("SEII_UBIC_CALLE")},
+        {"txtU_Nro", ancho_emitido("SEII_UBIC_NRO")},
+        {"txtU_Barrio", ancho_emitido("SEII_UBIC_BARRIO")},
+        {"txtU_Departamento", ancho_emitido("SEII_UBIC_DEPARTAMENTO")},
+        {"txtNC_Seccion", ancho_emitido("SEII_NCAT_SECCION")},
+        {"txtNC_Fraccion", ancho_emitido("SEII_NCAT_FRACCION")},
+        {"txtNC_Lote", ancho_emitido("SEII_NCAT_LOTE")},
+        {"txtNC_Ejido", ancho_emitido("SEII_NCAT_EJIDO")},
+        {"txtNC_Circunscripción", ancho_emitido("SEII_NCAT_CIRCUNSCRIPCION")},
+        {"txtNC_Sector", ancho_emitido("SEII_NCAT_SECTOR")},
+        {"txtNC_Manzana", ancho_emitido("SEII_NCAT_MANZANA")},
+        {"txtNC_parcela", ancho_emitido("SEII_NCAT_PARCELA")},
+    };
+    marcar_largos(this, largos);
     solo_digitos_en(ui->txtINM_partida);
     llenar_combo(ui->cboU_caracter, caracteres_ubicacion());
     llenar_combo(ui->cboProv, provincias());

@@ -5,9 +5,11 @@
 
 #include "parties/parte.h"
 #include "tree/modABM_dj.h"
+#include "tree/registros.h"
 #include "ui_frmDJ_detalle_parte.h"
 #include "widgets/ctlComunes.h"
 #include "widgets/enlaces.h"
+#include "widgets/marca_largo.h"
 #include "widgets/mensajes.h"
 
 using namespace Qt::StringLiterals;
@@ -33,6 +35,14 @@ constexpr Enlace<ControlesParte> FIJOS[] = {
 frmDJ_detalle_parte::frmDJ_detalle_parte() : ui(std::make_unique<Ui::frmDJ_detalle_parte>())
 {
     ui->setupUi(this);
+    const LargoEmitido largos[] = {
+        {"txtPasaporte", ancho_emitido("SPIN_NRODOC")},
+        {"txtRazonSocial", ancho_emitido("SPIN_RSOCIAL")},
+        {"txtDomicilio", ancho_emitido("SPIN_DOMICILIO")},
+        {"txtCP", ancho_emitido("SPIN_CODPOSTAL")},
+        {"txtObs", ancho_emitido("SPIN_OBS")},
+    };
+    marcar_largos(this, largos);
     for (QRadioButton* opcion : {ui->optArgentina, ui->optExtranjera})
         marcar_boton(opcion, false);
     llenar_combo(ui->cboTipoSociedad, tipos_sociedad_con_digito());

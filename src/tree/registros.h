@@ -96,6 +96,9 @@ struct Registro
 /// The eight records in the order of the file.
 [[nodiscard]] std::span<const Registro> registros();
 
+/// Characters that the return takes of a text, by its column; throws std::out_of_range for one that is no text of it.
+[[nodiscard]] int ancho_emitido(const char* columna);
+
 /// What stands around the text of a testimonio in record 8.
 constexpr const char* MARCA_INICIO = "<_d59fb4af70161c458a82b02558160ca6_tag_ini_tes>";
 constexpr const char* MARCA_FIN = "<_d59fb4af70161c458a82b02558160ca6_tag_fin_tes>";

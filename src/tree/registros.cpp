@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "filing/registros.h"
+#include "tree/registros.h"
+
+#include <cstring>
+#include <stdexcept>
 
 namespace {
 
@@ -170,4 +173,13 @@ int Registro::ancho() const
 QString Registro::consulta(const QString& nro) const
 {
     return QString::fromUtf8(consultaAntes) + nro + QString::fromUtf8(consultaDespues);
+}
+
+int ancho_emitido(const char* columna)
+{
+    for (const Registro& r : REGISTROS)
+        for (const CampoRegistro& c : r.campos)
+            if (std::strcmp(c.nombre, columna) == 0)
+                return c.ancho;
+    throw std::out_of_range(columna);
 }
