@@ -4,6 +4,7 @@
 
 #include "apoyo/apoyo.h"
 #include "payment/boletas.h"
+#include "printing/screens/letra.h"
 #include "printing/screens/rptInforme.h"
 #include "printing/screens/rptRTN_boldep1.h"
 #include "printing/screens/rptSalida.h"
@@ -25,6 +26,7 @@ protected:
     }
     QString pdf(Informe& informe)
     {
+        nada_se_toca(informe);
         const QString archivo = carpeta.path() + "/informe.pdf"_u;
         EXPECT_TRUE(guardar_pdf(informe, archivo, "T"_u));
         if (const QString papeles = qEnvironmentVariable("PAPELES"); !papeles.isEmpty()) {
@@ -35,12 +37,44 @@ protected:
         }
         return archivo;
     }
+    /// On no page of a form lies a text over another, a line or a bar, nor leaves its place or the margins.
+    static void nada_se_toca(Informe& informe)
+    {
+        for (int n = 0; n < informe.paginas(); ++n) {
+            const Pagina pagina = *informe.pagina(n);
+            QList<QRectF> tinta = QList<QRectF>(pagina.barras.begin(), pagina.barras.end()) + lineas_de(pagina);
+            for (const TextoImpreso& t : pagina.textos) {
+                const double ancho = ancho_texto(t.texto, t.puntos, t.negrita);
+                const double sobra = t.lugar.width() - ancho;
+                const double de_la_izquierda = t.alineacion == Alineacion::derecha  ? sobra
+                                               : t.alineacion == Alineacion::centro ? sobra / 2
+                                                                                    : 0;
+                const double em = t.puntos * MM_POR_PULGADA / 72;
+                // From the top of a capital to what hangs below the line.
+                const QRectF letras(t.lugar.left() + de_la_izquierda, t.lugar.top() + 0.2 * em, ancho, 0.94 * em);
+                EXPECT_GE(sobra, -0.01) << t.texto.toStdString();
+                EXPECT_TRUE(QRectF(11.9, 11.9, 186.2, 273.2).contains(letras)) << t.texto.toStdString();
+                for (const QRectF& otra : std::as_const(tinta))
+                    EXPECT_FALSE(letras.intersects(otra)) << t.texto.toStdString() << " sobre " << otra.top();
+                tinta << letras;
+            }
+        }
+    }
     /// The text of each page.
     QStringList textos(Informe& informe)
     {
         QStringList paginas = correr("pdftotext"_u, {"-layout"_u, pdf(informe), "-"_u}).split(u'\f');
         paginas.removeLast();
         return paginas;
+    }
+    static QList<QRectF> lineas_de(const Pagina& pagina)
+    {
+        QList<QRectF> lugares;
+        for (const LineaImpresa& l : pagina.lineas) {
+            const double mitad = l.grosor / 2;
+            lugares << QRectF(l.linea.p1(), l.linea.p2()).adjusted(-mitad, -mitad, mitad, mitad);
+        }
+        return lugares;
     }
     static EscrituraImpresa escritura(int n)
     {

@@ -81,20 +81,25 @@ Banda fila_de_casillas(std::span<const Casilla> casillas)
 
 void campo_largo(std::vector<Banda>& bandas, const QString& titulo, const QString& texto)
 {
-    Banda b;
-    b.contenido.texto({MARGEN, SOBRE_REGLA, ANCHO_UTIL, alto_linea(HOJA.rotulo)}, titulo, HOJA.rotulo);
-    b.alto = SOBRE_REGLA + alto_linea(HOJA.rotulo);
-    b.conLaSiguiente = true;
-    bandas.push_back(std::move(b));
-    for (const QString& linea : en_lineas(texto, ANCHO_UTIL, HOJA.dato)) {
+    const auto rotulo = [](const QString& t) {
+        Banda b;
+        b.contenido.texto({MARGEN, SOBRE_REGLA, ANCHO_UTIL, alto_linea(HOJA.rotulo)}, t, HOJA.rotulo);
+        b.alto = SOBRE_REGLA + alto_linea(HOJA.rotulo);
+        return b;
+    };
+    bandas.push_back(rotulo(titulo));
+    const QStringList lineas = en_lineas(texto, ANCHO_UTIL, HOJA.dato);
+    bandas.back().conLaSiguiente = !lineas.isEmpty();
+    const auto continuacion = std::make_shared<const Banda>(rotulo(titulo + u" (continuación)"_s));
+    for (const QString& linea : lineas) {
         Banda renglon;
         renglon.contenido.texto({MARGEN, 0, ANCHO_UTIL, FILA}, linea, HOJA.dato);
         renglon.alto = FILA;
+        renglon.alAbrir = continuacion;
         bandas.push_back(std::move(renglon));
     }
     // The rule goes with the last line.
     Banda& ultima = bandas.back();
-    ultima.conLaSiguiente = false;
     ultima.alto += SOBRE_REGLA;
     regla_fina(ultima.contenido, ultima.alto);
 }

@@ -89,7 +89,7 @@ template <class Datos, size_t N>
     return filas;
 }
 
-/// A text of any length under its title, over a thin rule: a band a line, and the title on the first.
+/// A text of any length under its title, over a thin rule: a band a line. On a new page it names itself again.
 void campo_largo(std::vector<Banda>& bandas, const QString& titulo, const QString& texto);
 
 }  // namespace estilo

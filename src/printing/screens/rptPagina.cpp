@@ -12,6 +12,12 @@ constexpr double PUNTOS_MINIMOS = 3.25;
 // What lines may be higher than their place by rounding, in millimetres.
 constexpr double HOLGURA = 0.01;
 
+// From the top of a line to the base that its letters stand on.
+double base(double puntos)
+{
+    return letra(puntos, false).subida / UNIDADES;
+}
+
 }  // namespace
 
 void Pagina::texto(QRectF lugar, const QString& t, double puntos, Alineacion alineacion, bool negrita)
@@ -22,6 +28,7 @@ void Pagina::texto(QRectF lugar, const QString& t, double puntos, Alineacion ali
 
 void Pagina::ajustado(QRectF lugar, const QString& texto_, double puntos, Alineacion alineacion, bool negrita)
 {
+    const double pedidos = puntos;
     QStringList renglones = en_lineas(texto_, lugar.width(), puntos, negrita);
     // One line always has its place, however low that is.
     while (puntos > PUNTOS_MINIMOS && renglones.size() > 1
@@ -29,7 +36,8 @@ void Pagina::ajustado(QRectF lugar, const QString& texto_, double puntos, Alinea
         puntos -= 0.25;
         renglones = en_lineas(texto_, lugar.width(), puntos, negrita);
     }
-    double y = lugar.top();
+    // A single line stands on the same base as its neighbours.
+    double y = lugar.top() + (renglones.size() == 1 ? base(pedidos) - base(puntos) : 0);
     for (const QString& renglon : renglones) {
         texto({lugar.left(), y, lugar.width(), alto_linea(puntos)}, renglon, puntos, alineacion, negrita);
         y += alto_linea(puntos);

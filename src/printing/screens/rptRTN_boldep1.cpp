@@ -52,13 +52,14 @@ struct ImporteBoleta
 constexpr ImporteBoleta IMPORTES[] = {
     {138, 11.2, 48, "Impuesto $", &B::importe}, {138, 14.8, 48, "Interés $", &B::interes},
     {138, 18.4, 48, "Multa $", &B::multa},      {138, 22.8, 48, "Total $", &B::total, true},
-    {0, 32, 132, "Efectivo $", &B::efectivo},
+    {0, 31.6, 132, "Efectivo $", &B::efectivo},
 };
 constexpr double ANCHO_IMPORTE = 33;
 constexpr double FILA_IMPORTE = 3.7;
+constexpr double FILA_PAGO = 4.4;  // two lines, when a bank's name needs them
 constexpr double SOBRE_TOTAL = 22.3;
 
-constexpr double FILA_CHEQUES = 35.9;
+constexpr double FILA_CHEQUES = 36;
 constexpr double ANCHO_CHEQUE = 132;
 constexpr QRectF LETRAS{0, 45.9, ANCHO_UTIL, 3.6};
 constexpr QRectF SELLO{138, 27.6, 48, 17.6};
@@ -78,7 +79,7 @@ QString como_texto(const QDate& fecha)
 void poner_importe(Pagina& p, double x, double y, double ancho, const QString& titulo, double importe,
                    bool fuerte = false)
 {
-    p.ajustado({MARGEN + x, y, ancho - ANCHO_IMPORTE, FILA_IMPORTE}, titulo, PUNTOS, Alineacion::izquierda, fuerte);
+    p.ajustado({MARGEN + x, y, ancho - ANCHO_IMPORTE, FILA_PAGO}, titulo, PUNTOS, Alineacion::izquierda, fuerte);
     p.ajustado({MARGEN + x + ancho - ANCHO_IMPORTE, y, ANCHO_IMPORTE, FILA_IMPORTE}, importe_agrupado(importe), PUNTOS,
                Alineacion::derecha, fuerte);
 }
@@ -99,7 +100,7 @@ void poner_cheques(Pagina& p, const B& b)
     for (const auto& c : b.cheques) {
         if (c.monto != 0 || !c.nro.isEmpty())
             poner_importe(p, 0, y, ANCHO_CHEQUE, u"Cheque Nº %1 %2 $"_s.arg(c.nro, c.banco), c.monto);
-        y += FILA_IMPORTE;
+        y += FILA_PAGO;
     }
 }
 

@@ -14,8 +14,8 @@ namespace {
 using C = CabeceraImpresa;
 
 const Campo<C> CAMPOS[] = {
-    {0, 0, 26, "Agente de Retención Nº", &C::agenteNro},
-    {0, 30, 114, "Escribano titular", &C::titular},
+    {0, 0, 34, "Agente de Retención Nº", &C::agenteNro},
+    {0, 36, 108, "Escribano titular", &C::titular},
     {0, 146, 40, "CUIT", &C::cuit},
     {1, 0, 94, "Domicilio", &C::domicilio},
     {1, 96, 48, "Localidad", &C::localidad},
@@ -91,7 +91,7 @@ Banda rpt_dj_sin_mov::firmas() const
 {
     Banda firma;
     firma.conLaSiguiente = true;
-    firma.alto = RENGLON_FIRMA + 8;
+    firma.alto = RENGLON_FIRMA + 11;
     firma.contenido.texto(
         {MARGEN, 0, ANCHO_UTIL, FILA},
         u"Declaro bajo juramento que los datos consignados son correctos y completos, sin omitir ni falsear dato alguno."_s,
