@@ -13,9 +13,12 @@ namespace {
 constexpr int TIPO_MENSUAL = 0;
 constexpr int LARGO_SIN_SECUENCIA = 20;
 
+// Under a mask of `ancho` zeros; what does not fit is longer, and so is what has a sign.
 QString en_centavos(const Numero& n, int ancho)
 {
-    return formato_decimal(n.Value() * 100, 0).rightJustified(ancho, u'0');
+    const QString cifras = formato_decimal(n.Value() * 100, 0);
+    const qsizetype signo = cifras.startsWith(u'-') ? 1 : 0;
+    return cifras.left(signo) + cifras.mid(signo).rightJustified(ancho, u'0');
 }
 
 struct ValorColumna
@@ -92,8 +95,10 @@ QString insertar_boleta(const ControlesBoleta& c)
     Transaccion t(cnRtn);
     if (insertar(u"SEL_TB_RTN_BOLDEP"_s, columnas) != 1)
         return {};
-    cnRtn.ejecutar(u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='%1' where SBDI_NROBOLETA='%2'"_s.arg(
-        codigo_barras_boleta(nro, c), nro));
+    // The row of just now alone: past sequence 99 an earlier slip may have the same number and its own code.
+    cnRtn.ejecutar(
+        u"update SEL_TB_RTN_BOLDEP set SBDI_CODIGO_BARRAS='%1' where SBDI_NROBOLETA='%2' and SBDI_ID=last_insert_rowid()"_s
+            .arg(codigo_barras_boleta(nro, c), nro));
     t.confirmar();
     return nro;
 }

@@ -37,12 +37,16 @@ struct ControlesBoleta
     QString filial;
 };
 
+/// Digits of a slip's bar code.
+constexpr int LARGO_CODIGO_BOLETA = 80;
+
 /// Trims the texts of the cheques; gives the first thing wrong.
 [[nodiscard]] std::optional<Falla> validar_boleta(ControlesBoleta& c);
 
 /// "202", the DJ's number and its next sequence. Only the highest number counts.
 [[nodiscard]] QString proximo_nro_boleta(const QString& dj);
-/// The 80 digits that the bank reads: agreement, slip, due date, amounts and the check digit.
+/// The 80 digits that the bank reads: agreement, slip, due date, amounts and the check digit. Amounts that do not fit
+/// make it longer; `validar_boleta` refuses them.
 [[nodiscard]] QString codigo_barras_boleta(const QString& nroBoleta, const ControlesBoleta& c);
 /// Stores the slip and, in a second step, its code; gives its number, empty when no row went in.
 /// Throws ErrorAlmacen; then there is no slip.

@@ -28,6 +28,8 @@ std::optional<Falla> validar_boleta(ControlesBoleta& c)
         {hoy() > c.vencimiento, "El periodo se encuentra vencido. Ingrese el interes", "nroInteres"},
         {c.totalDepositar.Value() != c.totalBoleta.Value(),
          "El monto total de la boleta no coincide con el total retenido mas intereses", "nroTotalBoleta"},
+        {codigo_barras_boleta({}, c).size() > LARGO_CODIGO_BOLETA, "Los importes no entran en el código de barras",
+         "nroEfectivo"},
     });
     if (falla)
         falla->titulo = u"Generar boleta de deposito"_s;

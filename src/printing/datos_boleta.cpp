@@ -15,26 +15,8 @@ QString rectificativa(qint64 secuencia)
     return secuencia == 0 ? u"Original"_s : u"Rectif. "_s + QString::number(secuencia);
 }
 
-}  // namespace
-
-QString codigo_legible_boleta(const QString& codigo)
+BoletaImpresa leer_fila(const Recordset& rs)
 {
-    QString t;
-    for (int i = 0; i < 80; i += 10)
-        t += codigo.mid(i, 5) + u' ' + codigo.mid(i + 5, 5) + u"  "_s;
-    return t;
-}
-
-std::optional<BoletaImpresa> leer_boleta(const QString& nro)
-{
-    const Recordset rs(
-        cnRtn, u"SELECT SEL_TB_RTN_BOLDEP.*, iif(coalesce(SBDI_ANULADA,0),'Anulada','') AS Estado,"
-               u" C.SEDJ_TITULAR_NOMBRE, C.SEDJ_TITULAR_CUIT, C.SEDJ_MES, C.SEDJ_ANIO, C.SEDJ_SECUENCIA "
-               u" from SEL_TB_RTN_BOLDEP inner join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=SEL_TB_RTN_BOLDEP.SEDJ_NRO "
-               u" where SBDI_NROBOLETA='%1'"
-               u" order by SEL_TB_RTN_BOLDEP.SBDI_ID, SEL_TB_RTN_BOLDEP.SBDI_FECHA_EMISION"_s.arg(nro));
-    if (rs.eof())
-        return {};
     BoletaImpresa b;
     b.nro = rs.texto("SBDI_NROBOLETA");
     b.titular = rs.texto("SEDJ_TITULAR_NOMBRE");
@@ -57,4 +39,28 @@ std::optional<BoletaImpresa> leer_boleta(const QString& nro)
     b.cheques[1] = {rs.texto("SBDI_CHEQUE2_NRO"), rs.texto("SBDI_CHEQUE2_BANCO"), rs.real("SBDI_CHEQUE2_MONTO")};
     b.codigo = rs.texto("SBDI_CODIGO_BARRAS");
     return b;
+}
+
+}  // namespace
+
+QString codigo_legible_boleta(const QString& codigo)
+{
+    QString t;
+    for (int i = 0; i < 80; i += 10)
+        t += codigo.mid(i, 5) + u' ' + codigo.mid(i + 5, 5) + u"  "_s;
+    return t;
+}
+
+QList<BoletaImpresa> leer_boleta(const QString& nro)
+{
+    Recordset rs(cnRtn,
+                 u"SELECT SEL_TB_RTN_BOLDEP.*, iif(coalesce(SBDI_ANULADA,0),'Anulada','') AS Estado,"
+                 u" C.SEDJ_TITULAR_NOMBRE, C.SEDJ_TITULAR_CUIT, C.SEDJ_MES, C.SEDJ_ANIO, C.SEDJ_SECUENCIA "
+                 u" from SEL_TB_RTN_BOLDEP inner join SEL_TB_RTN_CABDJ C on C.SEDJ_NRO=SEL_TB_RTN_BOLDEP.SEDJ_NRO "
+                 u" where SBDI_NROBOLETA='%1'"
+                 u" order by SEL_TB_RTN_BOLDEP.SBDI_ID, SEL_TB_RTN_BOLDEP.SBDI_FECHA_EMISION"_s.arg(nro));
+    QList<BoletaImpresa> boletas;
+    for (; !rs.eof(); rs.siguiente())
+        boletas << leer_fila(rs);
+    return boletas;
 }

@@ -3,9 +3,8 @@
 #pragma once
 
 #include <QDate>
+#include <QList>
 #include <QString>
-
-#include <optional>
 
 struct BoletaImpresa
 {
@@ -19,8 +18,9 @@ struct BoletaImpresa
     } cheques[2];
     QString codigo;
 };
-/// Nothing without such a slip. Throws ErrorAlmacen.
-[[nodiscard]] std::optional<BoletaImpresa> leer_boleta(const QString& nro);
+/// The slips of this number in the order in which they were made: several where numbers repeat, none
+/// without such a slip or its DJ. Throws ErrorAlmacen.
+[[nodiscard]] QList<BoletaImpresa> leer_boleta(const QString& nro);
 
 /// The digits of a slip's code for reading: eight pairs of five, each pair with two blanks behind it.
 [[nodiscard]] QString codigo_legible_boleta(const QString& codigo);

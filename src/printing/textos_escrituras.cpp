@@ -7,6 +7,8 @@
 #include "core/redondeo.h"
 #include "printing/cuit_impreso.h"
 
+#include <QStringList>
+
 #include <map>
 
 using namespace Qt::StringLiterals;
@@ -30,16 +32,17 @@ void guardar_textos(const QString& columna, const QString& nro, const std::map<Q
             columna, toSQL(texto), nro, id));
 }
 
+// Behind the name of an Argentine party come its document and its CUIT, behind a foreign one's the country's code alone.
 QString texto_de_parte(const Recordset& rs)
 {
-    QString t = rs.texto("SPIN_RSOCIAL");
-    t += u' ' + rs.texto(rs.texto("SPIN_NACIONALIDAD") == u"A" ? "GTDC_DESCRIPCION" : "CPAI_CODIGO");
-    t += u' ' + rs.texto("SPIN_NRODOC");
-    if (const QString cuit = cuit_impreso(rs, "SPIN_CUIT"); !cuit.isEmpty() && cuit != rs.texto("SPIN_NRODOC"))
-        t += u' ' + cuit;
-    if (rs.logico("SPIN_CUIT_EN_TRAMITE"))
-        t += u" (CUIT en trámite)"_s;
-    return t.simplified() + u"; "_s;
+    QStringList piezas{rs.texto("SPIN_RSOCIAL")};
+    if (rs.texto("SPIN_NACIONALIDAD") != u"A")
+        piezas << rs.texto("CPAI_CODIGO");
+    else
+        piezas << rs.texto("GTDC_DESCRIPCION") << rs.texto("SPIN_NRODOC") << cuit_impreso(rs, "SPIN_CUIT")
+               << (rs.logico("SPIN_CUIT_EN_TRAMITE") ? u"(CUIT en trámite)"_s : QString());
+    piezas.removeAll(QString());
+    return piezas.join(u' ') + u"; "_s;
 }
 
 QString texto_de_inmueble(const Recordset& rs)

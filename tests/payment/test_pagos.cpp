@@ -45,6 +45,7 @@ TEST_F(Pagos, RevisionesDeLaBoletaEnSuOrden)
         const char* mensaje;
     };
     using C = ControlesBoleta;
+    constexpr const char* NO_ENTRAN = "Los importes no entran en el código de barras";
     for (const K& k :
          {K{[](C&) {}, "", ""},
           K{[](C& c) { c.efectivo.setValue(0); }, "nroEfectivo", "Ingrese la forma de pago en la boleta de depósito."},
@@ -75,6 +76,19 @@ TEST_F(Pagos, RevisionesDeLaBoletaEnSuOrden)
                 c.cheques[0].monto.setValue(-1);
                 c.totalBoleta.setValue(1233.56);
             },
+            "nroTotalBoleta", "El monto total de la boleta no coincide con el total retenido mas intereses"},
+          K{[](C& c) {
+                c.impuesto.setValue(9999999999.99);
+                c.interes.setValue(99999999.99);
+            },
+            "", ""},
+          K{[](C& c) { c.impuesto.setValue(10000000000.0); }, "nroEfectivo", NO_ENTRAN},
+          K{[](C& c) { c.interes.setValue(100000000); }, "nroEfectivo", NO_ENTRAN},
+          K{[](C& c) { c.interes.setValue(-1); }, "nroEfectivo", NO_ENTRAN},  // a sign has no place among digits
+          K{[](C& c) {
+                c.interes.setValue(100000000);
+                c.totalBoleta.setValue(1);
+            },
             "nroTotalBoleta", "El monto total de la boleta no coincide con el total retenido mas intereses"}}) {
         ControlesBoleta c = boleta("20123456786260301"_u);
         k.cambiar(c);
@@ -83,6 +97,7 @@ TEST_F(Pagos, RevisionesDeLaBoletaEnSuOrden)
         EXPECT_EQ(f ? f->mensaje : QString(), QString::fromUtf8(k.mensaje));
         if (f) {
             EXPECT_EQ(f->titulo.value_or(QString()), "Generar boleta de deposito"_u);
+            EXPECT_EQ(f->icono, Icono::informacion);
         }
     }
 }

@@ -138,20 +138,20 @@ void frmDJ_editar::generar_boleta()
 
 void frmDJ_editar::imprimir_boleta(const QString& nro)
 {
-    std::optional<BoletaImpresa> boleta;
+    QList<BoletaImpresa> boletas;
     try {
-        boleta = leer_boleta(nro);
+        boletas = leer_boleta(nro);
     } catch (const ErrorAlmacen&) {
         // Nothing is told: the slip is stored, and may be printed again.
     }
-    if (!boleta) {
+    if (boletas.isEmpty()) {
         devolverBoletas();
         puntero_normal();
         return;
     }
     auto* reporte = cargar<frmReportes>();
     connect(reporte, &frmReportes::cerrado, this, &frmDJ_editar::devolverBoletas, Qt::UniqueConnection);
-    reporte->BolDep(*boleta);
+    reporte->BolDep(boletas);
     abrir(reporte);
 }
 

@@ -4,9 +4,10 @@
 
 #include <zint.h>
 
+#include <cmath>
 #include <memory>
 
-Barras barras_de(const QString& texto, Simbologia s, double modulo, double alto)
+Barras barras_de(const QString& texto, Simbologia s, double alto)
 {
     const std::unique_ptr<zint_symbol, void (*)(zint_symbol*)> simbolo(ZBarcode_Create(), ZBarcode_Delete);
     simbolo->symbology = s == Simbologia::intercalado2de5 ? BARCODE_C25INTER : BARCODE_CODE128;
@@ -16,7 +17,7 @@ Barras barras_de(const QString& texto, Simbologia s, double modulo, double alto)
                >= ZINT_ERROR)
         return {};
     Barras barras;
-    barras.ancho = simbolo->width * modulo;
+    barras.ancho = simbolo->width * MODULO;
     const auto negro = [&](int i) { return (simbolo->encoded_data[0][i / 8] >> (i % 8)) & 1; };
     for (int i = 0; i < simbolo->width; ++i) {
         if (!negro(i))
@@ -24,13 +25,14 @@ Barras barras_de(const QString& texto, Simbologia s, double modulo, double alto)
         const int desde = i;
         while (i + 1 < simbolo->width && negro(i + 1))
             ++i;
-        barras.negras.emplace_back(desde * modulo, 0, (i + 1 - desde) * modulo, alto);
+        barras.negras.emplace_back(desde * MODULO, 0, (i + 1 - desde) * MODULO, alto);
     }
     return barras;
 }
 
 void agregar_centradas(Pagina& pagina, const Barras& barras, double y)
 {
+    const double x = std::round((ANCHO_A4 - barras.ancho) / 2 / MODULO) * MODULO;
     for (const QRectF& b : barras.negras)
-        pagina.barras.push_back(b.translated((ANCHO_A4 - barras.ancho) / 2, y));
+        pagina.barras.push_back(b.translated(x, y));
 }

@@ -88,10 +88,10 @@ void frmReportes::poner(const QString& titulo, const QString& nombre, std::share
     puntero_normal();
 }
 
-void frmReportes::BolDep(const BoletaImpresa& boleta)
+void frmReportes::BolDep(const QList<BoletaImpresa>& boletas)
 {
     puntero_de_espera();
-    poner(u"Boleta de depósito"_s, u"boleta-"_s + boleta.nro, std::make_shared<rptRTN_boldep1>(boleta));
+    poner(u"Boleta de depósito"_s, u"boleta-"_s + boletas.constFirst().nro, std::make_shared<rptRTN_boldep1>(boletas));
 }
 
 void frmReportes::DJ(const QString& nro, const QString& codigo)
@@ -118,7 +118,7 @@ void frmReportes::recibo(const QString& nro, const QString& dj)
     } catch (const ErrorAlmacen& e) {
         avisar(e.descripcion, titulo, Icono::informacion, e.motor);
     }
-    poner(titulo, u"comprobante-"_s + nro, std::make_shared<rpt_recibo>(datos));
+    poner(titulo, u"comprobante-"_s + nro, std::make_shared<rpt_recibo>(nro, datos));
 }
 
 void frmReportes::cambiarZoom(int indice)

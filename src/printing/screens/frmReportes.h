@@ -22,11 +22,11 @@ public:
 
     void alActivar() override;
 
-    /// A deposit slip.
-    void BolDep(const struct BoletaImpresa& boleta);
+    /// The deposit slips of one number, a page each; there is at least one.
+    void BolDep(const QList<struct BoletaImpresa>& boletas);
     /// The printed DJ with its integrity code.
     void DJ(const QString& nro, const QString& codigo);
-    /// The withholding receipt; an annulled one gives the empty form.
+    /// The withholding receipt; an annulled one gives a page that says so.
     void recibo(const QString& nro, const QString& dj);
 
     /// Writes all pages as a PDF; false when the file can't be written.

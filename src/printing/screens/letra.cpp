@@ -43,6 +43,9 @@ Letra& letra(double puntos, bool negrita)
         f.setBold(negrita);
         f.setHintingPreference(QFont::PreferNoHinting);
         f.setKerning(false);
+        // A spacing that nobody sees keeps letters from being joined to one: a text is as wide as its letters, and a
+        // PDF's can be searched.
+        f.setLetterSpacing(QFont::AbsoluteSpacing, 1.0 / 64);
         it = letras.insert(clave, {f, QFontMetricsF(f).ascent(), {}});
     }
     return *it;

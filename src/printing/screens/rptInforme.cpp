@@ -2,7 +2,16 @@
 
 #include "printing/screens/rptInforme.h"
 
+#include "printing/screens/estilo.h"
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// What bands may be higher than their page by rounding, in millimetres.
+constexpr double HOLGURA = 0.01;
+
+}  // namespace
 
 bool Informe::traer()
 {
@@ -15,37 +24,49 @@ bool Informe::traer()
     return !pendientes_.empty();
 }
 
-// Lays the next page out; false when nothing is left to put on one.
-bool Informe::disponer()
+bool Informe::hayBanda()
 {
     while (siguiente_ >= pendientes_.size() && !agotado_)
         traer();
-    if (siguiente_ >= pendientes_.size() && !hechas_.empty()) {
+    return siguiente_ < pendientes_.size();
+}
+
+// Where what is not to be parted ends, from the next band on, and its height.
+size_t Informe::finDelGrupo(double& alto) const
+{
+    alto = 0;
+    size_t fin = siguiente_;
+    do
+        alto += pendientes_[fin].alto;
+    while (pendientes_[fin++].conLaSiguiente && fin < pendientes_.size());
+    return fin;
+}
+
+// Lays the next page out; false when nothing is left to put on one.
+bool Informe::disponer()
+{
+    if (!hayBanda() && !hechas_.empty()) {
         completo_ = true;
         return false;
     }
     Pagina pagina;
-    const Banda arriba = cabecera(int(hechas_.size()));
-    pagina.agregar(arriba.contenido, MARGEN);
-    double y = MARGEN + arriba.alto;
+    double y = estilo::MARGEN;
+    const auto poner = [&](const Banda& b) {
+        pagina.agregar(b.contenido, y);
+        y += b.alto;
+    };
+    poner(cabecera(int(hechas_.size())));
+    if (hayBanda() && pendientes_[siguiente_].alAbrir)
+        poner(*pendientes_[siguiente_].alAbrir);
     const double comienzo = y;
-    while (true) {
-        while (siguiente_ >= pendientes_.size() && !agotado_)
-            traer();
-        if (siguiente_ >= pendientes_.size())
-            break;
-        // What is not to be parted goes as one.
+    const double limite = ALTO_A4 - estilo::MARGEN - altoPie() + HOLGURA;
+    while (hayBanda()) {
         double alto = 0;
-        size_t fin = siguiente_;
-        do
-            alto += pendientes_[fin].alto;
-        while (pendientes_[fin++].conLaSiguiente && fin < pendientes_.size());
-        if (y + alto > limite() && y > comienzo)
+        const size_t fin = finDelGrupo(alto);
+        if (y + alto > limite && y > comienzo)
             break;
-        for (; siguiente_ < fin; ++siguiente_) {
-            pagina.agregar(pendientes_[siguiente_].contenido, y);
-            y += pendientes_[siguiente_].alto;
-        }
+        for (; siguiente_ < fin; ++siguiente_)
+            poner(pendientes_[siguiente_]);
     }
     hechas_.push_back(std::move(pagina));
     return true;
@@ -72,8 +93,10 @@ std::optional<Pagina> Informe::pagina(int n)
     if (n < 0 || n >= int(hechas_.size()))
         return {};
     Pagina p = hechas_[size_t(n)];
+    if (altoPie() <= 0)
+        return p;
     const QString de = completo_ ? u" de "_s + QString::number(hechas_.size()) : QString();
-    p.texto({MARGEN, ALTO_A4 - MARGEN - 4, ANCHO_UTIL, 4}, u"Hoja "_s + QString::number(n + 1) + de, 8,
-            Alineacion::derecha);
+    p.texto({estilo::MARGEN, ALTO_A4 - estilo::MARGEN - 4, estilo::ANCHO_UTIL, 4},
+            u"Hoja "_s + QString::number(n + 1) + de, estilo::PUNTOS, Alineacion::derecha);
     return p;
 }

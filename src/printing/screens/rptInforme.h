@@ -8,14 +8,6 @@
 #include <optional>
 #include <vector>
 
-/// A piece of a report that is not parted.
-struct Banda
-{
-    double alto = 0;
-    Pagina contenido;             ///< from its own top
-    bool conLaSiguiente = false;  ///< is not parted from the band behind it
-};
-
 class Informe
 {
 public:
@@ -33,17 +25,16 @@ public:
 protected:
     /// What stands above the bands of a page, from 0.
     virtual Banda cabecera(int pagina) const = 0;
+    /// Room for the page's number at the foot; without room there is none.
     virtual double altoPie() const { return 8; }
     /// The next bands of the report; false at its end.
     virtual bool siguientes(std::vector<Banda>& bandas) = 0;
 
-    static constexpr double MARGEN = 12;
-    static constexpr double ANCHO_UTIL = ANCHO_A4 - 2 * MARGEN;
-
 private:
     bool disponer();
-    [[nodiscard]] double limite() const { return ALTO_A4 - MARGEN - altoPie(); }
     bool traer();
+    [[nodiscard]] bool hayBanda();
+    [[nodiscard]] size_t finDelGrupo(double& alto) const;
 
     std::vector<Pagina> hechas_;
     std::vector<Banda> pendientes_;

@@ -3,11 +3,20 @@
 #include "printing/screens/rptPagina.h"
 
 #include "printing/screens/letra.h"
+#include "printing/screens/lineas_texto.h"
 
 namespace {
 
 // A text is not set smaller than this.
 constexpr double PUNTOS_MINIMOS = 3.25;
+// What lines may be higher than their place by rounding, in millimetres.
+constexpr double HOLGURA = 0.01;
+
+// From the top of a line to the base that its letters stand on.
+double base(double puntos)
+{
+    return letra(puntos, false).subida / UNIDADES;
+}
 
 }  // namespace
 
@@ -19,9 +28,28 @@ void Pagina::texto(QRectF lugar, const QString& t, double puntos, Alineacion ali
 
 void Pagina::ajustado(QRectF lugar, const QString& texto_, double puntos, Alineacion alineacion, bool negrita)
 {
-    while (puntos > PUNTOS_MINIMOS && ancho_texto(texto_, puntos, negrita) > lugar.width())
+    const double pedidos = puntos;
+    QStringList renglones = en_lineas(texto_, lugar.width(), puntos, negrita);
+    // One line always has its place, however low that is.
+    while (puntos > PUNTOS_MINIMOS && renglones.size() > 1
+           && double(renglones.size()) * alto_linea(puntos) > lugar.height() + HOLGURA) {
         puntos -= 0.25;
-    texto(lugar, texto_, puntos, alineacion, negrita);
+        renglones = en_lineas(texto_, lugar.width(), puntos, negrita);
+    }
+    // A single line stands on the same base as its neighbours.
+    double y = lugar.top() + (renglones.size() == 1 ? base(pedidos) - base(puntos) : 0);
+    for (const QString& renglon : renglones) {
+        texto({lugar.left(), y, lugar.width(), alto_linea(puntos)}, renglon, puntos, alineacion, negrita);
+        y += alto_linea(puntos);
+    }
+}
+
+void Pagina::marco(QRectF lugar, double grosor)
+{
+    linea(lugar.left(), lugar.top(), lugar.right(), lugar.top(), grosor);
+    linea(lugar.left(), lugar.bottom(), lugar.right(), lugar.bottom(), grosor);
+    linea(lugar.left(), lugar.top(), lugar.left(), lugar.bottom(), grosor);
+    linea(lugar.right(), lugar.top(), lugar.right(), lugar.bottom(), grosor);
 }
 
 void Pagina::linea(double x1, double y1, double x2, double y2, double grosor, bool cortada)

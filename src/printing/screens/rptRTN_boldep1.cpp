@@ -6,58 +6,66 @@
 #include "core/modUtiles.h"
 #include "core/redondeo.h"
 #include "printing/screens/barras_codigo.h"
-#include "printing/screens/lineas_texto.h"
+#include "printing/screens/estilo.h"
+#include "printing/screens/letra.h"
 
 #include <variant>
 
 using namespace Qt::StringLiterals;
+using namespace estilo;
 
 namespace {
 
-constexpr double ALTO_COPIA = 66;
-constexpr double MODULO = 0.253;  // narrow bar: the widest that leaves its quiet zones on the page
-constexpr double ALTO_BARRAS = 11;
-constexpr const char* COPIAS[] = {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención",
-                                  "Para la Casa Central del Banco"};
-
-enum class Estilo {
-    bajoTitulo,     // the title in a small letter, the value below it
-    importe,        // an amount to the right of its title
-    importeFuerte,  // the same in bold
-};
-
 using B = BoletaImpresa;
 
-// A field of the slip: its place from the margin and the top of the copy, in millimetres.
+constexpr const char* COPIAS[] = {"Para el Banco", "Para la Dirección General de Rentas", "Para el Agente de Retención",
+                                  "Para la Casa Central del Banco"};
+constexpr double ALTO_COPIA = (ALTO_A4 - 2 * MARGEN) / std::size(COPIAS);
+
+// A field of the slip: its place from the margin and the top of the copy.
 struct CampoBoleta
 {
     double x, y, ancho;
     const char* titulo;
-    std::variant<QString B::*, QDate B::*, double B::*> valor;
-    Estilo estilo = Estilo::bajoTitulo;
+    std::variant<QString B::*, QDate B::*> valor;
     QString B::*trasTitulo = nullptr;  // a text that ends the title
 };
-
 const CampoBoleta CAMPOS[] = {
-    {0, 6, 62, "Boleta Nº", &B::nro},
-    {64, 6, 84, "Agente de Retención Nº ", &B::titular, Estilo::bajoTitulo, &B::agenteNro},
-    {150, 6, 36, "CUIT", &B::cuit},
-    {0, 14, 62, "Banco", &B::banco},
-    {64, 14, 30, "Cuenta", &B::cuenta},
-    {96, 14, 31, "Filial", &B::filial},
-    {0, 22, 62, "Posición", &B::posicion},
-    {64, 22, 30, "Emisión", &B::emision},
-    {96, 22, 31, "Vencimiento", &B::vencimiento},
-    {128, 14, 58, "Impuesto $", &B::importe, Estilo::importe},
-    {128, 18, 58, "Interés $", &B::interes, Estilo::importe},
-    {128, 22, 58, "Multa $", &B::multa, Estilo::importe},
-    {128, 26.8, 58, "Total $", &B::total, Estilo::importeFuerte},
-    {0, 31, 58, "Efectivo $", &B::efectivo, Estilo::importe},
+    {0, 11, 94, "Agente de Retención Nº ", &B::titular, &B::agenteNro},
+    {98, 11, 34, "CUIT", &B::cuit},
+    {0, 17.7, 60, "Posición", &B::posicion},
+    {64, 17.7, 30, "Emisión", &B::emision},
+    {98, 17.7, 34, "Vencimiento", &B::vencimiento},
+    {0, 24.4, 60, "Banco", &B::banco},
+    {64, 24.4, 30, "Cuenta", &B::cuenta},
+    {98, 24.4, 34, "Filial", &B::filial},
 };
 
-constexpr double FILA_CHEQUES = 31;
-constexpr double FILA_LETRAS = 39;
-constexpr double FILA_BARRAS = 46;
+// An amount: place from the margin, its title, and the amount at the right end of the width.
+struct ImporteBoleta
+{
+    double x, y, ancho;
+    const char* titulo;
+    double B::*valor;
+    bool fuerte = false;
+};
+constexpr ImporteBoleta IMPORTES[] = {
+    {138, 11.2, 48, "Impuesto $", &B::importe}, {138, 14.8, 48, "Interés $", &B::interes},
+    {138, 18.4, 48, "Multa $", &B::multa},      {138, 22.8, 48, "Total $", &B::total, true},
+    {0, 31.6, 132, "Efectivo $", &B::efectivo},
+};
+constexpr double ANCHO_IMPORTE = 33;
+constexpr double FILA_IMPORTE = 3.7;
+constexpr double FILA_PAGO = 4.4;  // two lines, when a bank's name needs them
+constexpr double SOBRE_TOTAL = 22.3;
+
+constexpr double FILA_CHEQUES = 36;
+constexpr double ANCHO_CHEQUE = 132;
+constexpr QRectF LETRAS{0, 45.9, ANCHO_UTIL, 3.6};
+constexpr QRectF SELLO{138, 27.6, 48, 17.6};
+constexpr double FILA_BARRAS = 50.4;
+constexpr double ALTO_BARRAS = 10;
+constexpr double CORTE = 66.4;
 
 QString como_texto(const QString& t)
 {
@@ -67,84 +75,83 @@ QString como_texto(const QDate& fecha)
 {
     return fecha_corta(fecha);
 }
-QString como_texto(double importe)
+
+void poner_importe(Pagina& p, double x, double y, double ancho, const QString& titulo, double importe,
+                   bool fuerte = false)
 {
-    return importe_agrupado(importe);
+    p.ajustado({MARGEN + x, y, ancho - ANCHO_IMPORTE, FILA_PAGO}, titulo, PUNTOS, Alineacion::izquierda, fuerte);
+    p.ajustado({MARGEN + x + ancho - ANCHO_IMPORTE, y, ANCHO_IMPORTE, FILA_IMPORTE}, importe_agrupado(importe), PUNTOS,
+               Alineacion::derecha, fuerte);
 }
 
-void poner_importe(Pagina& p, double x, double y, double ancho, const QString& titulo, const QString& importe,
-                   bool negrita)
+void poner_campos(Pagina& p, const B& b)
 {
-    constexpr double DEL_TITULO = 26;
-    p.texto({x, y, 30, 4}, titulo, 8);
-    p.ajustado({x + DEL_TITULO, y, ancho - DEL_TITULO, 4}, importe, 8.5, Alineacion::derecha, negrita);
+    for (const CampoBoleta& c : CAMPOS)
+        campo(p, c.x, c.y, c.ancho, QString::fromUtf8(c.titulo) + (c.trasTitulo ? b.*c.trasTitulo : QString()),
+              std::visit([&b](auto miembro) { return como_texto(b.*miembro); }, c.valor), COPIA);
+    for (const ImporteBoleta& i : IMPORTES)
+        poner_importe(p, i.x, i.y, i.ancho, QString::fromUtf8(i.titulo), b.*i.valor, i.fuerte);
+    p.linea(MARGEN + SELLO.left(), SOBRE_TOTAL, MARGEN + ANCHO_UTIL, SOBRE_TOTAL, REGLA_GRUESA);
 }
 
-void poner_campo(Pagina& p, double margen, const CampoBoleta& c, const BoletaImpresa& b)
-{
-    const QString titulo = QString::fromUtf8(c.titulo) + (c.trasTitulo ? b.*c.trasTitulo : QString());
-    const QString valor = std::visit([&b](auto miembro) { return como_texto(b.*miembro); }, c.valor);
-    const double x = margen + c.x;
-    if (c.estilo != Estilo::bajoTitulo) {
-        poner_importe(p, x, c.y, c.ancho, titulo, valor, c.estilo == Estilo::importeFuerte);
-        return;
-    }
-    p.texto({x, c.y, c.ancho, 4}, titulo, 7);
-    p.ajustado({x, c.y + 3, c.ancho, 4}, valor, 8.5, Alineacion::izquierda, true);
-}
-
-void poner_cheques(Pagina& p, double margen, const BoletaImpresa& b)
+void poner_cheques(Pagina& p, const B& b)
 {
     double y = FILA_CHEQUES;
     for (const auto& c : b.cheques) {
-        if (c.monto != 0 || !c.nro.isEmpty()) {
-            p.ajustado({margen + 64, y, 88, 4}, u"Cheque Nº %1 %2"_s.arg(c.nro, c.banco), 8);
-            poner_importe(p, margen + 128, y, 58, {}, como_texto(c.monto), false);
-        }
-        y += 4;
+        if (c.monto != 0 || !c.nro.isEmpty())
+            poner_importe(p, 0, y, ANCHO_CHEQUE, u"Cheque Nº %1 %2 $"_s.arg(c.nro, c.banco), c.monto);
+        y += FILA_PAGO;
     }
+}
+
+// Room for what the bank stamps and signs; on an annulled slip there is none.
+void poner_sello(Pagina& p, const QString& estado)
+{
+    const QRectF marco = SELLO.translated(MARGEN, 0);
+    p.marco(marco, REGLA);
+    const double pie = alto_linea(COPIA.rotulo);
+    if (!estado.isEmpty())
+        p.ajustado({marco.left() + 2, marco.center().y() - 4, marco.width() - 4, 8}, estado.toUpper(),
+                   PUNTOS_DESTACADO + 4, Alineacion::centro, true);
+    else
+        p.texto({marco.left(), marco.bottom() - pie - 0.5, marco.width(), pie}, u"Sello y firma del Banco"_s,
+                COPIA.rotulo, Alineacion::centro);
 }
 
 void poner_codigo(Pagina& p, const QString& codigo)
 {
-    const Barras barras = barras_de(codigo, Simbologia::intercalado2de5, MODULO, ALTO_BARRAS);
+    const Barras barras = barras_de(codigo, Simbologia::intercalado2de5, ALTO_BARRAS);
     agregar_centradas(p, barras, FILA_BARRAS);
     if (!barras.negras.empty())
-        p.texto({0, FILA_BARRAS + ALTO_BARRAS + 0.6, ANCHO_A4, 4}, codigo_legible_boleta(codigo), 7.5,
-                Alineacion::centro);
+        p.texto({MARGEN, FILA_BARRAS + ALTO_BARRAS + 0.6, ANCHO_UTIL, FILA_IMPORTE},
+                codigo_legible_boleta(codigo).trimmed(), COPIA.dato, Alineacion::centro);
+}
+
+Banda copia(const B& b, size_t cual)
+{
+    Banda banda = encabezado(u"BOLETA DE DEPÓSITO"_s, {u"Boleta Nº "_s + b.nro, QString::fromUtf8(COPIAS[cual])},
+                             COPIA);
+    banda.alto = ALTO_COPIA;
+    Pagina& p = banda.contenido;
+    poner_campos(p, b);
+    poner_cheques(p, b);
+    p.ajustado(LETRAS.translated(MARGEN, 0), u"SON PESOS: "_s + nro_a_letras(b.total, 2, false), PUNTOS);
+    poner_sello(p, b.estado);
+    poner_codigo(p, b.codigo);
+    // The four copies stay on one page.
+    banda.conLaSiguiente = cual + 1 < std::size(COPIAS);
+    if (banda.conLaSiguiente)
+        p.linea(4, CORTE, ANCHO_A4 - 4, CORTE, REGLA, true);
+    return banda;
 }
 
 }  // namespace
 
 bool rptRTN_boldep1::siguientes(std::vector<Banda>& bandas)
 {
-    for (int i = 0; i < 4; ++i)
-        bandas.push_back(copia(QString::fromUtf8(COPIAS[i]), i == 3));
-    return false;
-}
-
-Banda rptRTN_boldep1::copia(const QString& para, bool ultima) const
-{
-    Banda banda;
-    banda.alto = ALTO_COPIA;
-    Pagina& p = banda.contenido;
-    const double x = MARGEN;
-    p.texto({x, 0, 110, 5}, u"IMPUESTO DE SELLOS - BOLETA DE DEPÓSITO"_s, 10, Alineacion::izquierda, true);
-    p.texto({x + 96, 0.6, 90, 4}, para, 8, Alineacion::derecha);
-    if (!b_.estado.isEmpty())
-        p.texto({x + 76, 0, 34, 5}, b_.estado.toUpper(), 11, Alineacion::centro, true);
-    p.linea(x, 5.2, x + ANCHO_UTIL, 5.2);
-    p.linea(x + 128, 26.2, x + ANCHO_UTIL, 26.2);
-    for (const CampoBoleta& campo : CAMPOS)
-        poner_campo(p, x, campo, b_);
-    poner_cheques(p, x, b_);
-    double y = FILA_LETRAS;
-    for (const QString& linea : en_lineas(u"SON PESOS: "_s + nro_a_letras(b_.total, 2, false), ANCHO_UTIL, 8)) {
-        p.texto({x, y, ANCHO_UTIL, 4}, linea, 8);
-        y += 3.4;
-    }
-    poner_codigo(p, b_.codigo);
-    if (!ultima)
-        p.linea(4, ALTO_COPIA - 2.5, ANCHO_A4 - 4, ALTO_COPIA - 2.5, 0.15, true);
-    return banda;
+    if (siguiente_ >= boletas_.size())
+        return false;
+    for (size_t i = 0; i < std::size(COPIAS); ++i)
+        bandas.push_back(copia(boletas_[siguiente_], i));
+    return ++siguiente_ < boletas_.size();
 }

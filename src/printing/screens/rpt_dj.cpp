@@ -3,14 +3,22 @@
 #include "printing/screens/rpt_dj.h"
 
 #include "core/redondeo.h"
+#include "printing/screens/estilo.h"
 #include "printing/screens/letra.h"
 #include "printing/screens/lineas_texto.h"
 
+#include <numeric>
+#include <span>
+
 using namespace Qt::StringLiterals;
+using namespace estilo;
 
 namespace {
 
 constexpr double SANGRIA = 8;
+constexpr double FILA_ESCRITURA = 4.6;
+constexpr double SIN_PARTIR = 40;  // a deed up to this height goes to the next page as a whole
+constexpr double SOBRE_REGLA = 0.6;
 
 // The columns of a deed's line, from the margin: place, width, title, side.
 struct ColumnaDJ
@@ -26,88 +34,141 @@ constexpr ColumnaDJ COLUMNAS[] = {
     {96, 52, "Alcance", Alineacion::izquierda}, {150, 36, "Impuesto $", Alineacion::derecha},
 };
 
-}  // namespace
-
-Banda rpt_dj::cabecera(int pagina) const
+// A line of the columns, in the height of its band.
+void poner_fila(Banda& b, const QStringList& textos, double puntos)
 {
-    Banda b = rpt_dj_sin_mov::cabecera(pagina);
+    for (size_t i = 0; i < std::size(COLUMNAS); ++i)
+        b.contenido.ajustado({MARGEN + COLUMNAS[i].x, b.alto, COLUMNAS[i].ancho, FILA}, textos.value(qsizetype(i)),
+                             puntos, COLUMNAS[i].lado, true);
+    b.alto += FILA_ESCRITURA;
+}
+
+void poner_regla(Banda& b, double grosor)
+{
+    b.alto += SOBRE_REGLA;
+    b.contenido.linea(MARGEN, b.alto, MARGEN + ANCHO_UTIL, b.alto, grosor);
+    b.alto += SOBRE_REGLA;
+}
+
+// The titles of the columns, above what opens a page.
+Banda titulos()
+{
+    Banda b;
+    QStringList textos;
     for (const ColumnaDJ& c : COLUMNAS)
-        b.contenido.texto({MARGEN + c.x, b.alto, c.ancho, FILA}, QString::fromUtf8(c.titulo), PUNTOS, c.lado, true);
-    b.contenido.linea(MARGEN, b.alto + FILA + 0.6, MARGEN + ANCHO_UTIL, b.alto + FILA + 0.6);
-    b.alto += FILA + 2;
+        textos << QString::fromUtf8(c.titulo);
+    poner_fila(b, textos, PUNTOS);
+    poner_regla(b, REGLA);
     return b;
 }
 
-bool rpt_dj::siguientes(std::vector<Banda>& bandas)
+// The same with the deed, above what is left of it on a new page.
+Banda titulos_y_continuacion(const EscrituraImpresa& e)
 {
-    if (siguiente_ < dj_.escrituras.size())
-        escritura(dj_.escrituras[siguiente_], bandas);
-    else
-        cierre(bandas);
-    return siguiente_++ < dj_.escrituras.size();
+    Banda b = titulos();
+    poner_fila(b, {e.nro, e.folio, e.dia, u"(continuación)"_s}, PUNTOS_TOTAL);
+    return b;
 }
 
-void rpt_dj::renglones(std::vector<Banda>& bandas, const QString& titulo, const QString& texto)
+/// Indented lines; none without a text.
+void renglones(std::vector<Banda>& bandas, const QString& titulo, const QString& texto)
 {
     if (texto.isEmpty())
         return;
     for (Pagina& p : lineas_tituladas(
              titulo, texto,
              {.x = MARGEN + SANGRIA, .ancho = ANCHO_UTIL - SANGRIA, .puntos = PUNTOS, .tituloNegrita = true}))
-        bandas.push_back({alto_linea(PUNTOS), std::move(p)});
+        bandas.push_back({FILA, std::move(p)});
 }
 
-// The line of the deed is not parted from the first line behind it.
-void rpt_dj::escritura(const EscrituraImpresa& e, std::vector<Banda>& bandas) const
+// With as many decimals as it needs, up to four.
+QString cantidad(double valor)
+{
+    QString t = importe_agrupado(valor, 4);
+    while (t.endsWith(u'0'))
+        t.chop(1);
+    return t.back().isDigit() ? t : t.chopped(1);
+}
+
+// An amount is told when it is not zero, a number of modules or a rate when it is there. What belongs together
+// is not parted by a line's end.
+QString datos_de(const OperacionImpresa& o)
+{
+    QStringList datos;
+    const auto decir = [&](const char* titulo, const QString& valor, const char* unidad = "") {
+        QString dato = QString::fromUtf8(titulo) + u' ' + valor + QString::fromUtf8(unidad);
+        datos << dato.replace(u' ', QChar(0xa0));
+    };
+    const auto importe = [&](const char* titulo, const std::optional<double>& valor) {
+        if (valor && *valor != 0)
+            decir(titulo, importe_agrupado(*valor));
+    };
+    importe("Base imponible $", o.base);
+    importe("Val. fiscal $", o.valuacion);
+    importe("Hipoteca $", o.hipoteca);
+    if (o.modulos)
+        decir("Módulos", cantidad(*o.modulos));
+    if (o.alicuota)
+        decir("Alícuota", cantidad(*o.alicuota * 100), " %");
+    importe("Calculado $", o.calculado);
+    if (o.porcExento && *o.porcExento != 0)
+        decir("Exento", cantidad(*o.porcExento), " %");
+    importe("Monto exento $", o.montoExento);
+    importe("Pago a cuenta $", o.pagoACuenta);
+    importe("Adicionales $", o.adicionales);
+    if (o.final)
+        decir("Impuesto $", importe_agrupado(*o.final));
+    return datos.join(u"; "_s);
+}
+
+// The law's text ends with a parenthesis of its own.
+QString nombre_de(const OperacionImpresa& o)
+{
+    return o.ley.isEmpty() ? o.descripcion : o.descripcion + u" - "_s + o.ley;
+}
+
+// A short deed stays together. Of a long one the first two lines do, and on a new page it names itself again.
+void poner_escritura(std::vector<Banda>& bandas, const EscrituraImpresa& e)
 {
     const auto primera = bandas.size();
-    Banda titulo;
-    titulo.alto = FILA + 0.4;
-    const QString textos[] = {e.nro,
-                              e.folio,
-                              e.dia,
-                              e.estado,
-                              e.alcanzada ? u"Alcanzada"_s : u"No alcanzada"_s,
-                              importe_agrupado(e.impuesto)};
-    for (size_t i = 0; i < std::size(COLUMNAS); ++i)
-        titulo.contenido.texto({MARGEN + COLUMNAS[i].x, 0.4, COLUMNAS[i].ancho, FILA}, textos[i], PUNTOS + 0.5,
-                               COLUMNAS[i].lado, true);
-    bandas.push_back(titulo);
+    Banda fila;
+    fila.alto = SOBRE_REGLA;
+    poner_fila(fila,
+               {e.nro, e.folio, e.dia, e.estado, e.alcanzada ? u"Alcanzada"_s : u"No alcanzada"_s,
+                importe_agrupado(e.impuesto)},
+               PUNTOS_TOTAL);
+    bandas.push_back(std::move(fila));
     renglones(bandas, u"Motivo:"_s, e.motivo);
-    for (const OperacionImpresa& o : e.operaciones)
-        operacion(o, bandas);
+    for (const OperacionImpresa& o : e.operaciones) {
+        renglones(bandas, u"Operación:"_s, nombre_de(o));
+        renglones(bandas, {}, datos_de(o));
+        renglones(bandas, {}, o.observaciones);
+    }
     renglones(bandas, u"Partes:"_s, e.partes);
     renglones(bandas, u"Inmuebles:"_s, e.inmuebles);
     renglones(bandas, u"Observaciones:"_s, e.observaciones);
-    bandas[primera].conLaSiguiente = bandas.size() > primera + 1;
-    Banda fin;
-    fin.alto = 1.2;
-    fin.contenido.linea(MARGEN, 0.6, MARGEN + ANCHO_UTIL, 0.6, 0.1);
-    bandas.back().conLaSiguiente = true;
-    bandas.push_back(fin);
+    poner_regla(bandas.back(), REGLA_FINA);
+    static const auto TITULOS = std::make_shared<const Banda>(titulos());
+    bandas[primera].alAbrir = TITULOS;
+    const std::span propias(bandas.begin() + qsizetype(primera), bandas.end());
+    const double alto = std::accumulate(propias.begin(), propias.end(), 0.0,
+                                        [](double suma, const Banda& b) { return suma + b.alto; });
+    for (Banda& b : propias.first(alto <= SIN_PARTIR ? propias.size() - 1 : 1))
+        b.conLaSiguiente = true;
+    if (alto <= SIN_PARTIR)
+        return;
+    const auto continuacion = std::make_shared<const Banda>(titulos_y_continuacion(e));
+    for (Banda& b : propias.subspan(1))
+        b.alAbrir = continuacion;
 }
 
-void rpt_dj::operacion(const OperacionImpresa& o, std::vector<Banda>& bandas) const
+}  // namespace
+
+bool rpt_dj::siguientes(std::vector<Banda>& bandas)
 {
-    renglones(bandas, u"Operación:"_s, o.descripcion + (o.ley.isEmpty() ? QString() : u" ("_s + o.ley + u")"_s));
-    QStringList datos;
-    const auto dato = [&](const char* titulo, const std::optional<double>& valor, int decimales = 2) {
-        if (valor && (*valor != 0 || decimales != 2))
-            datos << QString::fromUtf8(titulo) + QChar(0xa0)
-                         + importe_agrupado(*valor, decimales).replace(u' ', QChar(0xa0));
-    };
-    dato("Base imponible $", o.base);
-    dato("Val. fiscal $", o.valuacion);
-    dato("Hipoteca $", o.hipoteca);
-    dato("Módulos", o.modulos, 4);
-    dato("Alícuota", o.alicuota, 4);
-    dato("Calculado $", o.calculado);
-    dato("Exento %", o.porcExento);
-    dato("Monto exento $", o.montoExento);
-    dato("Pago a cuenta $", o.pagoACuenta);
-    dato("Adicionales $", o.adicionales);
-    if (o.final)
-        datos << u"Impuesto"_s + QChar(0xa0) + u'$' + QChar(0xa0) + importe_agrupado(*o.final);
-    renglones(bandas, {}, datos.join(u"; "_s));
-    renglones(bandas, {}, o.observaciones);
+    if (siguiente_ < dj_.escrituras.size())
+        poner_escritura(bandas, dj_.escrituras[siguiente_]);
+    else
+        cierre(bandas);
+    return siguiente_++ < dj_.escrituras.size();
 }

@@ -10,14 +10,8 @@ public:
     using rpt_dj_sin_mov::rpt_dj_sin_mov;
 
 protected:
-    Banda cabecera(int pagina) const override;
     bool siguientes(std::vector<Banda>& bandas) override;
 
 private:
-    void escritura(const EscrituraImpresa& e, std::vector<Banda>& bandas) const;
-    /// Indented lines; none without a text.
-    static void renglones(std::vector<Banda>& bandas, const QString& titulo, const QString& texto);
-    void operacion(const OperacionImpresa& o, std::vector<Banda>& bandas) const;
-
     qsizetype siguiente_ = 0;
 };

@@ -4,14 +4,48 @@
 
 #include "core/redondeo.h"
 #include "printing/screens/barras_codigo.h"
-#include "printing/screens/letra.h"
-#include "printing/screens/lineas_texto.h"
+#include "printing/screens/estilo.h"
 
 using namespace Qt::StringLiterals;
+using namespace estilo;
 
 namespace {
 
-constexpr double MODULO = 0.33;
+using C = CabeceraImpresa;
+
+const Campo<C> CAMPOS[] = {
+    {0, 0, 34, "Agente de Retención Nº", &C::agenteNro},
+    {0, 36, 108, "Escribano titular", &C::titular},
+    {0, 146, 40, "CUIT", &C::cuit},
+    {1, 0, 94, "Domicilio", &C::domicilio},
+    {1, 96, 48, "Localidad", &C::localidad},
+    {1, 146, 40, "Cód. postal", &C::codPostal},
+    {2, 0, 94, "e-mail", &C::email},
+    {2, 96, 90, "Teléfono", &C::telefono},
+    {3, 0, 144, "Adscripto", &C::adscripto1},
+    {3, 146, 40, "CUIT", &C::adscripto1Cuit},
+    {4, 0, 144, "Adscripto", &C::adscripto2},
+    {4, 146, 40, "CUIT", &C::adscripto2Cuit},
+    {5, 0, ANCHO_UTIL, "Observaciones", &C::observaciones},
+};
+
+// The amounts at the end: where their titles end and they themselves begin, from the margin.
+constexpr double IMPORTE = 150;
+constexpr double ANCHO_IMPORTE = ANCHO_UTIL - IMPORTE;
+constexpr double ANCHO_TITULO = 100;
+constexpr double FILA_TOTAL = 5;
+
+// What is signed: place of the line from the margin, and what stands below it.
+struct LugarFirma
+{
+    double x;
+    const char* titulo;
+};
+constexpr LugarFirma FIRMAS[] = {{0, "Lugar y fecha"}, {66, "Firma"}, {132, "Aclaración y sello"}};
+constexpr double ANCHO_FIRMA = 54;
+constexpr double RENGLON_FIRMA = 22;
+
+constexpr double BAJO_TITULO = 1;  // of the code
 constexpr double ALTO_BARRAS = 14;
 
 }  // namespace
@@ -19,85 +53,35 @@ constexpr double ALTO_BARRAS = 14;
 // The agent stands on the first page only.
 Banda rpt_dj_sin_mov::cabecera(int pagina) const
 {
-    Banda b;
-    Pagina& p = b.contenido;
-    const double x = MARGEN;
-    p.emblemas.emplace_back(x, 0, 14, 17);
-    p.texto({x + 18, 0, 120, 5}, u"PROVINCIA DE MARVEN - DIRECCIÓN GENERAL DE RENTAS"_s, 9);
-    p.texto({x + 18, 5, 120, 6}, u"DECLARACIÓN JURADA"_s, 13, Alineacion::izquierda, true);
-    p.texto({x + 18, 11.5, 120, 5}, u"Impuesto de Sellos - Agentes de Retención - Escribanos"_s, 9);
-    p.texto({x + 120, 0, 66, 5}, u"DJ Nº "_s + dj_.cabecera.nro, 9, Alineacion::derecha, true);
-    p.texto({x + 120, 5, 66, 5}, u"Posición "_s + dj_.cabecera.posicion, 9, Alineacion::derecha);
-    p.texto({x + 120, 10, 66, 5}, dj_.cabecera.rectificativa, 9, Alineacion::derecha);
-    p.linea(x, 18.5, x + ANCHO_UTIL, 18.5, 0.4);
-    b.alto = 20.5;
-    if (pagina == 0) {
-        const Banda datos = agente();
-        p.agregar(datos.contenido, b.alto);
-        b.alto += datos.alto;
-    }
-    return b;
-}
-
-Banda rpt_dj_sin_mov::agente() const
-{
-    const CabeceraImpresa& c = dj_.cabecera;
-    Banda b;
-    double y = 0;
-    const auto dato = [&](double x, double ancho, const char* titulo, const QString& valor) {
-        const QString t = QString::fromUtf8(titulo);
-        const double sangria = ancho_texto(t, PUNTOS) + 1.5;
-        b.contenido.texto({MARGEN + x, y, ancho, FILA}, t, PUNTOS);
-        b.contenido.ajustado({MARGEN + x + sangria, y, ancho - sangria, FILA}, valor, PUNTOS, Alineacion::izquierda,
-                             true);
-    };
-    const auto largo = [&](const char* titulo, const QString& valor) {
-        for (const Pagina& linea :
-             lineas_tituladas(QString::fromUtf8(titulo), valor,
-                              {.x = MARGEN, .ancho = ANCHO_UTIL, .puntos = PUNTOS, .textoNegrita = true})) {
-            b.contenido.agregar(linea, y);
-            y += FILA;
+    const C& c = dj_.cabecera;
+    Banda b = encabezado(u"DECLARACIÓN JURADA"_s, {u"DJ Nº "_s + c.nro, u"Posición "_s + c.posicion, c.rectificativa});
+    if (pagina == 0)
+        for (const Banda& fila : filas_de_campos(CAMPOS, c)) {
+            b.contenido.agregar(fila.contenido, b.alto);
+            b.alto += fila.alto;
         }
-    };
-    dato(0, 40, "Agente Nº", c.agenteNro);
-    dato(42, 102, "Titular", c.titular);
-    dato(146, 40, "CUIT", c.cuit);
-    y += FILA;
-    largo("Domicilio", c.domicilio);
-    dato(0, 80, "Localidad", c.localidad);
-    dato(82, 40, "Cód. Postal", c.codPostal);
-    dato(124, 62, "Teléfono", c.telefono);
-    y += FILA;
-    if (!c.email.isEmpty())
-        largo("e-mail", c.email);
-    for (const auto& [nombre, cuit] : {std::pair{c.adscripto1, c.adscripto1Cuit}, {c.adscripto2, c.adscripto2Cuit}})
-        if (!nombre.isEmpty()) {
-            dato(0, 144, "Adscripto", nombre);
-            dato(146, 40, "CUIT", cuit);
-            y += FILA;
-        }
-    if (!c.observaciones.isEmpty())
-        largo("Observaciones", c.observaciones);
-    b.contenido.linea(MARGEN, y + 1, MARGEN + ANCHO_UTIL, y + 1);
-    b.alto = y + 3;
+    b.alto += 2;
     return b;
 }
 
 Banda rpt_dj_sin_mov::totales() const
 {
-    const CabeceraImpresa& c = dj_.cabecera;
+    const C& c = dj_.cabecera;
     Banda total;
     total.conLaSiguiente = true;
-    double y = 2;
-    total.contenido.linea(MARGEN + 96, 1, MARGEN + ANCHO_UTIL, 1, 0.4);
+    double y = 1;
     const auto importe = [&](const QString& titulo, double valor) {
-        total.contenido.texto({MARGEN + 71, y, 77, FILA}, titulo, 9, Alineacion::derecha, true);
-        total.contenido.texto({MARGEN + 150, y, 36, FILA}, importe_agrupado(valor), 9, Alineacion::derecha, true);
-        y += 5;
+        total.contenido.ajustado({MARGEN + IMPORTE - ANCHO_TITULO, y, ANCHO_TITULO - 2, FILA_TOTAL}, titulo,
+                                 PUNTOS_TOTAL, Alineacion::derecha, true);
+        total.contenido.ajustado({MARGEN + IMPORTE, y, ANCHO_IMPORTE, FILA_TOTAL}, importe_agrupado(valor),
+                                 PUNTOS_TOTAL, Alineacion::derecha, true);
+        y += FILA_TOTAL;
     };
     importe(u"Importe total retenido $"_s, c.totalRetenido);
     if (c.acreditado != 0)
         importe(u"Acreditado por Resolución Nº "_s + c.resolucion + u" $"_s, c.acreditado);
+    total.contenido.linea(MARGEN + IMPORTE, y, MARGEN + ANCHO_UTIL, y, REGLA_GRUESA);
+    y += 1;
     importe(u"Total a depositar $"_s, c.totalRetenido - c.acreditado);
     total.alto = y + 4;
     return total;
@@ -107,14 +91,16 @@ Banda rpt_dj_sin_mov::firmas() const
 {
     Banda firma;
     firma.conLaSiguiente = true;
-    firma.alto = 28;
+    firma.alto = RENGLON_FIRMA + 11;
     firma.contenido.texto(
         {MARGEN, 0, ANCHO_UTIL, FILA},
         u"Declaro bajo juramento que los datos consignados son correctos y completos, sin omitir ni falsear dato alguno."_s,
         PUNTOS);
-    for (const auto& [x, titulo] : {std::pair{0.0, "Lugar y fecha"}, {66.0, "Firma"}, {132.0, "Aclaración y sello"}}) {
-        firma.contenido.linea(MARGEN + x, 20, MARGEN + x + 54, 20);
-        firma.contenido.texto({MARGEN + x, 21, 54, FILA}, QString::fromUtf8(titulo), PUNTOS, Alineacion::centro);
+    for (const LugarFirma& f : FIRMAS) {
+        const double x = MARGEN + f.x;
+        firma.contenido.linea(x, RENGLON_FIRMA, x + ANCHO_FIRMA, RENGLON_FIRMA, REGLA);
+        firma.contenido.texto({x, RENGLON_FIRMA + 1, ANCHO_FIRMA, FILA}, QString::fromUtf8(f.titulo), PUNTOS,
+                              Alineacion::centro);
     }
     return firma;
 }
@@ -122,13 +108,17 @@ Banda rpt_dj_sin_mov::firmas() const
 Banda rpt_dj_sin_mov::codigo() const
 {
     Banda b;
-    b.contenido.texto({MARGEN, 0, ANCHO_UTIL, FILA}, u"Código de verificación de la integridad"_s, PUNTOS,
-                      Alineacion::centro);
-    agregar_centradas(b.contenido, barras_de(codigo_, Simbologia::code128, MODULO, ALTO_BARRAS), FILA + 1);
-    b.contenido.texto({MARGEN, FILA + ALTO_BARRAS + 2, ANCHO_UTIL, FILA}, codigo_legible_dj(codigo_), 10,
-                      Alineacion::centro, true);
-    b.contenido.texto({MARGEN, FILA + ALTO_BARRAS + 7, ANCHO_UTIL, FILA}, version_, 7, Alineacion::centro);
-    b.alto = FILA + ALTO_BARRAS + 12;
+    double y = 0;
+    const auto linea = [&](const QString& texto, double puntos, bool negrita) {
+        b.contenido.texto({MARGEN, y, ANCHO_UTIL, FILA}, texto, puntos, Alineacion::centro, negrita);
+        y += FILA + 0.8;
+    };
+    linea(u"Código de verificación de la integridad"_s, PUNTOS, false);
+    agregar_centradas(b.contenido, barras_de(codigo_, Simbologia::code128, ALTO_BARRAS), y + BAJO_TITULO);
+    y += BAJO_TITULO + ALTO_BARRAS + BAJO_TITULO;
+    linea(codigo_legible_dj(codigo_).trimmed(), PUNTOS_TOTAL + 1, true);
+    linea(version_, PUNTOS_NOTA, false);
+    b.alto = y;
     return b;
 }
 
@@ -143,7 +133,7 @@ bool rpt_dj_sin_mov::siguientes(std::vector<Banda>& bandas)
 {
     Banda aviso;
     aviso.alto = 16;
-    aviso.contenido.texto({MARGEN, 5, ANCHO_UTIL, 6}, u"SIN MOVIMIENTOS"_s, 13, Alineacion::centro, true);
+    aviso.contenido.texto({MARGEN, 5, ANCHO_UTIL, 6}, u"SIN MOVIMIENTOS"_s, PUNTOS_DESTACADO, Alineacion::centro, true);
     bandas.push_back(aviso);
     cierre(bandas);
     return false;

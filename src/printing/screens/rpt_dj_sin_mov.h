@@ -21,13 +21,9 @@ protected:
     /// Totals, signatures, and the code as bars and as text.
     void cierre(std::vector<Banda>& bandas) const;
 
-    static constexpr double PUNTOS = 8;
-    static constexpr double FILA = 4.2;
-
     DJImpresa dj_;
 
 private:
-    [[nodiscard]] Banda agente() const;
     [[nodiscard]] Banda totales() const;
     [[nodiscard]] Banda firmas() const;
     [[nodiscard]] Banda codigo() const;
