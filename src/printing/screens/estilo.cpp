@@ -93,8 +93,8 @@ void campo_largo(std::vector<Banda>& bandas, const QString& titulo, const QStrin
     const auto continuacion = std::make_shared<const Banda>(rotulo(titulo + u" (continuación)"_s));
     for (const QString& linea : lineas) {
         Banda renglon;
-        renglon.contenido.texto({MARGEN, 0, ANCHO_UTIL, FILA}, linea, HOJA.dato);
-        renglon.alto = FILA;
+        renglon.contenido.texto({MARGEN, 0, ANCHO_UTIL, alto_linea(HOJA.dato)}, linea, HOJA.dato);
+        renglon.alto = alto_linea(HOJA.dato);
         renglon.alAbrir = continuacion;
         bandas.push_back(std::move(renglon));
     }

@@ -19,7 +19,7 @@ constexpr double PUNTOS = 8;             // running text
 constexpr double PUNTOS_TOTAL = 9;       // what is added up
 constexpr double PUNTOS_DESTACADO = 13;  // what is to be seen at arm's length
 constexpr double PUNTOS_NOTA = 7;        // what is there if one looks for it
-constexpr double FILA = 4.2;             // a line of running text
+constexpr double FILA = 3.7;             // a line of running text
 
 constexpr double REGLA_FINA = 0.1;    // between fields and deeds
 constexpr double REGLA = 0.2;         // where something is signed or stamped

@@ -26,7 +26,7 @@ protected:
     /// What stands above the bands of a page, from 0.
     virtual Banda cabecera(int pagina) const = 0;
     /// Room for the page's number at the foot; without room there is none.
-    virtual double altoPie() const { return 8; }
+    virtual double altoPie() const { return 6; }
     /// The next bands of the report; false at its end.
     virtual bool siguientes(std::vector<Banda>& bandas) = 0;
 

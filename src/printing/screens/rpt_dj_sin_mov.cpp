@@ -43,10 +43,10 @@ struct LugarFirma
 };
 constexpr LugarFirma FIRMAS[] = {{0, "Lugar y fecha"}, {66, "Firma"}, {132, "Aclaración y sello"}};
 constexpr double ANCHO_FIRMA = 54;
-constexpr double RENGLON_FIRMA = 22;
+constexpr double RENGLON_FIRMA = 18;
 
 constexpr double BAJO_TITULO = 1;  // of the code
-constexpr double ALTO_BARRAS = 14;
+constexpr double ALTO_BARRAS = 12;
 
 }  // namespace
 
@@ -83,7 +83,7 @@ Banda rpt_dj_sin_mov::totales() const
     total.contenido.linea(MARGEN + IMPORTE, y, MARGEN + ANCHO_UTIL, y, REGLA_GRUESA);
     y += 1;
     importe(u"Total a depositar $"_s, c.totalRetenido - c.acreditado);
-    total.alto = y + 4;
+    total.alto = y + 3;
     return total;
 }
 
@@ -91,7 +91,7 @@ Banda rpt_dj_sin_mov::firmas() const
 {
     Banda firma;
     firma.conLaSiguiente = true;
-    firma.alto = RENGLON_FIRMA + 11;
+    firma.alto = RENGLON_FIRMA + 7;
     firma.contenido.texto(
         {MARGEN, 0, ANCHO_UTIL, FILA},
         u"Declaro bajo juramento que los datos consignados son correctos y completos, sin omitir ni falsear dato alguno."_s,
