@@ -159,6 +159,8 @@ TEST_F(Oficina, MatadaEnCualquierMomentoConservaLoConfirmado)
         anotar(p.readAllStandardOutput());
         confirmados += int(pasos_.size()) - antes;
         comprobar();
+        // The number of a deed that is gone is given again, and the new deed may be on the disk without having been told.
+        std::erase_if(pasos_, [](const auto& paso) { return paso.second[0] == u"borrada"; });
     }
     EXPECT_GT(confirmados, 20);
 }
