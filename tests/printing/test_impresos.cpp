@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The printed forms, read back from their PDFs by independent programs: pdftotext, pdftoppm, zbarimg.
+// The printed forms, read back from their PDFs by pdftotext.
 
 #include "core/reloj.h"
 #include "impresos.h"

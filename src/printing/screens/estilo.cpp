@@ -46,11 +46,6 @@ Banda encabezado(const QString& titulo, const QStringList& derecha, const Medida
     return b;
 }
 
-double alto_campo(const Medidas& m)
-{
-    return alto_linea(m.rotulo) + alto_linea(m.dato);
-}
-
 void campo(Pagina& p, double x, double y, double ancho, const QString& titulo, const QString& valor, const Medidas& m)
 {
     const double rotulo = alto_linea(m.rotulo);

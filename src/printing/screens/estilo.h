@@ -49,8 +49,6 @@ constexpr Medidas COPIA{7.6, 10, {0, 6.5}, {2.7, 10}, {6.9, 6}, 98, 8.5, 10.3, 6
 
 /// Puts a field: its title, and below it the value in as large a letter as has room in one line.
 void campo(Pagina& p, double x, double y, double ancho, const QString& titulo, const QString& valor, const Medidas& m);
-/// From a field's top to the next one's, of one line.
-[[nodiscard]] double alto_campo(const Medidas& m);
 
 /// A field of a form: row, place from the margin, width, title, member.
 template <class Datos>
