@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A process on a disk that fails at one call (road/disco_lleno.cpp says which calls are counted).
+// A process on a disk that fails at one call (tools/campania/disco_lleno.cpp says which calls are counted).
 #pragma once
 
 #include "apoyo/apoyo.h"
