@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "apoyo/apoyo.h"
-#include "apoyo/ingles.h"
+#include "campania/ingles.h"
 #include "core/arranque.h"
 #include "core/cuidado.h"
 #include "core/motivo_sistema.h"

@@ -11,10 +11,6 @@
 #include <QDir>
 #include <QFile>
 
-#include <sys/resource.h>
-
-#include <csignal>
-
 namespace {
 
 class Archivo : public ConAlmacen
@@ -50,29 +46,6 @@ protected:
         return QString::fromLatin1(QCryptographicHash::hash(t, QCryptographicHash::Md5).toHex()).toUpper();
     }
     EmisionArchivo emision;
-};
-
-// No file of the process may grow beyond so many bytes, as on a disk that is full.
-class LimiteDeArchivo
-{
-public:
-    explicit LimiteDeArchivo(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &antes_);
-        const rlimit limite{bytes, antes_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limite);
-        signal(SIGXFSZ, SIG_IGN);
-    }
-    ~LimiteDeArchivo()
-    {
-        setrlimit(RLIMIT_FSIZE, &antes_);
-        signal(SIGXFSZ, SIG_DFL);
-    }
-    LimiteDeArchivo(const LimiteDeArchivo&) = delete;
-    LimiteDeArchivo& operator=(const LimiteDeArchivo&) = delete;
-
-private:
-    rlimit antes_{};
 };
 
 TEST(ArchivoTablas, AnchosDeLosRegistros)
@@ -342,12 +315,6 @@ TEST_F(Archivo, LoQueNoSePuedeEscribir)
         EXPECT_EQ(QDir(carpeta_dj(dj)).entryList(QDir::Files).size(), 1);
     };
     cnRtn.ejecutar("update SEL_TB_RTN_CABDJ set SEDJ_TELEFONO='1'"_u);
-    {
-        const LimiteDeArchivo limite(200);
-        EXPECT_EQ(falla_al_emitir(dj),
-                  "No se pudo escribir el archivo %1: el archivo es demasiado grande"_u.arg(emision.archivo));
-    }
-    todo_igual();
     // Somebody reads the store when the code is to be stored: the file has taken its place, and goes again.
     Conexion otra;
     otra.abrir(ruta(), clave_almacen());

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One emission on a disk that fails at each of its calls in turn.
 
-#include "apoyo/disco.h"
+#include "apoyo/apoyo.h"
+#include "campania/disco.h"
 #include "filing/lector_dj.h"
 #include "rar5.h"
 

@@ -4,7 +4,7 @@
 //   TEXTOS=100 build/dev/programa/pruebas --gtest_filter='Hostiles*'
 
 #include "apoyo/escenarios.h"
-#include "apoyo/ingles.h"
+#include "campania/ingles.h"
 #include "catalogue/screens/frmSubconceptos.h"
 #include "declarations/copiar_dj.h"
 #include "declarations/screens/frmDJ_buscar.h"

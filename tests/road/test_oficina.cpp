@@ -3,8 +3,9 @@
 //   MATANZAS=2000 build/dev/programa/pruebas --gtest_filter='Oficina.Matada*'
 //   FALLAS=0 build/dev/programa/pruebas --gtest_filter='Oficina.ConUnDisco*'
 
-#include "apoyo/disco.h"
-#include "apoyo/ingles.h"
+#include "apoyo/apoyo.h"
+#include "campania/disco.h"
+#include "campania/ingles.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A process on a disk that fails at one call (tools/campania/disco_lleno.cpp says which calls are counted).
+// A process on a disk that fails at one call (disco_lleno.cpp says which calls are counted).
 #pragma once
-
-#include "apoyo/apoyo.h"
 
 #include <QFile>
 #include <QProcessEnvironment>
 
-#include <cstring>
+#include <utility>
 
 struct DiscoQueFalla
 {
@@ -19,13 +17,14 @@ struct DiscoQueFalla
     {
         QFile::remove(cuenta);
         QProcessEnvironment e = QProcessEnvironment::systemEnvironment();
-        e.insert("LD_PRELOAD"_u, QStringLiteral(RTN_DISCO_LLENO));
-        e.insert("RTN_FALLA_CARPETA"_u, carpeta);
-        e.insert("RTN_FALLA_CUENTA"_u, cuenta);
-        e.insert("RTN_FALLA_ERROR"_u, QString::fromLatin1(error));
-        e.insert("RTN_FALLA_N"_u, QString::number(n));
+        e.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(RTN_DISCO_LLENO));
+        e.insert(QStringLiteral("RTN_FALLA_CARPETA"), carpeta);
+        e.insert(QStringLiteral("RTN_FALLA_CUENTA"), cuenta);
+        e.insert(QStringLiteral("RTN_FALLA_ERROR"), QString::fromLatin1(error));
+        e.insert(QStringLiteral("RTN_FALLA_N"), QString::number(n));
         // A sanitizer wants to be the first of what is loaded.
-        e.insert("ASAN_OPTIONS"_u, e.value("ASAN_OPTIONS"_u) + ":verify_asan_link_order=0"_u);
+        e.insert(QStringLiteral("ASAN_OPTIONS"),
+                 e.value(QStringLiteral("ASAN_OPTIONS")) + QStringLiteral(":verify_asan_link_order=0"));
         return e;
     }
     /// Calls seen and calls failed.
