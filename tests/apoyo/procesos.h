@@ -32,7 +32,7 @@ protected:
         f.write(datos);
         return ruta;
     }
-    [[nodiscard]] static QByteArray leer(const QString& ruta)
+    static QByteArray leer(const QString& ruta)
     {
         QFile f(ruta);
         return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no está)");

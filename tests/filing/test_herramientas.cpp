@@ -82,6 +82,7 @@ TEST_F(Herramientas, NadaMandaEnElTerminal)
         std::fclose(f);
         std::remove(a.c_str());
         agregar_rar(a, {ruta});
+        std::remove(ruta.c_str());
         for (const char* orden : {"t", "l"}) {
             QString salida;
             EXPECT_EQ(rar({QLatin1StringView(orden), QString::fromStdString(a)}, &salida), 0);

@@ -14,7 +14,7 @@
 
 namespace {
 
-class DiscoLleno : public ConAlmacen, public testing::WithParamInterface<const char*>
+class DiscoLlenoOrden : public ConAlmacen
 {
 protected:
     void SetUp() override
@@ -47,6 +47,7 @@ protected:
     [[nodiscard]] QString disco() const { return QFileInfo(carpeta.path()).canonicalFilePath() + "/disco"_u; }
     [[nodiscard]] QString almacen() const { return disco() + "/programa/vedra_rtn.db"_u; }
     [[nodiscard]] QString archivo() const { return disco() + "/programa/data/%1/SRTN%1.txt"_u.arg(dj); }
+    [[nodiscard]] QString traza() const { return carpeta.path() + "/traza"_u; }
     [[nodiscard]] QString rar() const { return disco() + "/destino/SRTN%1.rar"_u.arg(dj); }
 
     static void poner(const QString& de, const QString& a)
@@ -62,9 +63,12 @@ protected:
     // The n-th call fails; gives the status of the emission, and takes down what was said.
     int emitir(int n, const char* error = "ENOSPC")
     {
+        QFile::remove(traza());
         const DiscoQueFalla falla{disco(), carpeta.path() + "/cuenta"_u};
+        QProcessEnvironment entorno = falla.entorno(n, error);
+        entorno.insert("RTN_FALLA_TRAZA"_u, traza());
         QProcess p;
-        p.setProcessEnvironment(falla.entorno(n, error));
+        p.setProcessEnvironment(entorno);
         p.setProcessChannelMode(QProcess::MergedChannels);
         p.start(QStringLiteral(RTN_EMITIR), {disco() + "/programa"_u, dj, disco() + "/destino"_u});
         if (!p.waitForFinished(60000) || p.exitStatus() != QProcess::NormalExit)
@@ -116,6 +120,10 @@ protected:
     bool fallo = false;
 };
 
+class DiscoLleno : public DiscoLlenoOrden, public testing::WithParamInterface<const char*>
+{
+};
+
 TEST_P(DiscoLleno, CadaLlamadaDejaLoAnteriorOLoNuevo)
 {
     const QString motivo = qstrcmp(GetParam(), "EIO") == 0 ? "el disco no pudo leer o escribir"_u
@@ -147,6 +155,27 @@ TEST_P(DiscoLleno, CadaLlamadaDejaLoAnteriorOLoNuevo)
     EXPECT_GT(delMotor, 3);
     EXPECT_GT(delEmpaquetador, 3);
     EXPECT_GT(n - delMotor - delEmpaquetador, 10);
+}
+// What the authority or the office keeps is on the disk under its own name before the emission is told; the
+// copies that are packed are not waited for.
+TEST_F(DiscoLlenoOrden, LoEmitidoEstaEnElDiscoAntesDeDecirlo)
+{
+    poner(carpeta.path() + "/guardado"_u, disco());
+    ASSERT_EQ(emitir(0), 0);
+    const QStringList llamadas = QString::fromUtf8(leer(traza())).split(u'\n');
+    for (const QString& nombre : {archivo(), rar()}) {
+        qsizetype lugar = -1;
+        for (const QString& llamada : {"write "_u + nombre + ".nuevo"_u, "fsync "_u + nombre + ".nuevo"_u,
+                                       "rename "_u + nombre, "fsync "_u + QFileInfo(nombre).path()}) {
+            const qsizetype siguiente = llamadas.indexOf(llamada, lugar + 1);
+            EXPECT_GT(siguiente, lugar) << llamada.toStdString();
+            lugar = siguiente;
+        }
+    }
+    EXPECT_EQ(llamadas.filter("write "_u).filter("/testimonios/"_u).size(), 2);
+    EXPECT_EQ(llamadas.filter("fsync "_u).filter("/testimonios"_u), QStringList());
+    // The code is committed behind the file's new name.
+    EXPECT_GT(llamadas.lastIndexOf("fdatasync "_u + almacen()), llamadas.indexOf("rename "_u + archivo()));
 }
 INSTANTIATE_TEST_SUITE_P(Errores, DiscoLleno, testing::Values("ENOSPC", "EIO"));
 
