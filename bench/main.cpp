@@ -68,6 +68,7 @@ int main(int argc, char** argv)
     registrar_impresion();
     registrar_catalogo();
     registrar_respaldo();
+    registrar_empaquetado();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

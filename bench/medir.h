@@ -21,3 +21,4 @@ void registrar_pantallas();
 void registrar_impresion();
 void registrar_catalogo();
 void registrar_respaldo();
+void registrar_empaquetado();

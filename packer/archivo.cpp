@@ -5,6 +5,7 @@
 #include "core/motivo_sistema.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -15,14 +16,13 @@ namespace {
 constexpr mode_t SOLO_DEL_USUARIO = 0600;
 }
 
-// A stick may keep no modes: that one can't be set is no failure.
 Archivo::Archivo(std::string ruta, int modo)
     : ruta_(std::move(ruta)), fd_(open(ruta_.c_str(), modo | O_CLOEXEC, SOLO_DEL_USUARIO))
 {
     if (fd_ < 0)
         fallar("no se puede abrir");
     if (modo & O_CREAT)
-        (void)fchmod(fd_, SOLO_DEL_USUARIO);
+        soloDelUsuario();
 }
 
 Archivo::~Archivo()
@@ -97,4 +97,30 @@ void Archivo::asegurar()
 {
     if (fsync(fd_) != 0)
         fallar("no se puede escribir");
+}
+
+void Archivo::recortar()
+{
+    if (ftruncate(fd_, off_t(lugar_)) != 0)
+        fallar("no se puede escribir");
+}
+
+// Some file systems know no locks; there the user's own care has to do.
+void Archivo::trabar()
+{
+    while (flock(fd_, LOCK_EX) != 0 && errno == EINTR)
+        continue;
+}
+
+bool Archivo::es(const std::string& ruta) const
+{
+    struct stat esta, otra;
+    return fstat(fd_, &esta) == 0 && stat(ruta.c_str(), &otra) == 0 && esta.st_dev == otra.st_dev
+           && esta.st_ino == otra.st_ino;
+}
+
+// A stick may keep no modes: that one can't be set is no failure.
+void Archivo::soloDelUsuario()
+{
+    (void)fchmod(fd_, SOLO_DEL_USUARIO);
 }

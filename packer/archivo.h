@@ -24,6 +24,14 @@ public:
     [[nodiscard]] uint32_t permisos() const;
     /// To the disk, before a rename makes it count.
     void asegurar();
+    /// Ends the file at its place.
+    void recortar();
+    /// Waits until no other process has it so, and keeps it until it is closed.
+    void trabar();
+    /// Whether this name is that of the open file.
+    [[nodiscard]] bool es(const std::string& ruta) const;
+    /// For the user alone, where the file system keeps modes.
+    void soloDelUsuario();
     [[nodiscard]] const std::string& ruta() const { return ruta_; }
 
 private:

@@ -4,6 +4,8 @@
 #include "rar5.h"
 #include "visible.h"
 
+#include <cinttypes>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -50,6 +52,13 @@ int listar(const std::string& archivo)
     return EXIT_SUCCESS;
 }
 
+// One line: bytes done, of all, and the name. Who started the packer reads how far it is.
+void contar(const std::string& nombre, uint64_t hechos, uint64_t todos)
+{
+    std::printf("%" PRIu64 "/%" PRIu64 " %s\n", hechos, todos, visible(nombre).c_str());
+    std::fflush(stdout);
+}
+
 // The status, once what was said is out.
 int terminar(int estado)
 {
@@ -64,9 +73,11 @@ int terminar(int estado)
 int main(int argc, char** argv)
 {
     const std::vector<std::string> a(argv + 1, argv + argc);
+    // Who listened to the progress may be gone; the archive is made all the same.
+    std::signal(SIGPIPE, SIG_IGN);
     try {
         if (a.size() >= 4 && a[0] == "a" && a[1] == "-y") {
-            agregar_rar(a[2], {a.begin() + 3, a.end()});
+            agregar_rar(a[2], {a.begin() + 3, a.end()}, contar);
             return EXIT_SUCCESS;
         }
         if (a.size() == 2 && a[0] == "t")

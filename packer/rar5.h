@@ -3,24 +3,12 @@
 // headers with stored data, end header. Nothing is compressed.
 #pragma once
 
+#include "cabeceras.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
-
-/// One file of an archive.
-struct EntradaRar
-{
-    std::string nombre;       ///< in UTF-8
-    uint64_t largo = 0;       ///< bytes of the file
-    uint64_t almacenado = 0;  ///< bytes in the archive
-    uint32_t modificado = 0;  ///< seconds since 1970
-    uint32_t crc = 0;
-    bool conCrc = false;
-    bool guardada = true;   ///< stored without compression
-    uint64_t cabecera = 0;  ///< where its header begins
-    uint64_t datos = 0;     ///< where its data begin
-};
 
 /// The files of an archive, in their order. Throws std::runtime_error on what is no archive, or on a
 /// header whose check does not hold.
@@ -30,6 +18,13 @@ struct EntradaRar
 [[nodiscard]] bool leer_entrada(const std::string& archivo, const EntradaRar& entrada,
                                 const std::function<void(const char*, size_t)>& bloque);
 
-/// Creates the archive or adds to it; a file takes the place of an earlier one of the same name.
-/// It writes aside and renames: the archive is the earlier one or the new one, whatever happens.
-void agregar_rar(const std::string& archivo, const std::vector<std::string>& archivos);
+/// Told how far a file is: its name, bytes done, bytes in all; the last time with all of them done.
+using AvanceRar = std::function<void(const std::string& nombre, uint64_t hechos, uint64_t todos)>;
+
+/// Creates the archive or adds to it, in time that does not grow with the archive; a file takes the place of an earlier
+/// one of the same name, and for that, as for an archive of another packer, the archive is written anew and renamed.
+/// The archive holds all files of the call or, whatever happens, is the earlier one or holds the first of them; an
+/// addition is not brought to the disk. Throws std::runtime_error, also on two files of one name.
+void agregar_rar(
+    const std::string& archivo, const std::vector<std::string>& archivos,
+    const AvanceRar& avance = [](const std::string&, uint64_t, uint64_t) {});

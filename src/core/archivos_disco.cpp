@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <future>
 #include <memory>
 #include <utility>
 
@@ -23,6 +24,9 @@ namespace {
 constexpr mode_t SOLO_DEL_USUARIO = 0600;
 constexpr mode_t CARPETA_DEL_USUARIO = 0700;
 constexpr size_t BLOQUE = 1 << 20;
+constexpr qint64 POR_VEZ = 16 << 20;
+constexpr std::chrono::milliseconds ENTRE_LATIDOS{30};
+constexpr QStringView NO_COPIADO = u"No se pudo copiar ";
 
 QByteArray nombre(const QString& ruta)
 {
@@ -45,34 +49,39 @@ void renombrar(const QString& de, const QString& a)
         fallar_al_escribir(a);
 }
 
+// A file that is open for reading.
+struct Descriptor
+{
+    explicit Descriptor(const QString& ruta) : fd(open(nombre(ruta).constData(), O_RDONLY | O_CLOEXEC))
+    {
+        if (fd < 0)
+            throw ErrorDisco(NO_COPIADO.toString(), ruta, errno);
+    }
+    ~Descriptor() { close(fd); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int fd;
+};
+
 // Reads a file from its beginning to its end.
 class Origen
 {
 public:
-    explicit Origen(const QString& ruta) : ruta_(ruta), fd_(open(nombre(ruta).constData(), O_RDONLY | O_CLOEXEC))
-    {
-        if (fd_ < 0)
-            fallar();
-    }
-    ~Origen() { close(fd_); }
-    Origen(const Origen&) = delete;
-    Origen& operator=(const Origen&) = delete;
+    explicit Origen(const QString& ruta) : ruta_(ruta), archivo_(ruta) {}
 
     // Empty at the end.
     std::string_view leer()
     {
         ssize_t n = -1;
-        while ((n = read(fd_, bloque_.get(), BLOQUE)) < 0)
+        while ((n = read(archivo_.fd, bloque_.get(), BLOQUE)) < 0)
             if (errno != EINTR)
-                fallar();
+                throw ErrorDisco(NO_COPIADO.toString(), ruta_, errno);
         return {bloque_.get(), size_t(n)};
     }
 
 private:
-    [[noreturn]] void fallar() const { throw ErrorDisco(u"No se pudo copiar "_s, ruta_, errno); }
-
     QString ruta_;
-    int fd_;
+    Descriptor archivo_;
     std::unique_ptr<char[]> bloque_{new char[BLOQUE]};
 };
 
@@ -121,12 +130,17 @@ void ArchivoNuevo::escribir(std::string_view bytes)
     }
 }
 
+void ArchivoNuevo::adelantar()
+{
+    if (asegurar_ == Asegurar::si && fsync(fd_) != 0)
+        fallar_al_escribir(destino_);
+}
+
 void ArchivoNuevo::cerrar()
 {
     if (fd_ < 0)
         return;
-    if (asegurar_ == Asegurar::si && fsync(fd_) != 0)
-        fallar_al_escribir(destino_);
+    adelantar();
     const int fd = std::exchange(fd_, -1);
     if (close(fd) != 0 && errno != EINTR)
         fallar_al_escribir(destino_);
@@ -206,13 +220,42 @@ QString ruta_real(const QString& archivo)
     return real.isEmpty() ? QFileInfo(info.absolutePath()).canonicalFilePath() + u'/' + info.fileName() : real;
 }
 
-void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar)
+// With somebody who waits for news the disk gets its part on the way, so that the end takes no longer than the rest.
+void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar, const Latido& latido)
 {
     Origen origen(de);
     ArchivoNuevo copia(a, asegurar);
-    for (std::string_view bytes = origen.leer(); !bytes.empty(); bytes = origen.leer())
+    qint64 hechos = 0;
+    qint64 en_disco = 0;
+    for (std::string_view bytes = origen.leer(); !bytes.empty(); bytes = origen.leer()) {
         copia.escribir(bytes);
+        hechos += qint64(bytes.size());
+        if (!latido)
+            continue;
+        if (hechos - en_disco >= POR_VEZ) {
+            copia.adelantar();
+            en_disco = hechos;
+        }
+        if (!latido(hechos))
+            throw Interrumpido();
+    }
     copia.ocupar();
+}
+
+void llevar_archivo(const QString& de, const QString& a, const Latido& latido)
+{
+    const Descriptor origen(de);
+    // Only the call that may take long waits elsewhere.
+    auto listo = std::async(std::launch::async, [&origen] { return fsync(origen.fd) == 0 ? 0 : errno; });
+    while (listo.wait_for(ENTRE_LATIDOS) != std::future_status::ready)
+        if (!latido(0))
+            throw Interrumpido();
+    if (const int falla = listo.get(); falla != 0)
+        throw ErrorDisco(u"No se pudo escribir el archivo "_s, de, falla);
+    if (std::rename(nombre(de).constData(), nombre(a).constData()) == 0)
+        return asegurar_carpeta(carpeta_de(a));
+    copiar_archivo(de, a, Asegurar::si, latido);
+    borrar_archivo(de);
 }
 
 void borrar_archivo(const QString& archivo)

@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <exception>
+#include <functional>
 #include <string_view>
 
 /// What the system refused; the text tells what was tried, with which file, and why, in Spanish.
@@ -34,6 +36,8 @@ public:
     ArchivoNuevo& operator=(const ArchivoNuevo&) = delete;
 
     void escribir(std::string_view bytes);
+    /// What was written so far goes to the disk, when that is asked for.
+    void adelantar();
     /// Nothing more is written; what was written is on the disk when that is asked for.
     void cerrar();
     /// Closes, and takes the place of what stands there.
@@ -74,8 +78,20 @@ void poner_en_lugar(const QString& nuevo, const QString& lugar);
 /// The path of a file without links on its way; the file itself may be missing.
 [[nodiscard]] QString ruta_real(const QString& archivo);
 
-/// Copies aside and renames. Throws ErrorDisco when the source can't be read or the copy can't be written.
-void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar);
+/// Told now and then how many bytes of a copy are done; false ends it.
+using Latido = std::function<bool(qint64 hechos)>;
+/// A copy that was ended.
+struct Interrumpido : std::exception
+{
+};
+
+/// Copies aside and renames. Throws ErrorDisco when the source can't be read or the copy can't be written, Interrumpido
+/// when it is ended.
+void copiar_archivo(const QString& de, const QString& a, Asegurar asegurar, const Latido& latido = {});
+
+/// Brings a file to the disk and to another name; a copy when that is in another file system. What stood there stays
+/// until the new one is whole. Throws as copiar_archivo does.
+void llevar_archivo(const QString& de, const QString& a, const Latido& latido);
 
 /// Deletes a file, a write-protected one too. Throws ErrorDisco, also when there is none.
 void borrar_archivo(const QString& archivo);

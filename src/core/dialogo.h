@@ -14,6 +14,8 @@ struct Mensaje
     QString titulo;
     Icono icono = Icono::informacion;
     QString detalles = {};  ///< behind "Detalles"
+    QString si = {};        ///< captions of a question's buttons, in place of Yes and No
+    QString no = {};
 };
 
 class Dialogo
@@ -25,6 +27,8 @@ public:
     [[nodiscard]] virtual bool preguntar(const Mensaje& mensaje) = 0;
     /// How far a work is that may take long; it is told again and again, until the next notice or question.
     virtual void progresar(const QString& /*que*/, qint64 /*hecho*/, qint64 /*total*/) {}
+    /// The same of a work that the user may end: false once he wants it ended.
+    [[nodiscard]] virtual bool seguir(const QString& /*que*/, qint64 /*hecho*/, qint64 /*total*/) { return true; }
 };
 
 /// The first thing that a check found wrong: what to tell and which control gets the focus.

@@ -7,21 +7,16 @@
 #include "core/modUtiles.h"
 #include "core/numero.h"
 #include "filing/carpetas_dj.h"
+#include "filing/lote_empaquetador.h"
 #include "rar5.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QRegularExpression>
-
-#include <sys/stat.h>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int SIN_LIMITE = -1;
 
 void borrar(const QString& archivo)
 {
@@ -29,53 +24,12 @@ void borrar(const QString& archivo)
         borrar_archivo(archivo);
 }
 
-constexpr mode_t NADIE_MAS = 077;
-
-// The batch file at work. However the emission ends, the archive that it builds does not stay behind.
-class LoteEnMarcha
-{
-public:
-    LoteEnMarcha(const QString& lote, const QString& archivo) : archivo_(archivo)
-    {
-        proceso_.setStandardOutputFile(QProcess::nullDevice());
-        // Another packer makes its files for the user alone, too.
-        proceso_.setChildProcessModifier([] { umask(NADIE_MAS); });
-        proceso_.start(u"/bin/sh"_s, {lote});
-    }
-    ~LoteEnMarcha()
-    {
-        esperar();
-        QFile::remove(archivo_);
-        QFile::remove(archivo_ + u".nuevo"_s);
-    }
-    LoteEnMarcha(const LoteEnMarcha&) = delete;
-    LoteEnMarcha& operator=(const LoteEnMarcha&) = delete;
-
-    // Until every line was carried out; whether the last one ended well.
-    bool esperar()
-    {
-        if (proceso_.state() != QProcess::NotRunning)
-            proceso_.waitForFinished(SIN_LIMITE);
-        return proceso_.exitStatus() == QProcess::NormalExit && proceso_.exitCode() == 0;
-    }
-    // What the packer complained of; the shell's own complaint of the first line is none.
-    [[nodiscard]] QString queja()
-    {
-        const QStringList lineas = QString::fromUtf8(proceso_.readAllStandardError()).split(u'\n');
-        return lineas.filter(QRegularExpression(u"^rar: "_s)).join(u'\n');
-    }
-
-private:
-    QString archivo_;
-    QProcess proceso_;
-};
-
 class Empaquetado
 {
 public:
-    Empaquetado(const QString& nro, Dialogo& dialogo)
-        : nro_(nro), dialogo_(dialogo), base_(carpeta_programa()), carpeta_(carpeta_dj(nro)),
-          testimonios_(carpeta_testimonios(nro))
+    Empaquetado(const QString& nro, Dialogo& dialogo, std::chrono::milliseconds sin_noticias)
+        : nro_(nro), dialogo_(dialogo), sin_noticias_(sin_noticias), base_(carpeta_programa()),
+          carpeta_(carpeta_dj(nro)), copias_(carpeta_testimonios(nro))
     {
     }
 
@@ -91,11 +45,16 @@ public:
         hacer_carpeta_testimonios(nro_);
         if (const auto falla = vaciar_testimonios(nro_))
             throw *falla;
-        if (!copiarTestimonios())
-            return false;
+        try {
+            if (!copiarTestimonios())
+                return false;
+        } catch (const Interrumpido&) {
+            return cancelada({});
+        }
         escribirLote(texto_ + u'\n');
-        LoteEnMarcha lotes(lote(), archivo());
-        if (QFileInfo::exists(archivo()))
+        LoteEnMarcha lotes({lote(), archivo(), largos_.size(), bytes_}, sin_noticias_);
+        // Normally the packer is still at work and no copy is made here; half an archive is never one.
+        if (lotes.termino() && QFileInfo::exists(archivo()))
             copiar_archivo(archivo(), carpeta_ + u"/dj.rar"_s, Asegurar::si);
         return guardar(pedir, lotes);
     }
@@ -107,28 +66,47 @@ private:
 
     void empaquetar(const QString& fichero)
     {
-        ficheros_ << QFileInfo(fichero).fileName();
+        const QFileInfo info(fichero);
+        largos_[info.fileName()] = info.size();
+        bytes_ += info.size();
         texto_ += palabra_shell(base_ + u"/rar"_s) + u" a -y "_s + palabra_shell(archivo()) + u' '
                   + palabra_shell(fichero) + u'\n';
     }
 
-    bool copiarTestimonios()
+    struct Testimonio
     {
+        qint64 id;
+        QString escritura;
+        QString archivo;  // as stored
+    };
+
+    [[nodiscard]] std::vector<Testimonio> testimonios() const
+    {
+        std::vector<Testimonio> hay;
         Recordset rs(cnRtn, u"select SEDD_ID, SEDD_ESCRITURA_NRO, SEDD_FNAME_TESTIMONIO"
                             u" from SEL_TB_RTN_DETDJ where SEDJ_NRO='%1'"_s.arg(nro_));
-        for (; !rs.eof(); rs.siguiente()) {
-            const QString origen = fromSQL(rs.texto(2));
-            if (origen.isEmpty())
-                continue;
+        for (; !rs.eof(); rs.siguiente())
+            if (!fromSQL(rs.texto(2)).isEmpty())
+                hay.push_back({rs.entero(0), rs.texto(1), rs.texto(2)});
+        return hay;
+    }
+
+    bool copiarTestimonios()
+    {
+        const std::vector<Testimonio> todos = testimonios();
+        for (const Testimonio& t : todos) {
+            const QString origen = fromSQL(t.archivo);
             if (!QFileInfo(origen).isFile()) {
                 dialogo_.avisar({u"Error en la escritura Nº %1,  no existe el archivo del testimonio \n%2"
-                                 u"\n\nComplete la declaracion jurada e intente mas tarde."_s.arg(rs.texto(1), origen),
+                                 u"\n\nComplete la declaracion jurada e intente mas tarde."_s.arg(t.escritura, origen),
                                  titulo(), Icono::informacion});
                 return false;
             }
-            const QString copia = testimonios_ + u'/' + nro_ + u'-' + con_ceros(rs.entero(0), 4) + u'.'
-                                  + QFileInfo(rs.texto(2)).suffix().toLower();
-            copiar_archivo(origen, copia, Asegurar::no);
+            const QString copia = copias_ + u'/' + nro_ + u'-' + con_ceros(t.id, 4) + u'.'
+                                  + QFileInfo(t.archivo).suffix().toLower();
+            const QString que = u"Copiando los testimonios\n"_s + QFileInfo(origen).fileName();
+            copiar_archivo(origen, copia, Asegurar::no,
+                           [&](qint64) { return dialogo_.seguir(que, largos_.size(), qint64(todos.size()) + 1); });
             empaquetar(copia);
         }
         return true;
@@ -141,22 +119,31 @@ private:
         f.ocupar();
     }
 
-    // The packer works while the user chooses; the copy waits for its end.
-    bool guardar(const PedirDestino& pedir, LoteEnMarcha& lotes) const
+    // The packer works while the user chooses; what is saved waits for its end.
+    bool guardar(const PedirDestino& pedir, LoteEnMarcha& lotes)
     {
         const QString nombre = u"SRTN"_s + nro_ + u".rar"_s;
         const QString elegido = pedir(nombre);
-        QString motivo;
         try {
-            const bool bien = lotes.esperar();
-            if (!elegido.isEmpty() && bien && entero()) {
-                copiar_archivo(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre, Asegurar::si);
-                return true;
-            }
-            motivo = elegido.isEmpty() ? QString() : motivoDelEmpaquetador(lotes);
+            if (elegido.isEmpty())
+                lotes.terminar();
+            if (elegido.isEmpty() || !lotes.esperar(dialogo_, titulo()))
+                return cancelada({});
+            if (!lotes.bien() || !entero())
+                return cancelada(motivoDelEmpaquetador(lotes));
+            const QString que = u"Guardando %1"_s.arg(nombre);
+            llevar_archivo(archivo(), QFileInfo(elegido).absolutePath() + u'/' + nombre,
+                           [&](qint64 hechos) { return dialogo_.seguir(que, hechos, bytes_); });
+            return true;
+        } catch (const Interrumpido&) {
+            return cancelada({});
         } catch (const ErrorDisco& e) {
-            motivo = e.texto;
+            return cancelada(e.texto);
         }
+    }
+
+    bool cancelada(const QString& motivo)
+    {
         dialogo_.avisar(
             {u"Error: Se canceló la emisión de la declaracion jurada"_s, titulo(), Icono::informacion, motivo});
         return false;
@@ -174,11 +161,13 @@ private:
     [[nodiscard]] bool entero() const
     {
         try {
-            QStringList nombres;
-            for (const EntradaRar& e : listar_rar(QFile::encodeName(archivo()).toStdString()))
-                nombres << QFileInfo(QString::fromStdString(e.nombre)).fileName();
-            return std::all_of(ficheros_.begin(), ficheros_.end(),
-                               [&](const QString& f) { return nombres.contains(f); });
+            QHash<QString, qint64> faltan = largos_;
+            for (const EntradaRar& e : listar_rar(QFile::encodeName(archivo()).toStdString())) {
+                const auto it = faltan.constFind(QFileInfo(QString::fromStdString(e.nombre)).fileName());
+                if (it != faltan.cend() && *it == qint64(e.largo))
+                    faltan.erase(it);
+            }
+            return faltan.isEmpty();
         } catch (const std::exception&) {
             // Another packer's archive may be one that is not read here.
             return QFileInfo(archivo()).size() > 0;
@@ -186,11 +175,13 @@ private:
     }
 
     QString nro_;
-    QStringList ficheros_;
+    QHash<QString, qint64> largos_;  // of what is packed, by name
+    qint64 bytes_ = 0;
     Dialogo& dialogo_;
+    std::chrono::milliseconds sin_noticias_;
     QString base_;
     QString carpeta_;
-    QString testimonios_;
+    QString copias_;
     QString texto_;
 };
 
@@ -201,7 +192,8 @@ QString palabra_shell(const QString& texto)
     return u'\'' + QString(texto).replace(u'\'', u"'\\''"_s) + u'\'';
 }
 
-bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir)
+bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir,
+                  std::chrono::milliseconds sin_noticias)
 {
-    return Empaquetado(nro, dialogo).correr(pedir);
+    return Empaquetado(nro, dialogo, sin_noticias).correr(pedir);
 }

@@ -43,7 +43,15 @@ QStringList huella_de(const QWidget* raiz)
 
 bool Formulario::proteger(const std::function<void()>& accion)
 {
-    return con_guardia(this, accion, [this] { enfocarIlegible(); });
+    const QList<Formulario*> antes = cargados();
+    if (con_guardia(this, accion, [this] { enfocarIlegible(); }))
+        return true;
+    // A form that the action loaded and could not show is none: the next attempt begins with a new one.
+    const QList<Formulario*> despues = cargados();
+    for (Formulario* f : despues)
+        if (!antes.contains(f) && !f->isVisible())
+            f->descargar();
+    return false;
 }
 
 void Formulario::avisar(const QString& texto, const QString& titulo, Icono icono, const QString& detalles)

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -57,6 +58,9 @@ int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons boton
         caja.setDetailedText(m.detalles);
     if (m.texto.size() > LARGO_A_LA_VISTA)
         hacerDesplazable(caja, m.texto);
+    for (const auto& [boton, texto] : {std::pair(QMessageBox::Yes, m.si), std::pair(QMessageBox::No, m.no)})
+        if (!texto.isEmpty())
+            caja.button(boton)->setText(texto);
     return caja.exec();
 }
 
@@ -70,9 +74,24 @@ DialogoPantalla::~DialogoPantalla() = default;
 
 void DialogoPantalla::progresar(const QString& que, qint64 hecho, qint64 total)
 {
-    if (!progreso_)
-        progreso_ = std::make_unique<VentanaProgreso>(padre_);
-    progreso_->avanzar(que, hecho, total);
+    (void)progreso(false).avanzar(que, hecho, total);
+}
+
+bool DialogoPantalla::seguir(const QString& que, qint64 hecho, qint64 total)
+{
+    return progreso(true).avanzar(que, hecho, total);
+}
+
+void DialogoPantalla::ocultarProgreso()
+{
+    progreso_.reset();
+}
+
+VentanaProgreso& DialogoPantalla::progreso(bool cancelable)
+{
+    if (!progreso_ || progreso_->cancelable() != cancelable)
+        progreso_ = std::make_unique<VentanaProgreso>(padre_, cancelable);
+    return *progreso_;
 }
 
 void DialogoPantalla::avisar(const Mensaje& mensaje)

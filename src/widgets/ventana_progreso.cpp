@@ -4,8 +4,10 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QLabel>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +21,7 @@ constexpr int PASOS = 1000;
 
 }  // namespace
 
-VentanaProgreso::VentanaProgreso(QWidget* padre) : padre_(padre)
+VentanaProgreso::VentanaProgreso(QWidget* padre, bool cancelable) : padre_(padre), cancelable_(cancelable)
 {
     desde_.start();
 }
@@ -41,17 +43,26 @@ void VentanaProgreso::abrir()
     auto* filas = new QVBoxLayout(ventana_.get());
     filas->addWidget(rotulo_);
     filas->addWidget(barra_);
+    if (cancelable_) {
+        auto* botones = new QDialogButtonBox;
+        auto* cancelar = botones->addButton(u"&Cancelar"_s, QDialogButtonBox::RejectRole);
+        cancelar->setObjectName(u"cmdCancelar"_s);
+        filas->addWidget(botones);
+        QObject::connect(botones, &QDialogButtonBox::rejected, ventana_.get(), &QDialog::reject);
+        QObject::connect(ventana_.get(), &QDialog::rejected, [this] { cancelado_ = true; });
+    }
     ventana_->show();
 }
 
-void VentanaProgreso::avanzar(const QString& que, qint64 hecho, qint64 total)
+bool VentanaProgreso::avanzar(const QString& que, qint64 hecho, qint64 total)
 {
     if (desde_.elapsed() < ESPERA_MS || (pintada_.isValid() && pintada_.elapsed() < ENTRE_PINTADAS_MS))
-        return;
+        return !cancelado_;
     if (!ventana_)
         abrir();
     rotulo_->setText(que);
     barra_->setValue(total > 0 ? int(PASOS * hecho / total) : 0);
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QApplication::processEvents(cancelable_ ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
     pintada_.start();
+    return !cancelado_;
 }

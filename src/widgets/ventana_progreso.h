@@ -15,19 +15,23 @@ class QWidget;
 class VentanaProgreso
 {
 public:
-    explicit VentanaProgreso(QWidget* padre);
+    /// One that can be cancelled has a button for it, and lets the program live; Escape is that button.
+    explicit VentanaProgreso(QWidget* padre, bool cancelable = false);
     ~VentanaProgreso();
     VentanaProgreso(const VentanaProgreso&) = delete;
     VentanaProgreso& operator=(const VentanaProgreso&) = delete;
 
     /// Shows what is done and how far it is; may be called as often as one likes. While the window stands, windows are
-    /// painted, and what the user types or clicks waits.
-    void avanzar(const QString& que, qint64 hecho, qint64 total);
+    /// painted, and what the user types or clicks elsewhere waits. False once the user cancelled.
+    bool avanzar(const QString& que, qint64 hecho, qint64 total);
+    [[nodiscard]] bool cancelable() const { return cancelable_; }
 
 private:
     void abrir();
 
     QWidget* padre_;
+    bool cancelable_;
+    bool cancelado_ = false;
     QElapsedTimer desde_;
     QElapsedTimer pintada_;
     std::unique_ptr<QDialog> ventana_;

@@ -34,10 +34,17 @@ public:
         anotar(m);
         return respuesta;
     }
+    bool seguir(const QString& que, qint64 /*hecho*/, qint64 /*total*/) override
+    {
+        avances << que;
+        return !que.contains(hasta) || hasta.isEmpty();
+    }
     /// What was said last; empty when nothing was.
     [[nodiscard]] QString ultimo() const { return textos.isEmpty() ? QString() : textos.constLast(); }
 
     bool respuesta = true;
+    QString hasta;  ///< a work is ended when its progress says this
+    QStringList avances;
     QStringList textos;
     QStringList titulos;
     QStringList detalles;

@@ -205,6 +205,15 @@ TEST_F(Respaldos, LoQueTardaMuestraUnaVentanaConSuAvance)
     EXPECT_EQ(ventana()->findChild<QProgressBar*>()->value() * 2, ventana()->findChild<QProgressBar*>()->maximum());
     Cajas::durante({{"Listo"_u}}, [&] { dialogo.avisar({"Listo"_u, {}}); });
     EXPECT_EQ(ventana(), nullptr);
+    // One that can be ended says so once its button was pressed.
+    EXPECT_TRUE(dialogo.seguir("Se empaqueta"_u, 1, 10));
+    QTest::qSleep(600);
+    EXPECT_TRUE(dialogo.seguir("Se empaqueta"_u, 2, 10));
+    ASSERT_NE(ventana(), nullptr);
+    QTest::mouseClick(ventana()->findChild<QPushButton*>("cmdCancelar"_u), Qt::LeftButton);
+    EXPECT_FALSE(dialogo.seguir("Se empaqueta"_u, 3, 10));
+    dialogo.ocultarProgreso();
+    EXPECT_EQ(ventana(), nullptr);
 }
 
 // The window with the bar is told of the work from its beginning to its end.

@@ -4,6 +4,7 @@
 #include "apoyo/pantallas.h"
 #include "core/reloj.h"
 #include "declarations/screens/frmDJ_buscar.h"
+#include "declarations/screens/frmDJ_editar.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -226,6 +227,21 @@ TEST_F(PantallasFormularios, RectificarYCancelarNoCopiaDeNuevo)
     EXPECT_EQ(dato("select count(*) from SEL_TB_RTN_CABDJ"_u), "2"_u);
     pulsar(f, "tlbDJ"_u, "salir"_u);
     EXPECT_EQ(manejo::filas(lista, "flx"_u), 2);
+}
+
+// What could not begin does not stand half loaded in the way of the next attempt.
+TEST_F(PantallasFormularios, UnEditorQueNoPudoEmpezarNoQuedaCargado)
+{
+    nueva_dj();
+    auto* lista = cargar<frmDJ_buscar>();
+    lista->mostrar();
+    cnRtn.ejecutar("alter table SEL_TB_RTN_DETDJ rename to OTRA"_u);
+    Cajas::durante({{"La base de datos no pudo hacer lo que se le pidió."_u}},
+                   [&] { pulsar(lista, "tlbDJ"_u, "rectificar"_u); });
+    EXPECT_EQ(cargada<frmDJ_editar>(), nullptr);
+    cnRtn.ejecutar("alter table OTRA rename to SEL_TB_RTN_DETDJ"_u);
+    pulsar(lista, "tlbDJ"_u, "modificar"_u);
+    EXPECT_EQ(formulario("frmDJ_editar")->windowTitle(), "Modificar DJ"_u);
 }
 
 TEST_F(Pantallas, SinVencimientoGuardadoValeElDeLaPosicion)

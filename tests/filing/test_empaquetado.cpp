@@ -6,9 +6,15 @@
 #include "filing/carpetas_dj.h"
 #include "filing/empaquetado.h"
 
+#include <rar5.h>
+
 #include <QDirIterator>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
+
+#include <map>
+#include <set>
 
 namespace {
 
@@ -52,9 +58,48 @@ TEST_F(Empaquetado, OtroProgramaExtraeLoMismo)
     EXPECT_NE(rar({}), 0);
     EXPECT_NE(rar({"a"_u, a, "x"_u}), 0);
     EXPECT_NE(rar({"x"_u, a}), 0);
+    // All files of a call, or none; two of one name are refused.
     const QByteArray antes = leer(a);
-    EXPECT_NE(rar({"a"_u, "-y"_u, a, "/no/existe"_u}), 0);
-    EXPECT_EQ(leer(a), antes);
+    const QString otro = archivo("otro.pdf"_u, "otro");
+    for (const QString& segundo : {"/no/existe"_u, carpeta.path(), archivo("mas/otro.pdf"_u, "y")}) {
+        EXPECT_NE(rar({"a"_u, "-y"_u, a, otro, segundo}), 0);
+        EXPECT_EQ(leer(a), antes);
+    }
+}
+
+// Added and replaced in any order, within a call and over calls, by an index that each call reads from the archive.
+TEST_F(Empaquetado, MuchosNombresSeAgreganYSeReemplazan)
+{
+    QRandomGenerator azar(11);
+    const std::string a = (carpeta.path() + "/muchos.rar"_u).toStdString();
+    std::map<QString, QByteArray> hay;
+    for (int vez = 0; vez < 250; ++vez) {
+        std::set<std::string> rutas;
+        for (int i = int(azar.bounded(1, 4)); i > 0; --i) {
+            const QString nombre = "t%1.pdf"_u.arg(azar.bounded(1500));
+            hay[nombre] = QByteArray::number(azar.generate());
+            rutas.insert(archivo("f/"_u + nombre, hay[nombre]).toStdString());
+        }
+        agregar_rar(a, {rutas.begin(), rutas.end()});
+    }
+    const QString destino = extraer(QString::fromStdString(a));
+    EXPECT_EQ(QDir(destino).entryList(QDir::Files).size(), qsizetype(hay.size()));
+    for (const auto& [nombre, datos] : hay)
+        EXPECT_EQ(leer(destino + u'/' + nombre), datos);
+}
+
+// Its entries stay as they are, whoever adds to it and however often.
+TEST_F(Empaquetado, ElArchivoDeOtroEmpaquetador)
+{
+    const QString a = archivo("otro.rar"_u,
+                              QByteArray::fromHex("526172211a070100c51a33320301000056175991180202050605a4830200"
+                                                  "e10b5ed4ac9dfa000105612e7478747669656a6f19b23a3503050000"));
+    for (const char* nombre : {"b.txt", "c.txt", "b.txt"})
+        EXPECT_EQ(rar({"a"_u, "-y"_u, a, archivo(QLatin1StringView(nombre), nombre)}), 0);
+    const QString destino = extraer(a);
+    EXPECT_EQ(QDir(destino).entryList(QDir::Files), (QStringList{"a.txt"_u, "b.txt"_u, "c.txt"_u}));
+    EXPECT_EQ(leer(destino + "/a.txt"_u), "viejo");
+    EXPECT_EQ(leer(destino + "/b.txt"_u), "b.txt");
 }
 
 TEST_F(Empaquetado, UnFicheroDeTresGiB)
@@ -76,23 +121,30 @@ TEST_F(Empaquetado, MatadoDejaElDeAntesOElNuevo)
     const QString a = carpeta.path() + "/k.rar"_u;
     const QString fijo = archivo("fijo.bin"_u, QByteArray(1000000, 'f'));
     ASSERT_EQ(rar({"a"_u, "-y"_u, a, fijo}), 0);
-    const QString nuevo = archivo("nuevo.bin"_u, QByteArray(4000000, 'n'));
-    int nuevos = 0;
+    const QString datos = archivo("datos.bin"_u, QByteArray(4000000, 'n'));
+    QStringList enteros;
     for (int i = 0; i < 100; ++i) {
+        // Every other time a name that is there already.
+        const QString nuevo = carpeta.path() + "/n%1.bin"_u.arg(i / 2);
+        QFile::link(datos, nuevo);
         QProcess p;
         p.start(QStringLiteral(RTN_RAR), {"a"_u, "-y"_u, a, nuevo});
         ASSERT_TRUE(p.waitForStarted());
-        QTest::qSleep(azar.bounded(12));
+        QTest::qSleep(azar.bounded(25));
         p.kill();
         p.waitForFinished();
         QString salida;
         ASSERT_EQ(rar({"t"_u, a}, &salida), 0) << i;
         ASSERT_TRUE(salida.contains("fijo.bin"_u)) << i;
-        nuevos += salida.contains("nuevo.bin"_u);
+        for (const QString& antes : std::as_const(enteros))
+            ASSERT_TRUE(salida.contains(antes)) << i << antes.toStdString();
+        if (salida.contains("n%1.bin"_u.arg(i / 2)))
+            enteros << "n%1.bin"_u.arg(i / 2);
     }
-    EXPECT_EQ(rar({"a"_u, "-y"_u, a, nuevo}), 0);
+    EXPECT_EQ(rar({"a"_u, "-y"_u, a, fijo, datos}), 0);
     EXPECT_EQ(rar({"t"_u, a}), 0);
-    RecordProperty("nuevos", nuevos);
+    EXPECT_GT(enteros.size(), 10);
+    EXPECT_LT(enteros.size(), 100);
 }
 
 class EmpaquetadoDJ : public Empaquetado
@@ -124,11 +176,20 @@ protected:
         (void)generar_archivo_dj(dj);
         oyente.textos.clear();
         oyente.detalles.clear();
-        return comprimir_dj(dj, oyente, [this](const QString& p) {
+        const auto pedir = [this](const QString& p) {
             propuesto = p;
             return cancelar ? QString() : destino + "/otro nombre.rar"_u;
-        });
+        };
+        return comprimir_dj(dj, oyente, pedir, std::chrono::milliseconds(300));
     }
+    /// A script in the packer's place: $3 is the archive.
+    void otroEmpaquetador(const QByteArray& guion) const
+    {
+        QFile::remove(base + "/rar"_u);
+        QFile::setPermissions(archivo("mi 'base' $x ñ\"q/rar"_u, "#!/bin/sh\n" + guion + "\n"),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    [[nodiscard]] bool vive(const QString& pid) const { return QFile::exists("/proc/"_u + pid); }
     QString base, destino, dj, final_, propuesto;
     bool cancelar = false;
 };
@@ -184,6 +245,7 @@ TEST_F(EmpaquetadoDJ, Trescientos)
     ASSERT_TRUE(emitir());
     const QString sale = extraer(final_);
     EXPECT_EQ(QDir(sale).entryList(QDir::Files).size(), 301);
+    EXPECT_GT(oyente.avances.filter(QRegularExpression("^Empaquetados \\d+ de 301 archivos\n"_u)).size(), 1);
     for (const int i : {1, 26, 150, 300})
         EXPECT_EQ(leer(sale + "/%1-%2.pdf"_u.arg(dj).arg(i, 4, 10, QLatin1Char('0'))),
                   QByteArray(i * 7, char('a' + i % 26)));
@@ -215,6 +277,38 @@ TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
     EXPECT_EQ(oyente.textos, QStringList(cancelada));
     EXPECT_EQ(oyente.detalles.last(), "No se puede ejecutar "_u + base + "/rar"_u);
     EXPECT_FALSE(QFile::exists(final_));
+}
+
+TEST_F(EmpaquetadoDJ, UnEmpaquetadorQueNoEsElNuestro)
+{
+    const QString cancelada = "Error: Se canceló la emisión de la declaracion jurada"_u;
+    escritura(1, archivo("uno.pdf"_u, "uno"));
+    otroEmpaquetador("printf '  5%%\\b\\b'; cat \"$4\" >> \"$3\"");  // an archive that is not read here
+    EXPECT_TRUE(emitir());
+    EXPECT_TRUE(leer(final_).endsWith("uno"));
+    QFile::remove(final_);
+    // One that hangs, with a process of its own: the user waits, and waits again, or has it ended, or cancels.
+    const QString marca = carpeta.path() + "/pid"_u;
+    const QByteArray cuelga = "(trap '' TERM; echo $$ > '" + marca.toUtf8() + "'; sleep 60)";
+    otroEmpaquetador(cuelga);
+    EXPECT_FALSE(emitir());
+    ASSERT_EQ(oyente.textos.size(), 2);
+    EXPECT_TRUE(oyente.textos[0].startsWith("El empaquetador no avanza desde hace 0 segundos."_u));
+    EXPECT_EQ(oyente.textos[1], cancelada);
+    EXPECT_FALSE(vive(QString::fromUtf8(leer(marca)).trimmed()));
+    oyente.hasta = "Empaquetando"_u;
+    EXPECT_FALSE(emitir());
+    EXPECT_EQ(oyente.textos, QStringList(cancelada));
+    EXPECT_FALSE(vive(QString::fromUtf8(leer(marca)).trimmed()));
+    oyente.hasta.clear();
+    oyente.respuesta = false;
+    otroEmpaquetador("sleep 1; cat \"$4\" >> \"$3\"");
+    EXPECT_TRUE(emitir());
+    EXPECT_GE(oyente.textos.size(), 2);
+    oyente.hasta = "Copiando"_u;
+    EXPECT_FALSE(emitir());
+    EXPECT_EQ(oyente.textos, QStringList(cancelada));
+    EXPECT_FALSE(QFile::exists(base + "/dj.rar"_u));
 }
 
 // Whatever the umask and what stood there; the folder that the user chose is his.

@@ -163,10 +163,11 @@ TEST_F(DiscoLlenoOrden, LoEmitidoEstaEnElDiscoAntesDeDecirlo)
     poner(carpeta.path() + "/guardado"_u, disco());
     ASSERT_EQ(emitir(0), 0);
     const QStringList llamadas = QString::fromUtf8(leer(traza())).split(u'\n');
-    for (const QString& nombre : {archivo(), rar()}) {
+    const QString armado = QFileInfo(almacen()).path() + "/dj.rar"_u;
+    for (const auto& [aparte, nombre] : {std::pair(archivo() + ".nuevo"_u, archivo()), std::pair(armado, rar())}) {
         qsizetype lugar = -1;
-        for (const QString& llamada : {"write "_u + nombre + ".nuevo"_u, "fsync "_u + nombre + ".nuevo"_u,
-                                       "rename "_u + nombre, "fsync "_u + QFileInfo(nombre).path()}) {
+        for (const QString& llamada :
+             {"write "_u + aparte, "fsync "_u + aparte, "rename "_u + nombre, "fsync "_u + QFileInfo(nombre).path()}) {
             const qsizetype siguiente = llamadas.indexOf(llamada, lugar + 1);
             EXPECT_GT(siguiente, lugar) << llamada.toStdString();
             lugar = siguiente;
