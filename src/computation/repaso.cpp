@@ -14,6 +14,24 @@ constexpr bool suelta(Cifra cifra)
     return cifra >= Cifra::codigo;
 }
 
+// Figures that come from outside of the calculation; all others an earlier step has left.
+constexpr bool dada(Cifra cifra)
+{
+    switch (cifra) {
+    case Cifra::totalVC:
+    case Cifra::valuacion:
+    case Cifra::prestamo:
+    case Cifra::obligacion:
+    case Cifra::pagoACuenta:
+    case Cifra::adicionales:
+    case Cifra::valorModulo:
+    case Cifra::exencionItem:
+    case Cifra::factorValuacion:
+    case Cifra::modulosMinimo: return true;
+    default: return false;
+    }
+}
+
 bool en_tramo(const std::array<double, CIFRAS_POR_PASO>& x, bool desde_incluido)
 {
     const bool desde = desde_incluido ? x[1] <= x[0] : x[1] < x[0];
@@ -63,9 +81,9 @@ bool encadena(const Paso& p, const FormaPaso& forma, Repaso& r)
         if (cifra == Cifra::ninguna || suelta(cifra))
             continue;
         auto& valor = r.valores[size_t(cifra)];
-        if (!valor)
+        if (!valor && dada(cifra))
             valor = p.cifras[i];
-        else if (*valor != p.cifras[i])
+        if (valor != p.cifras[i])
             return false;
     }
     return true;

@@ -107,7 +107,7 @@ protected:
             EXPECT_FALSE(bien(otros, c)) << "without " << int(pasos[i].clase);
             const FormaPaso& forma = forma_de(pasos[i].clase);
             otros = pasos;
-            otros[i].resultado += 0.01;
+            otros[i].resultado += std::max(0.01, std::fabs(pasos[i].resultado) * 1e-12);
             EXPECT_FALSE(bien(otros, c)) << "result of " << int(pasos[i].clase);
             for (size_t k = 0; k < forma.cifras.size() && forma.cifras[k] != Cifra::ninguna; ++k)
                 for (const double otra : {pasos[i].cifras[k] + 1, 1e12, -2.0}) {
