@@ -171,6 +171,26 @@ QList<FilaPaso> filas_de_pasos(std::span<const Paso> pasos)
     return filas;
 }
 
+QString aviso_de_pasos(OrigenPasos origen)
+{
+    switch (origen) {
+    case OrigenPasos::ultimo: return u"Los pasos del último cálculo, como se hicieron."_s;
+    case OrigenPasos::anterior:
+        return u"Los pasos del último cálculo, como se hicieron. Después cambió algo de lo que entra en la cuenta: el "
+               u"próximo cálculo dará otros pasos."_s;
+    case OrigenPasos::interrumpido:
+        return u"El último cálculo no llegó a su fin: estos son los pasos que alcanzó a hacer."_s;
+    case OrigenPasos::sinCalculo:
+        return u"La operación se muestra como fue guardada. No se calculó desde que se abrió, y los pasos de aquel "
+               u"cálculo no se guardan. Se puede calcular aparte, con los valores que muestra la pantalla y las tablas "
+               u"de hoy, sin cambiar ningún campo."_s;
+    case OrigenPasos::aparte:
+        return u"Calculado aparte con los valores que muestra la pantalla y las tablas de hoy. Los campos no cambiaron "
+               u"y la operación sigue como fue guardada."_s;
+    }
+    return {};
+}
+
 QStringList titulos_de_pasos()
 {
     return {u"Nº"_s, u"Paso"_s, u"Cuenta"_s, u"Redondeo"_s, u"Resultado"_s};
