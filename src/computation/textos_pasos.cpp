@@ -102,14 +102,14 @@ constexpr bool en_orden()
 }
 static_assert(en_orden());
 
-// An amount with the decimals that it has, at least two.
+// An amount with the decimals that it has, at least two; no line parts it from its sign.
 QString pesos(double valor)
 {
     constexpr int MAS = 8;
     int decimales = 2;
     while (decimales < MAS && redondear(valor, decimales) != redondear(valor, MAS))
         ++decimales;
-    return u"$ "_s + importe_agrupado(valor, decimales);
+    return u"$\u00a0"_s + importe_agrupado(valor, decimales);
 }
 
 QString cifra_en_texto(Cifra cifra, double valor)
@@ -130,7 +130,7 @@ QString cifra_en_texto(Cifra cifra, double valor)
     case C::modulosTramo: return cantidad_llana(valor);
     case C::exencion:
     case C::exencionItem:
-    case C::porcExento: return cantidad_llana(valor) + u" %"_s;
+    case C::porcExento: return cantidad_llana(valor) + u"\u00a0%"_s;
     case C::hasta: return valor == -1 ? u"sin tope"_s : pesos(valor);
     default: return pesos(valor);
     }
@@ -201,5 +201,5 @@ QString pasos_con_tabuladores(const QList<FilaPaso>& filas)
     QStringList lineas{titulos_de_pasos().join(u'\t')};
     for (const FilaPaso& f : filas)
         lineas << QStringList{f.numero, f.titulo, f.cuenta, f.redondeo, f.resultado}.join(u'\t');
-    return lineas.join(u'\n') + u'\n';
+    return lineas.join(u'\n').replace(QChar::Nbsp, u' ') + u'\n';
 }

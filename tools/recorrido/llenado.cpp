@@ -137,7 +137,7 @@ void Mes::comoSeCalculo(QWidget* f, const QString& impuesto)
         clic(f, u"cmdPasos"_s);
         auto* panel = formulario("frmPasos");
         comprobar(u"último paso"_s, en_grilla(panel, u"flxPasos"_s, filas(panel, u"flxPasos"_s) - 1, 4),
-                  u"$ "_s + impuesto);
+                  u"$\u00a0"_s + impuesto);
         g_.foto(u"operacion-pasos"_s);
         clic(panel, u"cmdCerrar"_s);
     });

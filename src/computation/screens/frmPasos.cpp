@@ -8,12 +8,28 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int COL_CUENTA = 2;
+constexpr int COL_RESULTADO = 4;
+
+// Amounts, percentages and counts stand one below the other.
+class A_la_derecha : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* opcion, const QModelIndex& indice) const override
+    {
+        QStyledItemDelegate::initStyleOption(opcion, indice);
+        opcion->displayAlignment = Qt::AlignRight | Qt::AlignVCenter;
+    }
+};
 
 }  // namespace
 
@@ -22,6 +38,7 @@ frmPasos::frmPasos() : ui(std::make_unique<Ui::frmPasos>())
     ui->setupUi(this);
     cerrarConEscape();
     preparar_grilla(ui->flxPasos, titulos_de_pasos(), {450, 2500, 5000, 1200, 1500});
+    ui->flxPasos->setItemDelegateForColumn(COL_RESULTADO, new A_la_derecha(ui->flxPasos));
     // A sum may take several lines.
     ui->flxPasos->setWordWrap(true);
     ui->flxPasos->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
