@@ -10,6 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// The bounds of a bracket, at the same places in both statements.
+constexpr int DESDE = 1;
+constexpr int HASTA = 2;
+
 void buscar_modulos(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
 {
     e.lblMoA = u"Módulos"_s;
@@ -32,8 +36,7 @@ void buscar_modulos(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
     const double modulos = rs.real("SMOD_MODULOS");
     c.nroMoA.setValue(modulos);
     if (e.pasos)
-        e.pasos->anotar(ClasePaso::tramoModulos,
-                        {leido(c.nroAux), rs.real("SMOD_DESDEVALOR"), rs.real("SMOD_HASTAVALOR"), modulos},
+        e.pasos->anotar(ClasePaso::tramoModulos, {leido(c.nroAux), rs.real(DESDE), rs.real(HASTA), modulos},
                         leido(c.nroMoA));
 }
 
@@ -51,10 +54,9 @@ void buscar_alicuota(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
         const double alicuota = rs.real("SALI_ALICUOTA");
         c.nroMoA.setValue(alicuota);
         if (e.pasos)
-            e.pasos->anotar(
-                ClasePaso::tramoAlicuota,
-                {leido(c.ctlBaseImponiblePesos), rs.real("SALI_DESDEVALOR"), rs.real("SALI_HASTAVALOR"), alicuota},
-                leido(c.nroMoA));
+            e.pasos->anotar(ClasePaso::tramoAlicuota,
+                            {leido(c.ctlBaseImponiblePesos), rs.real(DESDE), rs.real(HASTA), alicuota},
+                            leido(c.nroMoA));
         return;
     }
     dialogo.avisar(
