@@ -8,8 +8,8 @@
 #include "declarations/copiar_dj.h"
 #include "filing/archivo_dj.h"
 #include "filing/lector_dj.h"
-#include "tree/registros.h"
 #include "tree/modABM_dj.h"
+#include "tree/registros.h"
 
 #include <rar5.h>
 #include <sqlcipher/sqlite3.h>
@@ -102,29 +102,56 @@ void archivo(benchmark::State& estado)
         [&] { leer_y_digerir(grande, bytes); });
 }
 
-void calculo(benchmark::State& estado)
+// An operation of a sale with two parties, ready to be calculated.
+struct Venta
 {
-    const AlmacenGrande a;
+    AlmacenGrande almacen;
     Callado callado;
     CamposSueltos sueltos;
     CamposImpuesto c = sueltos.campos();
     clsSubconcepto s;
+    EstadoOperacion e;
+
+    Venta()
     {
         const Recordset rs(cnRtn, u"select * from SEL_VW_SUBCONCEPTOS where SSUB_ID_CONLEY=5707001"_s);
         s.llenar(rs);
+        e.subconcepto = &s;
+        e.partes = {{u"VENDEDOR"_s, 50.0}, {u"COMPRADOR"_s, {}}};
+        c.nroTotalVC.setValue(1234567.89);
+        c.nroValuacionFiscal.setValue(1000000);
     }
-    EstadoOperacion e;
-    e.subconcepto = &s;
-    e.partes = {{u"VENDEDOR"_s, 50.0}, {u"COMPRADOR"_s, {}}};
-    c.nroTotalVC.setValue(1234567.89);
-    c.nroValuacionFiscal.setValue(1000000);
+    void calcular(int veces)
+    {
+        for (int i = 0; i < veces; ++i)
+            CalcularImpuesto(c, e, callado);
+    }
+};
+
+// Taking the steps down beside not doing so.
+void pasos(benchmark::State& estado)
+{
+    constexpr int VECES = 500;
+    Venta v;
+    Pasos anotados;
+    medir(
+        estado, 1.05,
+        [&] {
+            v.e.pasos = &anotados;
+            v.calcular(VECES);
+        },
+        [&] {
+            v.e.pasos = nullptr;
+            v.calcular(VECES);
+        });
+}
+
+void calculo(benchmark::State& estado)
+{
+    Venta v;
     constexpr int VECES = 500;
     medir(
-        estado, 1.5,
-        [&] {
-            for (int i = 0; i < VECES; ++i)
-                CalcularImpuesto(c, e, callado);
-        },
+        estado, 1.5, [&] { v.calcular(VECES); },
         [&] {
             for (int i = 0; i < VECES; ++i) {
                 sqlite3_stmt* st = preparar(
@@ -272,6 +299,10 @@ void registrar_logica()
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)
         ->Iterations(15);
+    benchmark::RegisterBenchmark("CalcularImpuesto_con_pasos", pasos)
+        ->UseManualTime()
+        ->Unit(benchmark::kMillisecond)
+        ->Iterations(101);
     benchmark::RegisterBenchmark("copiar_dj_de_1000_escrituras", copia)
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "catalogue/subconcepto_memoria.h"
+#include "computation/pasos.h"
 #include "core/dialogo.h"
 #include "core/numero.h"
 
@@ -35,6 +36,8 @@ struct CamposSueltos
 {
     Numero n[16];
     CamposSueltos();
+    /// Others' texts, apart from them.
+    explicit CamposSueltos(const CamposImpuesto& otros);
     CamposImpuesto campos();
 };
 
@@ -45,6 +48,7 @@ struct EstadoOperacion
     {
         QString rol;                       ///< description of its role, empty without one
         std::optional<double> porcExento;  ///< its exemption per cent
+        QString nombre{};                  ///< for the steps
     };
 
     const clsSubconcepto* subconcepto = nullptr;
@@ -54,6 +58,8 @@ struct EstadoOperacion
     std::optional<int> obligAccesoriaDato;  ///< item data of the mode: 1 adds to the base
     bool obligAccesoriaFijo = false;
     bool obligAccesoriaPorc = false;
+    int ley = 0;             ///< of the deed's date, for the steps
+    Pasos* pasos = nullptr;  ///< where the calculation takes its steps down, if anywhere
 
     QString titulo;           ///< caption of the screen, for messages
     QString lblMoA;           ///< written: "Módulos" or "Alícuota"

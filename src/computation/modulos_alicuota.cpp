@@ -3,28 +3,41 @@
 
 #include "computation/calculo.h"
 
+#include "computation/anotador.h"
 #include "core/modGlobales.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+// The bounds of a bracket, at the same places in both statements.
+constexpr int DESDE = 1;
+constexpr int HASTA = 2;
+
 void buscar_modulos(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
 {
     e.lblMoA = u"Módulos"_s;
     c.nroAux.cantidadDecimales = 2;
     // The bounds are compared with base times module value; the product is deliberate.
-    c.nroAux.setValue(c.ctlBaseImponiblePesos.Value() * ValorModulo);
+    const double B = c.ctlBaseImponiblePesos.Value();
+    tomar(e.pasos, ClasePaso::comparado, c.nroAux, B * ValorModulo, {B, ValorModulo});
     const Recordset rs(cnRtn, u"select SMOD_ID, SMOD_DESDEVALOR, SMOD_HASTAVALOR, SMOD_MODULOS  from SEL_TB_MODULOS "
                               u" where SSUB_ID=%1 and SMOD_DESDEVALOR<=%2"
                               u" and (SMOD_HASTAVALOR=-1 or SMOD_HASTAVALOR>=%2)"_s.arg(
                                   QString::number(e.subconcepto->IdSubconcepto()), c.nroAux.toSQL()));
-    if (rs.eof())
+    if (rs.eof()) {
         dialogo.avisar(
             {u"Error en la tabla de módulos: No se encuentran los modulos correspondientes para este subconcepto"_s,
              e.titulo, Icono::critico});
-    else
-        c.nroMoA.setValue(rs.real("SMOD_MODULOS"));
+        if (e.pasos)
+            e.pasos->anotar(ClasePaso::sinTramoModulos, {leido(c.nroMoA), leido(c.nroAux)}, leido(c.nroMoA));
+        return;
+    }
+    const double modulos = rs.real("SMOD_MODULOS");
+    c.nroMoA.setValue(modulos);
+    if (e.pasos)
+        e.pasos->anotar(ClasePaso::tramoModulos, {leido(c.nroAux), rs.real(DESDE), rs.real(HASTA), modulos},
+                        leido(c.nroMoA));
 }
 
 void buscar_alicuota(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
@@ -38,12 +51,17 @@ void buscar_alicuota(CamposImpuesto& c, EstadoOperacion& e, Dialogo& dialogo)
                            QString::number(e.subconcepto->IdSubconcepto()),
                            c.ctlBaseImponiblePesos.Value() == 0 ? u"<="_s : u"<"_s, c.ctlBaseImponiblePesos.toSQL()));
     if (!rs.eof()) {
-        c.nroMoA.setValue(rs.real("SALI_ALICUOTA"));
+        const double alicuota = rs.real("SALI_ALICUOTA");
+        c.nroMoA.setValue(alicuota);
+        if (e.pasos)
+            e.pasos->anotar(ClasePaso::tramoAlicuota,
+                            {leido(c.ctlBaseImponiblePesos), rs.real(DESDE), rs.real(HASTA), alicuota},
+                            leido(c.nroMoA));
         return;
     }
     dialogo.avisar(
         {u"Error: No se encuentra la alícuota correspondiente para este subconcepto"_s, e.titulo, Icono::critico});
-    c.nroMoA.setValue(0);
+    tomar(e.pasos, ClasePaso::sinTramoAlicuota, c.nroMoA, 0, {leido(c.ctlBaseImponiblePesos)});
     e.enfocarMoA = true;
 }
 
@@ -58,4 +76,6 @@ void BuscarModulosOAlicuota(CamposImpuesto c, EstadoOperacion& e, Dialogo& dialo
         buscar_modulos(c, e, dialogo);
     else if (tipo == u"VARIABLE")
         buscar_alicuota(c, e, dialogo);
+    else
+        conservar(e.pasos, ClasePaso::modulosPuestos, c.nroMoA);
 }

@@ -23,7 +23,7 @@ QString numero_o_null(const std::optional<double>& n)
 
 }  // namespace
 
-double leer_valores(const ClaveOperacion& clave, const AgregarFila& fila)
+double leer_valores(const ClaveOperacion& clave, const AgregarFila& fila, Pasos* pasos)
 {
     double total = 0;
     Numero monto(2);
@@ -35,7 +35,12 @@ double leer_valores(const ClaveOperacion& clave, const AgregarFila& fila)
         monto.setValue(rs.real("SVCI_VALOR_CONTRACTUAL"));
         fila({rs.texto("SVCI_ID"), monto.toString(), rs.texto("GMON_DESCRIPCION"),
               importe_llano(rs.real("SVCI_TOTAL"))});
-        total += rs.real("SVCI_TOTAL");
+        const double antes = total;
+        const double valor = rs.real("SVCI_TOTAL");
+        total += valor;
+        if (pasos)
+            pasos->anotar(ClasePaso::valorSumado, {antes, valor}, total, rs.texto("SVCI_ID"),
+                          monto.toString() + u' ' + rs.texto("GMON_DESCRIPCION"));
     }
     return total;
 }

@@ -3,10 +3,12 @@
 
 #include "apoyo/pantallas.h"
 #include "computation/screens/frmDJ_detalle_op.h"
+#include "computation/screens/frmPasos.h"
 #include "declarations/renglones.h"
 #include "deeds/screens/frmDJ_detalle.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -161,6 +163,44 @@ TEST_F(Pantallas, OperacionDePuntaAPunta)
     EXPECT_EQ(texto(f, "txtObs"_u), "it's"_u);
     solapa(f, "SSTab1"_u, 1);
     EXPECT_EQ(texto(f, "nroMoA"_u), "0,5000"_u);
+}
+
+// The panel tells the calculation that was made, whether it still stands, and changes no field.
+TEST_F(PantallasFormularios, LosPasosDelUltimoCalculoYLosDeUnaOperacionGuardada)
+{
+    nueva_escritura(nueva_dj(), 1, 1, 1, 1);
+    cnRtn.ejecutar("update SEL_TB_ROLES set SROL_REQUERIDO=0"_u);
+    QWidget* f = abrirOperacion("29");
+    escribir(f, "nroAdicionales"_u, "10"_u);
+    const auto abrir_pasos = [&f](const char* aviso, const char* ultimo) {
+        if (!cargada<frmPasos>())
+            clic(f, "cmdPasos"_u);
+        QWidget* p = formulario("frmPasos");
+        EXPECT_TRUE(texto(p, "lblAviso"_u).contains(QString::fromUtf8(aviso)));
+        const int n = manejo::filas(p, "flxPasos"_u);
+        EXPECT_EQ(n == 0 ? QString() : en_grilla(p, "flxPasos"_u, n - 1, 4).replace(QChar::Nbsp, u' '),
+                  QLatin1StringView(ultimo));
+        return p;
+    };
+    QWidget* p = abrir_pasos("como se hicieron.", "$ 3.010,00");
+    clic(p, "cmdCopiar"_u);
+    EXPECT_TRUE(QApplication::clipboard()->text().endsWith(
+        "Impuesto de la operación\tMenos el pago a cuenta, más los adicionales: $ 3.000,00 - $ 0,00 + $ 10,00\ta 2 decimales\t$ 3.010,00\n"_u));
+    clic(p, "cmdImprimir"_u);
+    EXPECT_TRUE(formulario("frmReportes")->descargar());
+    clic(p, "cmdCerrar"_u);
+    pulsar(f, "tlb"_u, "guardar_det"_u);
+    cnRtn.ejecutar("update SEL_TB_MODULOS set SMOD_MODULOS=1 where SSUB_ID=5707029"_u);
+    clic(abrir_pasos("Después cambió algo", "$ 3.010,00"), "cmdCerrar"_u);
+    pulsar(f, "tlb"_u, "salir"_u);
+
+    pulsar(formulario("frmDJ_detalle"), "tlbOp"_u, "editar"_u);
+    f = formulario("frmDJ_detalle_op");
+    p = abrir_pasos("como fue guardada", "");
+    EXPECT_FALSE(control(p, "cmdImprimir"_u)->isEnabled());
+    clic(p, "cmdCalcular"_u);
+    clic(abrir_pasos("Calculado aparte", "$ 160,00"), "cmdCerrar"_u);
+    EXPECT_EQ(texto(f, "nroImpuesto"_u) + u' ' + texto(f, "nroMoA"_u), "3.010,00 20,0000"_u);
 }
 
 TEST_F(PantallasFormularios, ObligacionAccesoriaYPoliza)

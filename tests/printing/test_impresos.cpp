@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The printed forms, read back from their PDFs by pdftotext.
 
+#include "computation/screens/rpt_pasos.h"
 #include "core/reloj.h"
 #include "impresos.h"
 #include "payment/comprobantes.h"
@@ -269,6 +270,18 @@ TEST_F(Impresos, LosTextosMasAnchosNoSeCortanNiSeEnciman)
                       ReciboImpreso{"02-20123-2026-00002"_u, c.nro, "999999999"_u, "999999999"_u, "31/12/2026"_u,
                                     "31/12/2026"_u, w50, w50, w50, w100, w100, 999999999999.99});
     EXPECT_EQ(textos(recibo).size(), 1);
+}
+
+TEST_F(Impresos, LosPasosDeUnCalculoEntranEnteros)
+{
+    const FilaPaso fila{"88"_u, "Ley por la fecha de la escritura"_u, QString(90, u'W'), "a 2 decimales"_u,
+                        "$ 999.999.999.999,99"_u};
+    rpt_pasos informe("DJ Nº 30712345671261000"_u, "Los pasos del último cálculo."_u, QList<FilaPaso>(80, fila));
+    const QStringList paginas = textos(informe);
+    EXPECT_GT(paginas.size(), 2);
+    EXPECT_EQ(paginas.join(QString()).count("999.999.999.999,99"_u), 80);
+    EXPECT_EQ(paginas.join(QString()).count("Redondeo"_u), paginas.size());
+    EXPECT_TRUE(paginas.constLast().contains("Los pasos del último"_u));
 }
 
 }  // namespace

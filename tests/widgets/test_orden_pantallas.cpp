@@ -281,6 +281,11 @@ TEST_F(Pantallas, OrdenDeUnaOperacion)
     probar(f);
     clic(f, "cmdDetallesSSUB"_u);
     probar(formulario("frmDetalleSSUB"));
+    EXPECT_TRUE(formulario("frmDetalleSSUB")->descargar());
+    solapa(f, "SSTab1"_u, 1);
+    probar(f);
+    clic(f, "cmdPasos"_u);
+    probar(formulario("frmPasos"));
 }
 
 }  // namespace

@@ -124,10 +124,23 @@ void Mes::operacion(const OperacionPapel& o)
     comprobar(u"impuesto de "_s + QString::fromUtf8(o.titulo), texto(f, u"nroImpuesto"_s),
               QString::fromUtf8(o.impuesto));
     g_.foto(u"operacion-impuesto"_s);
+    comoSeCalculo(f, QString::fromUtf8(o.impuesto));
     pulsar(f, u"tlb"_s, u"guardar_det"_s);
     pulsar(f, u"tlb"_s, u"salir"_s);
     comprobar(u"total de la escritura"_s, texto(formulario("frmDJ_detalle"), u"nroTotalImpuesto"_s),
               QString::fromUtf8(o.impuesto));
+}
+
+void Mes::comoSeCalculo(QWidget* f, const QString& impuesto)
+{
+    g_.paso(u"Cómo se calculó"_s, [&] {
+        clic(f, u"cmdPasos"_s);
+        auto* panel = formulario("frmPasos");
+        comprobar(u"último paso"_s, en_grilla(panel, u"flxPasos"_s, filas(panel, u"flxPasos"_s) - 1, 4),
+                  u"$\u00a0"_s + impuesto);
+        g_.foto(u"operacion-pasos"_s);
+        clic(panel, u"cmdCerrar"_s);
+    });
 }
 
 void Mes::valor(QWidget* f, const ValorPapel& v)

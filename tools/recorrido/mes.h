@@ -69,6 +69,7 @@ private:
     void extranjero(const char* pais, const char* pasaporte, const char* nombre);
     void inmueble(const char* partida, const char* valuacion);
     void operacion(const OperacionPapel& o);
+    void comoSeCalculo(QWidget* f, const QString& impuesto);
     void valor(QWidget* f, const ValorPapel& v);
     void rol(QWidget* f, int fila, const QString& descripcion);
     void reporte(const QString& titulo, const QString& nombre);

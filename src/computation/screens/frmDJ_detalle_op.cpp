@@ -90,6 +90,7 @@ void frmDJ_detalle_op::conectar()
         detalle->mostrarSubconcepto(*subconcepto_);
         abrir(detalle);
     });
+    atender(ui->cmdPasos, &QPushButton::clicked, &frmDJ_detalle_op::mostrarPasos);
     atender(ui->cmdBienes, &QPushButton::clicked, [this] { ui->flxInm->setVisible(!ui->flxInm->isVisible()); });
     atender(ui->flxInm, &QTableView::clicked, [this](const QModelIndex& i) { elegirInmueble(i.row()); });
     atender(ui->flxInm, &Grilla::elegida, [this] { elegirInmueble(ui->flxInm->filaActual()); });

@@ -18,6 +18,7 @@ struct ClaveOperacion;
 struct Operacion;
 struct ParteRol;
 struct ResultadoSubconcepto;
+enum class OrigenPasos;
 class QComboBox;
 
 class frmDJ_detalle_op : public Formulario, public ReceptorSubconcepto
@@ -97,6 +98,13 @@ private:
     void calcularBaseEImpuesto();
     void habilitarObligacion();
 
+    // How it was calculated.
+    void mostrarPasos();
+    void mostrarPasosAparte();
+    [[nodiscard]] Pasos calcularAparte();
+    [[nodiscard]] bool pasosVigentes();
+    void ponerPasos(OrigenPasos origen, const Pasos& pasos);
+
     // Contract values.
     void tlbBI_pulsada(const QString& clave);
     void botonesValores(bool reposo, bool entrada);
@@ -132,4 +140,6 @@ private:
     QString idValor_;
     std::optional<int> inmuebleVinculado_;
     bool cargando_ = false;
+    Pasos pasos_;         ///< of the last calculation
+    Pasos pasosValores_;  ///< of the sum of the contract values that show
 };

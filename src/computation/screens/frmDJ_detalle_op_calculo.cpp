@@ -38,12 +38,13 @@ EstadoOperacion frmDJ_detalle_op::estadoOperacion() const
     EstadoOperacion e;
     e.subconcepto = subconcepto();
     for (const ParteRol& p : partesDeGrilla())
-        e.partes << EstadoOperacion::Parte{p.rol, p.porcExento};
+        e.partes << EstadoOperacion::Parte{p.rol, p.porcExento, p.denominacion};
     e.idMoneda = idMoneda();
     e.obligAccesoria = ui->chkObligAccesoria->isChecked();
     e.obligAccesoriaDato = elegido(ui->cboObligAccesoria_modo);
     e.obligAccesoriaFijo = ui->optObligAccesoria_fijo->isChecked();
     e.obligAccesoriaPorc = ui->optObligAccesoria_porc->isChecked();
+    e.ley = ley_.value_or(0);
     e.titulo = windowTitle();
     e.lblMoA = ui->lblMoA->text();
     return e;
@@ -53,6 +54,7 @@ void frmDJ_detalle_op::calcularImpuesto()
 {
     DialogoPantalla dialogo(this);
     EstadoOperacion e = estadoOperacion();
+    e.pasos = &pasos_;
     CalcularImpuesto(campos(), e, dialogo);
     ui->lblMoA->setText(e.lblMoA);
     if (!e.enfocarMoA)

@@ -31,6 +31,8 @@ void frmDJ_detalle_op::limpiarImportes()
     ui->optObligAccesoria_porc->setChecked(true);
     ui->cboObligAccesoria_modo->setCurrentIndex(-1);
     limpiarPanel();
+    pasos_.vaciar();
+    pasosValores_.vaciar();
 }
 
 void frmDJ_detalle_op::cargarOperacion()

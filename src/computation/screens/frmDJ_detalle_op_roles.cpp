@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int COL_DENOMINACION = 3;
 constexpr int COL_ID_ROL = 4;
 constexpr int COL_ROL = 5;
 constexpr int COL_OBS = 6;
@@ -83,6 +84,7 @@ QList<ParteRol> frmDJ_detalle_op::partesDeGrilla() const
     for (int i = 0; i < ui->flxPartes->filas(); ++i) {
         ParteRol p;
         p.id = ui->flxPartes->celda(i, 0);
+        p.denominacion = ui->flxPartes->celda(i, COL_DENOMINACION);
         p.idRol = ui->flxPartes->celda(i, COL_ID_ROL);
         p.rol = ui->flxPartes->celda(i, COL_ROL);
         p.observaciones = ui->flxPartes->celda(i, COL_OBS);

@@ -3,6 +3,7 @@
 
 #include "computation/screens/frmDJ_detalle_op.h"
 
+#include "computation/anotador.h"
 #include "computation/moneda.h"
 #include "computation/valores_contractuales.h"
 #include "tree/modABM_dj.h"
@@ -163,8 +164,11 @@ void frmDJ_detalle_op::recargarValores()
     if (ui->txtNroOP->text().isEmpty())
         return;
     double total = 0;
-    ui->flxVC->llenar(
-        [&] { total = leer_valores(clave(), [this](const QStringList& fila) { ui->flxVC->agregar(fila); }); });
-    ui->nroTotalVC->setValue(total);
+    pasosValores_.vaciar();
+    ui->flxVC->llenar([&] {
+        total = leer_valores(
+            clave(), [this](const QStringList& fila) { ui->flxVC->agregar(fila); }, &pasosValores_);
+    });
+    tomar(&pasosValores_, ClasePaso::totalVC, ui->nroTotalVC->modelo(), total, {total});
     botonesValores(ui->tlbBI->habilitada(u"nuevo"_s), ui->tlbBI->habilitada(u"guardar"_s));
 }

@@ -28,6 +28,8 @@ public:
     void DJ(const QString& nro, const QString& codigo);
     /// The withholding receipt; an annulled one gives a page that says so.
     void recibo(const QString& nro, const QString& dj);
+    /// Any other report: caption of the window, name proposed for its file.
+    void poner(const QString& titulo, const QString& nombre, std::shared_ptr<Informe> informe);
 
     /// Writes all pages as a PDF; false when the file can't be written.
     [[nodiscard]] bool guardarPDF(const QString& archivo);
@@ -41,7 +43,6 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
 
 private:
-    void poner(const QString& titulo, const QString& nombre, std::shared_ptr<Informe> informe);
     void imprimir();
     void pedirPDF();
     [[nodiscard]] QString archivoPropuesto() const;
