@@ -6,6 +6,7 @@
 #include "core/archivos_disco.h"
 #include "core/candado.h"
 #include "csv.h"
+#include "textos.h"
 #include "tramos.h"
 
 #include <QDir>
@@ -16,19 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-[[noreturn]] void fallar(const QString& texto)
-{
-    throw std::runtime_error(texto.toStdString());
-}
-
-QString leer_texto(const QString& ruta)
-{
-    QFile f(ruta);
-    if (!f.open(QIODevice::ReadOnly))
-        fallar(u"No se puede leer "_s + ruta);
-    return QString::fromUtf8(f.readAll());
-}
 
 struct Columna
 {
