@@ -89,6 +89,6 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The letter of the printed forms, and the toolkit's own dialogs in Spanish.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, qt6-translations-l10n, util-linux")
+# The letter of the printed forms, the plugin of the pictures on the buttons, the toolkit's own dialogs in Spanish.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, libqt6svg6, qt6-translations-l10n")
 include(CPack)
