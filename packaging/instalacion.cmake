@@ -7,10 +7,12 @@ install(CODE [[
     file(WRITE "${carpeta}/vedra_rtn.cfg" "vedra_rtn.db\n")
   endif()
 ]])
-install(CODE "set(textos \"${CMAKE_SOURCE_DIR}/store\")")
-# A store that stands there already holds somebody's work and stays.
+install(DIRECTORY store/ DESTINATION textos FILES_MATCHING PATTERN *.sql PATTERN *.csv)
+# A store that stands there already holds somebody's work: it stays, and gets the schema of these programs.
 install(CODE [[
-  if(NOT EXISTS "${carpeta}/vedra_rtn.db")
-    execute_process(COMMAND "${carpeta}/crear_base" --textos "${textos}" "${carpeta}/vedra_rtn.db" COMMAND_ERROR_IS_FATAL ANY)
+  if(EXISTS "${carpeta}/vedra_rtn.db")
+    execute_process(COMMAND "${carpeta}/crear_base" --actualizar "${carpeta}/vedra_rtn.db" COMMAND_ERROR_IS_FATAL ANY)
+  else()
+    execute_process(COMMAND "${carpeta}/crear_base" "${carpeta}/vedra_rtn.db" COMMAND_ERROR_IS_FATAL ANY)
   endif()
 ]])

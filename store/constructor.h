@@ -13,7 +13,6 @@ struct Construccion
     QString clave;
 };
 
-/// Makes the store aside and renames it into its place. Throws std::runtime_error with file and
-/// line on rows that do not fit: unknown references, keys twice, texts over their width, brackets
-/// that overlap or leave a hole, and on a store that a program has open. An earlier store is then left as it was.
+/// Makes the store aside and renames it into its place. Throws ErrorTextos with all that is wrong in the rows,
+/// std::runtime_error, also on a store that a program has open. An earlier store is then left as it was.
 void construir_almacen(const Construccion& c);

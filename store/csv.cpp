@@ -12,29 +12,27 @@ LectorCSV::LectorCSV(const QString& ruta) : archivo_(ruta)
         throw std::runtime_error((u"No se puede leer "_s + ruta).toStdString());
 }
 
-std::optional<QStringList> LectorCSV::siguiente()
+std::optional<FilaCSV> LectorCSV::siguiente()
 {
     if (archivo_.atEnd())
         return {};
-    linea_ = leidas_ + 1;
-    QStringList campos{QString()};
-    bool citado = false;
+    FilaCSV campos{{{}, leidas_ + 1, 1}};
     do {
         QString texto = QString::fromUtf8(archivo_.readLine());
         ++leidas_;
-        while (!citado && (texto.endsWith(u'\n') || texto.endsWith(u'\r')))
+        while (!citado_ && (texto.endsWith(u'\n') || texto.endsWith(u'\r')))
             texto.chop(1);
         for (qsizetype i = 0; i < texto.size(); ++i) {
             const QChar c = texto[i];
-            if (citado && c == u'"' && i + 1 < texto.size() && texto[i + 1] == u'"')
-                campos.back() += texto[++i];
+            if (citado_ && c == u'"' && i + 1 < texto.size() && texto[i + 1] == u'"')
+                campos.back().texto += texto[++i];
             else if (c == u'"')
-                citado = !citado;
-            else if (c == u',' && !citado)
-                campos << QString();
-            else if (citado || (c != u'\n' && c != u'\r'))
-                campos.back() += c;
+                citado_ = !citado_;
+            else if (c == u',' && !citado_)
+                campos << CampoCSV{{}, leidas_, int(i) + 2};
+            else if (citado_ || (c != u'\n' && c != u'\r'))
+                campos.back().texto += c;
         }
-    } while (citado && !archivo_.atEnd());
+    } while (citado_ && !archivo_.atEnd());
     return campos;
 }

@@ -2,6 +2,9 @@
 -- The store of VEDRA-RTN. Texts compare without regard to case; dates are 'YYYY-MM-DD',
 -- booleans 0 and 1, amounts in pesos. Keys are computed by the program before each insert.
 
+-- Of this text; `pasos/N.sql` brings a store of version N-1 here.
+pragma user_version = 1;
+
 -- Laws; the one without an end is in force.
 create table GLB_TB_LEYES (
     GLEY_NRO            integer primary key not null,

@@ -2,10 +2,11 @@
 
 #include "tramos.h"
 
-#include "core/almacen.h"
-#include "core/numero.h"
+#include "core/redondeo.h"
 
-#include <array>
+#include <QSet>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -15,69 +16,94 @@ namespace {
 // next one begins at the bound in the first and a cent above it in the second.
 struct TablaTramos
 {
-    const char* tabla;
-    const char* prefijo;
-    const char* valor;
+    QString tabla;
+    QString prefijo;
+    QString valor;
     double paso;
-    const char* tipos;
+    QStringList tipos;
 };
 
 // The decimals of the field through which the calculation takes a rate or a number of modules.
 constexpr int DECIMALES = 4;
+constexpr double SIN_LIMITE = -1;
 
-constexpr std::array TABLAS{
-    TablaTramos{"SEL_TB_ALICUOTAS", "SALI", "SALI_ALICUOTA", 0.0, "'VARIABLE'"},
-    TablaTramos{"SEL_TB_MODULOS", "SMOD", "SMOD_MODULOS", 0.01, "'FIJO','FIJO PROPORCIONAL'"},
-};
-
-QString revisar(Conexion& cn, const TablaTramos& t, const QHash<QString, QString>& lugares)
+double numero(const TablaTexto& t, const FilaCSV& fila, const QString& columna)
 {
-    const QString tabla = QLatin1StringView(t.tabla);
-    const QString p = QLatin1StringView(t.prefijo);
-    const QByteArray id = t.prefijo + QByteArray("_ID");
-    const QByteArray desde = t.prefijo + QByteArray("_DESDEVALOR");
-    const QByteArray hasta = t.prefijo + QByteArray("_HASTAVALOR");
-    qint64 item = -1;
-    double fin = -1;
-    QString ultimo;
-    for (Recordset rs(cn, u"select * from %1 order by SSUB_ID, %2_DESDEVALOR"_s.arg(tabla, p)); !rs.eof();
-         rs.siguiente()) {
-        const QString lugar = lugares.value(tabla + u'/' + rs.texto(id.constData()));
-        const bool nuevo = rs.entero("SSUB_ID") != item;
-        if (nuevo && fin != -1)
-            return u"%1: el último tramo de %2 no llega a -1"_s.arg(ultimo).arg(item);
-        const double inicio = rs.real(desde.constData());
-        const double esperado = nuevo ? 0 : redondear(fin + t.paso, 2);
-        if (!nuevo && (fin == -1 || inicio < esperado))
-            return u"%1: el tramo se solapa con otro de %2"_s.arg(lugar).arg(rs.entero("SSUB_ID"));
-        if (inicio > esperado)
-            return u"%1: falta un tramo entre %2 y %3"_s.arg(lugar, numero_sql(esperado), numero_sql(inicio));
-        fin = rs.real(hasta.constData());
-        if (fin != -1 && fin < inicio)
-            return u"%1: el tramo termina antes de empezar"_s.arg(lugar);
-        if (const double valor = rs.real(t.valor); valor != redondear(valor, DECIMALES))
-            return u"%1: %2 tiene más de %3 decimales"_s.arg(lugar, rs.texto(t.valor), QString::number(DECIMALES));
-        item = rs.entero("SSUB_ID");
-        ultimo = lugar;
+    return leer_numero(t.valor(fila, columna)).value_or(0);
+}
+
+void revisar_valor(const TablaTexto& t, const FilaCSV& fila, const QString& columna, QList<FallaTexto>& fallas)
+{
+    const double valor = numero(t, fila, columna);
+    const double tomado = redondear(valor, DECIMALES);
+    if (valor != tomado)
+        fallas << t.falla(
+            fila, columna,
+            tomado == 0
+                ? u"%1 se queda en nada con los %2 decimales del cálculo"_s.arg(t.valor(fila, columna)).arg(DECIMALES)
+                : u"%1 tiene más de %2 decimales"_s.arg(t.valor(fila, columna)).arg(DECIMALES));
+}
+
+// The brackets of one item, the lowest first.
+void revisar_item(const TablaTramos& d, const TablaTexto& t, QList<FilaCSV> filas, QList<FallaTexto>& fallas)
+{
+    const QString desde = d.prefijo + u"_DESDEVALOR"_s;
+    const QString hasta = d.prefijo + u"_HASTAVALOR"_s;
+    std::stable_sort(filas.begin(), filas.end(),
+                     [&](const FilaCSV& a, const FilaCSV& b) { return numero(t, a, desde) < numero(t, b, desde); });
+    const QString item = t.valor(filas.constFirst(), u"SSUB_ID"_s);
+    double esperado = 0;
+    double fin = 0;
+    for (const FilaCSV& fila : std::as_const(filas)) {
+        const double inicio = numero(t, fila, desde);
+        if (fin == SIN_LIMITE || inicio < esperado)
+            fallas << t.falla(fila, desde, u"el tramo se solapa con otro de %1"_s.arg(item));
+        else if (inicio > esperado)
+            fallas << t.falla(fila, desde,
+                              u"falta un tramo entre %1 y %2"_s.arg(numero_sql(esperado), numero_sql(inicio)));
+        fin = numero(t, fila, hasta);
+        if (fin != SIN_LIMITE && fin < inicio)
+            fallas << t.falla(fila, hasta, u"el tramo termina antes de empezar"_s);
+        esperado = redondear(fin + d.paso, 2);
+        revisar_valor(t, fila, d.valor, fallas);
     }
-    if (fin != -1)
-        return u"%1: el último tramo de %2 no llega a -1"_s.arg(ultimo).arg(item);
-    const Recordset sin(
-        cn, u"select S.SSUB_ID from SEL_TB_SUBCONCEPTOS S join SEL_TB_TIPOS_CALCULOS C on C.STIC_ID=S.STIC_ID "
-            u"where C.STIC_DESCRIPCION in (%1) and S.SSUB_ID not in (select SSUB_ID from %2)"_s.arg(
-                QLatin1StringView(t.tipos), tabla));
-    if (!sin.eof())
-        return u"%1: el subconcepto no tiene tramos en %2"_s.arg(
-            lugares.value(u"SEL_TB_SUBCONCEPTOS/"_s + sin.texto(0)), tabla);
-    return {};
+    if (fin != SIN_LIMITE)
+        fallas << t.falla(filas.constLast(), hasta, u"el último tramo de %1 no llega a -1"_s.arg(item));
+}
+
+void revisar_items_sin_tramos(const TablaTramos& d, const TablasTexto& tablas, const QSet<QString>& con_tramos,
+                              QList<FallaTexto>& fallas)
+{
+    QSet<QString> tipos;
+    const TablaTexto& calculos = tablas.at(u"SEL_TB_TIPOS_CALCULOS"_s);
+    for (const FilaCSV& fila : calculos.filas)
+        if (d.tipos.contains(calculos.valor(fila, u"STIC_DESCRIPCION"_s)))
+            tipos << calculos.clave(fila, {u"STIC_ID"_s});
+    const TablaTexto& items = tablas.at(u"SEL_TB_SUBCONCEPTOS"_s);
+    for (const FilaCSV& fila : items.filas)
+        if (tipos.contains(items.clave(fila, {u"STIC_ID"_s}))
+            && !con_tramos.contains(items.clave(fila, {u"SSUB_ID"_s})))
+            fallas << items.falla(fila, u"SSUB_ID"_s, u"el subconcepto no tiene tramos en %1"_s.arg(d.tabla));
 }
 
 }  // namespace
 
-QString revisar_tramos(Conexion& cn, const QHash<QString, QString>& lugares)
+void revisar_tramos(const TablasTexto& tablas, QList<FallaTexto>& fallas)
 {
-    for (const TablaTramos& t : TABLAS)
-        if (const QString falla = revisar(cn, t, lugares); !falla.isEmpty())
-            return falla;
-    return {};
+    static const TablaTramos TABLAS[] = {
+        {u"SEL_TB_ALICUOTAS"_s, u"SALI"_s, u"SALI_ALICUOTA"_s, 0.0, {u"VARIABLE"_s}},
+        {u"SEL_TB_MODULOS"_s, u"SMOD"_s, u"SMOD_MODULOS"_s, 0.01, {u"FIJO"_s, u"FIJO PROPORCIONAL"_s}},
+    };
+    for (const TablaTramos& d : TABLAS) {
+        const TablaTexto& t = tablas.at(d.tabla);
+        std::map<QString, QList<FilaCSV>> items;
+        for (const FilaCSV& fila : t.filas)
+            items[t.clave(fila, {u"SSUB_ID"_s})] << fila;
+        QSet<QString> con_tramos;
+        for (const auto& [item, filas] : items) {
+            con_tramos << item;
+            revisar_item(d, t, filas, fallas);
+        }
+        revisar_items_sin_tramos(d, tablas, con_tramos, fallas);
+    }
 }

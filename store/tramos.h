@@ -2,11 +2,8 @@
 // Whether the brackets of each item of the catalogue cover all amounts once.
 #pragma once
 
-#include <QHash>
-#include <QString>
+#include "tabla_texto.h"
 
-class Conexion;
-
-/// The first fault in the brackets of rates and modules, with its place; empty without one.
-/// `lugares` gives the file and line of each bracket, by table and identifier.
-[[nodiscard]] QString revisar_tramos(Conexion& cn, const QHash<QString, QString>& lugares);
+/// Adds what is wrong in the brackets of rates and modules: one that overlaps another, a hole between two, a last one
+/// with a limit, values of more decimals than the calculation takes, items that ask for brackets and have none.
+void revisar_tramos(const TablasTexto& tablas, QList<FallaTexto>& fallas);

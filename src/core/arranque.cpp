@@ -6,6 +6,7 @@
 #include "core/modGlobales.h"
 #include "core/motivos.h"
 #include "core/numero.h"
+#include "core/version_almacen.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,9 +47,11 @@ void abrir_sola(const QString& ruta)
         candadoRtn.tomar(ruta);
     try {
         cnRtn.abrir(ruta, clave_almacen());
+        exigir_version(cnRtn);
         // Stores used to be made with the umask's mode; one that another user owns keeps it.
         QFile::setPermissions(ruta, QFile::ReadOwner | QFile::WriteOwner);
     } catch (...) {
+        cnRtn.cerrar();
         candadoRtn.soltar();
         throw;
     }

@@ -89,7 +89,8 @@ TEST_F(Constructor, SoloParaElUsuario)
     EXPECT_EQ(QDir(dir.path()).entryList({"*.nuevo*"_u}), QStringList());
 }
 
-TEST_F(Constructor, RechazaLoIncoherentePorArchivoYLinea)
+// All that is wrong is told, each at its place: a rule a line, and what it breaks besides.
+TEST_F(Constructor, RechazaLoIncoherentePorArchivoLineaYColumna)
 {
     struct K
     {
@@ -98,29 +99,101 @@ TEST_F(Constructor, RechazaLoIncoherentePorArchivoYLinea)
         const char* a;
         const char* dice;
     };
-    for (const K& k : {K{"GLB_TB_LOCALIDADES", "3,COLONIA AURORA,13", "3,COLONIA AURORA,77",
-                         "GLB_TB_LOCALIDADES.csv:4: GPRO_ID 77 no existe en GLB_TB_PROVINCIAS"},
-                       K{"GLB_TB_MONEDAS", "EUR,EUROS", "DOL,EUROS", "GLB_TB_MONEDAS.csv:4: la clave ya existe"},
-                       K{"GLB_TB_MONEDAS", "REA,REALES", "REAL,REALES",
-                         "GLB_TB_MONEDAS.csv:5: GMON_ID tiene 4 caracteres y su ancho es 3"},
-                       K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,4000000,",
-                         "SEL_TB_ALICUOTAS.csv:13: el tramo se solapa con otro de 5707002"},
-                       K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,6000000,",
-                         "SEL_TB_ALICUOTAS.csv:13: falta un tramo entre 5000000 y 6000000"},
-                       K{"SEL_TB_MODULOS", "1500000.01,-1", "1500000.01,9000000",
-                         "SEL_TB_MODULOS.csv:12: el último tramo de 5707027 no llega a -1"},
-                       K{"SEL_TB_MODULOS", "1500000,0.0001", "1500000,0.00005",
-                         "SEL_TB_MODULOS.csv:11: 5.0e-05 tiene más de 4 decimales"},
-                       K{"GLB_TB_LEYES", "4821,1996-01-01", "cuatro,1996-01-01",
-                         "GLB_TB_LEYES.csv:2: «cuatro» no es un valor de GLEY_NRO"},
-                       K{"GLB_TB_LEYES", "GLEY_NRO,", "GLEY_NUMERO,",
-                         "GLB_TB_LEYES.csv:1: GLB_TB_LEYES no tiene la columna GLEY_NUMERO"}}) {
+    for (const K& k :
+         {K{"GLB_TB_LOCALIDADES", "3,COLONIA AURORA,13", "3,COLONIA AURORA,77",
+            "GLB_TB_LOCALIDADES.csv:4:18: GPRO_ID 77 no existe en GLB_TB_PROVINCIAS"},
+          K{"GLB_TB_MONEDAS", "EUR,EUROS", "dol,EUROS", "GLB_TB_MONEDAS.csv:4:1: la clave ya existe en la línea 3"},
+          K{"GLB_TB_MONEDAS", "REA,REALES", "REAL,",
+            "GLB_TB_MONEDAS.csv:5:1: GMON_ID tiene 4 caracteres y su ancho es 3\n"
+            "GLB_TB_MONEDAS.csv:5:6: falta GMON_DESCRIPCION"},
+          K{"GLB_TB_MONEDAS", "EUR,EUROS,", "EUR,\xff,", "GLB_TB_MONEDAS.csv:4:5: GMON_DESCRIPCION no está en UTF-8"},
+          K{"GLB_TB_MONEDAS", "EUR,EUROS,", "EUR,", "GLB_TB_MONEDAS.csv:4:5: hay 2 valores y se esperan 3"},
+          K{"GLB_TB_MONEDAS", "EUR,EUROS,", "EUR,\"EUROS,", "GLB_TB_MONEDAS.csv:4:5: las comillas no se cierran"},
+          K{"GLB_TB_TIPOS_SOCIEDAD", "UNIPERSONAL", "UNA SOLA",
+            "GLB_TB_TIPOS_SOCIEDAD.csv:1:1: falta la fila de GTSO_DESCRIPCION «UNIPERSONAL»"},
+          K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,4000000,",
+            "SEL_TB_ALICUOTAS.csv:13:20: el tramo se solapa con otro de 5707002"},
+          K{"SEL_TB_ALICUOTAS", "5707002,5707002002,5000000,", "5707002,5707002002,6000000,",
+            "SEL_TB_ALICUOTAS.csv:13:20: falta un tramo entre 5000000 y 6000000"},
+          K{"SEL_TB_ALICUOTAS", "4821003,4821003001,0,-1,0.008", "4821999,4821003001,0,-1,0.00004",
+            "SEL_TB_ALICUOTAS.csv:3:1: SSUB_ID 4821999 no existe en SEL_TB_SUBCONCEPTOS\n"
+            "SEL_TB_ALICUOTAS.csv:3:9: 4821003001 no es un identificador de SSUB_ID 4821999\n"
+            "SEL_TB_ALICUOTAS.csv:3:25: 0.00004 se queda en nada con los 4 decimales del cálculo\n"
+            "SEL_TB_SUBCONCEPTOS.csv:3:1: el subconcepto no tiene tramos en SEL_TB_ALICUOTAS"},
+          K{"SEL_TB_MODULOS", "1500000.01,-1", "1500000.01,9000000",
+            "SEL_TB_MODULOS.csv:12:31: el último tramo de 5707027 no llega a -1"},
+          K{"SEL_TB_MODULOS", "1500000,0.0001", "1500000,0.00005",
+            "SEL_TB_MODULOS.csv:11:30: 0.00005 tiene más de 4 decimales"},
+          K{"SEL_TB_ROLES", "4821001002,COMPRADOR,1,4821001", "4821001002,VENDEDOR,1,",
+            "SEL_TB_ROLES.csv:3:23: falta SSUB_ID"},
+          K{"SEL_TB_ROLES", "4821001002,COMPRADOR", "4821001002,vendedor",
+            "SEL_TB_ROLES.csv:3:12: el subconcepto ya tiene un rol «vendedor»"},
+          K{"SEL_TB_SUBCONCEPTOS", "a),1996-01-01,3,40,1,1,1,1,0,1,,1,0,,,,11,",
+            "a),1996-01-01,3,40,1,1,1,1,0,1,,1,0,X,,,,",
+            "SEL_TB_SUBCONCEPTOS.csv:4:107: «X» no es un valor de SSUB_OBLIG_ACCESORIA_MODO_DEFAULT\n"
+            "SEL_TB_SUBCONCEPTOS.csv:4:111: SSUB_REQUIERE_BASEIMPONIBLE pide SCBI_ID"},
+          K{"SEL_TB_PARAMETROS", "_IVA,21", "_IVA,21%", "SEL_TB_PARAMETROS.csv:2:19: «21%» no es un número"},
+          K{"GLB_TB_LEYES", "4821,1996-01-01", "cuatro,1996-01-01",
+            "GLB_TB_LEYES.csv:2:1: «cuatro» no es un valor de GLEY_NRO"},
+          K{"GLB_TB_LEYES", "2024-12-31", "2025-01-01", "GLB_TB_LEYES.csv:3:6: la ley rige al mismo tiempo que otra"},
+          K{"GLB_TB_LEYES", "5707,2025-01-01,", "5707,2025-01-01,2025-12-31",
+            "GLB_TB_LEYES.csv:1:1: ninguna ley está vigente: falta una sin GLEY_VIGENCIA_HASTA"},
+          K{"GLB_TB_LEYES", "GLEY_NRO,", "GLEY_NUMERO,",
+            "GLB_TB_LEYES.csv:1:1: GLB_TB_LEYES no tiene la columna GLEY_NUMERO, o está dos veces\n"
+            "GLB_TB_LEYES.csv:1:1: falta la columna GLEY_NRO"}}) {
         reemplazar(k.tabla, k.de, k.a);
-        EXPECT_TRUE(construir().startsWith(QString::fromUtf8(k.dice))) << construir().toStdString();
+        EXPECT_EQ(construir(), QString::fromUtf8(k.dice));
         EXPECT_FALSE(QFile::exists(dir.filePath("x.db"_u)));
         EXPECT_FALSE(QFile::exists(dir.filePath("x.db.nuevo"_u)));
         reemplazar(k.tabla, k.a, k.de);
     }
+}
+
+// The authority's new texts: deeds keep theirs, and nothing that they use can go.
+TEST_F(Constructor, OtroCatalogoEnUnaBaseConEscrituras)
+{
+    const QString base = dir.filePath("x.db"_u);
+    const auto catalogo = [&] {
+        QString salida;
+        QProcess p;
+        p.setProcessChannelMode(QProcess::MergedChannels);
+        p.start(QStringLiteral(RTN_CREAR_BASE), {"--catalogo"_u, dir.filePath("datos"_u), base});
+        EXPECT_TRUE(p.waitForFinished(60000));
+        return QString::number(p.exitCode()) + ": "_u + QString::fromUtf8(p.readAll()).remove(dir.path() + "/datos/"_u);
+    };
+    const auto resumen = [&] {
+        Conexion cn;
+        cn.abrir(base, clave_almacen());
+        QString todo;
+        for (const char* sql : {"select SSUB_DESCRIPCION from SEL_TB_SUBCONCEPTOS where SSUB_ID=4821003",
+                                "select count(*) from SEL_TB_SUBCONCEPTOS", "select count(*) from SEL_TB_RTN_INS_ROLES",
+                                "select count(*) from SEL_TB_RTN_INS_OPERACIONES"})
+            todo += Recordset(cn, QLatin1StringView(sql)).texto(0) + "|"_u;
+        EXPECT_TRUE(Recordset(cn, "pragma foreign_key_check"_u).eof());
+        return todo;
+    };
+    ASSERT_EQ(construir(), QString());
+    const QString antes = resumen();
+    EXPECT_TRUE(antes.startsWith("DONACION DE INMUEBLES|58|"_u)) << antes.toStdString();
+
+    reemplazar("GLB_TB_MONEDAS", "DOL,", "USD,");
+    reemplazar("GLB_TB_LEYES", "5707,2025-01-01", "5707,2025-02-30");
+    EXPECT_EQ(catalogo(), "1: GLB_TB_LEYES.csv:3:6: «2025-02-30» no es un valor de GLEY_VIGENCIA_DESDE\n"
+                          "crear_base: 1 falla en los textos; no se cambió nada\n"_u);
+    reemplazar("GLB_TB_LEYES", "2025-02-30", "2025-01-01");
+    EXPECT_TRUE(catalogo().startsWith("1: GLB_TB_MONEDAS.csv:1:1: falta GMON_ID DOL, que está en "_u));
+    reemplazar("GLB_TB_MONEDAS", "USD,", "DOL,");
+    ASSERT_TRUE(
+        QFile::copy(dir.filePath("muestra/SEL_TB_RTN_PADRON.csv"_u), dir.filePath("datos/SEL_TB_RTN_PADRON.csv"_u)));
+    EXPECT_TRUE(catalogo().startsWith("1: SEL_TB_RTN_PADRON.csv:1:1: la tabla no es del catálogo\n"_u));
+    QFile::remove(dir.filePath("datos/SEL_TB_RTN_PADRON.csv"_u));
+    EXPECT_EQ(resumen(), antes);
+    EXPECT_FALSE(QDir(dir.filePath("respaldos"_u)).exists());
+
+    reemplazar("SEL_TB_SUBCONCEPTOS", "DONACION DE INMUEBLES", "DONACIONES");
+    EXPECT_TRUE(catalogo().startsWith("0: El catálogo es el de "_u));
+    EXPECT_EQ(resumen(), QString(antes).replace("DONACION DE INMUEBLES"_u, "DONACIONES"_u));
+    EXPECT_EQ(QDir(dir.filePath("respaldos"_u)).entryList({"x-*.db"_u}).size(), 1);
 }
 
 }  // namespace

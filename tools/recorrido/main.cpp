@@ -27,7 +27,7 @@ void preparar(const QString& carpeta)
 {
     QDir(carpeta).removeRecursively();
     QDir().mkpath(carpeta);
-    construir_almacen({QStringLiteral(RTN_TEXTOS_ALMACEN),
+    construir_almacen({QCoreApplication::applicationDirPath() + u"/textos"_s,
                        {u"datos"_s, u"muestra"_s},
                        carpeta + u"/vedra_rtn.db"_s,
                        clave_almacen()});
