@@ -20,9 +20,24 @@ uint64_t resumen(const std::string& nombre)
     return h ^ (h >> 32);
 }
 
-}  // namespace
+// By all headers, from the first one to the end header.
+std::optional<IndiceRar> recorrer(Archivo& a)
+{
+    a.ir(sizeof FIRMA_RAR);
+    uint64_t fin = 0;
+    do
+        fin = a.lugar();
+    while (leer_cabecera(a).tipo != TipoRar::fin);
+    std::string bytes(LARGO_FIN, '\0');
+    a.ir(fin);
+    IndiceRar indice{0, fin};
+    if (a.leer(bytes.data(), bytes.size()) != bytes.size() || !leer_fin(bytes, indice.ultima))
+        return {};
+    return indice;
+}
 
-std::optional<IndiceRar> leer_indice(Archivo& a)
+// From the last bytes alone.
+std::optional<IndiceRar> mirar_el_fin(Archivo& a)
 {
     const uint64_t largo = a.largo();
     if (largo < LARGO_FIN)
@@ -37,15 +52,35 @@ std::optional<IndiceRar> leer_indice(Archivo& a)
         return indice.fin == principio_rar().size() ? std::optional(indice) : std::nullopt;
     // What a killed call left behind an earlier end may end with that of a packed archive: the newest entry's data
     // reach to this end, or it is none.
+    a.ir(indice.ultima);
+    const CabeceraRar c = leer_cabecera(a);
+    return c.tipo == TipoRar::archivo && c.entrada.propia && a.lugar() == indice.fin ? std::optional(indice)
+                                                                                     : std::nullopt;
+}
+
+// A header that can't be read where one is looked for is none.
+template <class Busca>
+std::optional<IndiceRar> sin_falla(Busca busca)
+{
     try {
-        a.ir(indice.ultima);
-        const CabeceraRar c = leer_cabecera(a);
-        if (c.tipo == TipoRar::archivo && c.entrada.propia && a.lugar() == indice.fin)
-            return indice;
+        return busca();
     } catch (const std::runtime_error&) {
         return {};
     }
-    return {};
+}
+
+}  // namespace
+
+std::optional<IndiceRar> leer_indice(Archivo& a)
+{
+    if (const auto indice = sin_falla([&] { return mirar_el_fin(a); }))
+        return indice;
+    const auto indice = sin_falla([&] { return recorrer(a); });
+    if (indice) {
+        a.ir(indice->fin + LARGO_FIN);
+        a.recortar();
+    }
+    return indice;
 }
 
 std::optional<BusquedaRar> buscar_rar(Archivo& a, const IndiceRar& indice, const std::string& nombre)

@@ -22,7 +22,7 @@ struct IndiceRar
     uint64_t fin = 0;     ///< where the end header begins
 };
 
-/// The index of an archive that this packer wrote to its end; nothing for any other.
+/// The index of an archive that this packer wrote; nothing for any other. What a killed call left behind the end goes.
 [[nodiscard]] std::optional<IndiceRar> leer_indice(Archivo& a);
 
 /// What a name's walk found.

@@ -47,7 +47,8 @@ void abrir_sola(const QString& ruta)
         candadoRtn.tomar(ruta);
     try {
         cnRtn.abrir(ruta, clave_almacen());
-        exigir_version(cnRtn);
+        // An older store works as it did, without what its schema lacks; whoever installs brings it up to date.
+        rechazar_mas_nueva(cnRtn);
         // Stores used to be made with the umask's mode; one that another user owns keeps it.
         QFile::setPermissions(ruta, QFile::ReadOwner | QFile::WriteOwner);
     } catch (...) {
