@@ -45,7 +45,7 @@ void lista(benchmark::State& estado)
     cnRtn.ejecutar(u"update SEL_TB_RTN_CABDJ set SEDJ_ANIO=2026"_s);
     campo->setValue(2026);
     const QString sql = consulta_dj({0, 2026, 0});
-    medir(estado, 1.5, enter, [&] { consulta_sola(sql); });
+    medir(estado, 1.2, enter, [&] { consulta_sola(sql); });
     f->descargar();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
@@ -64,7 +64,7 @@ void detalle(benchmark::State& estado)
     f->findChild<QTabWidget*>()->setCurrentIndex(1);
     auto* grilla = f->findChild<Grilla*>(u"flxOp"_s);
     medir(
-        estado, 1.5,
+        estado, 1.2,
         [&] {
             f->alActivar();
             grilla->viewport()->repaint();

@@ -5,6 +5,8 @@
 #include "filing/codificacion.h"
 #include "tree/registros.h"
 
+#include <span>
+
 LineasArchivo::LineasArchivo(std::string_view bytes) : bytes_(bytes)
 {
     for (int i = 0; i < 256; ++i)
@@ -31,11 +33,15 @@ LineaArchivo LineasArchivo::tomar()
 
 void LineasArchivo::digerir(std::string_view registro)
 {
-    const size_t antes = pendiente_.size();
-    pendiente_.resize(antes + registro.size());
-    char* a = pendiente_.data() + antes;
+    // Outside of 0x80 to 0x9F each byte stands for itself; the compiler looks at many of them at a time.
+    unsigned distintos = 0;
     for (const char c : registro)
-        *a++ = codigos_[static_cast<unsigned char>(c)];
+        distintos += (static_cast<unsigned char>(c) ^ 0x80U) < 0x20U;
+    const size_t antes = pendiente_.size();
+    pendiente_.append(registro);
+    if (distintos > 0)
+        for (char& c : std::span(pendiente_).subspan(antes))
+            c = codigos_[static_cast<unsigned char>(c)];
     if (!registro.empty() && registro.front() == '4')
         pendiente_.append("\r\n");
     if (pendiente_.size() > BLOQUE_CODIGO)

@@ -5,6 +5,8 @@
 #include "filing/todas_rarezas.h"
 #include "filing/una_rareza.h"
 
+#include <optional>
+
 namespace {
 
 constexpr size_t LARGO_DE_MAS = 400;  // longer than any quirk makes a record
@@ -48,6 +50,15 @@ int partir_testimonio(RegistroLeido& r)
 
 struct PartidorRegistros::Estado
 {
+    // Made when the first record of the kind comes.
+    const MedidasRegistro& medidas(const Registro& registro)
+    {
+        auto& suya = medidas_[size_t(registro.tipo - '0')];
+        if (!suya)
+            suya.emplace(registro);
+        return *suya;
+    }
+    std::array<std::optional<MedidasRegistro>, 10> medidas_;
     Rarezas rarezas;
     UltimaRareza ultima;
 };
@@ -59,14 +70,15 @@ PartidorRegistros::~PartidorRegistros() = default;
 int PartidorRegistros::partir(RegistroLeido& r)
 {
     r.dudoso = false;
+    const MedidasRegistro& medidas = estado_->medidas(*r.registro);
+    r.previsto = medidas.lugares[r.registro->campos.size()];
     const int falla = r.registro->tipo == '8' ? partir_testimonio(r) : partir_llano(r);
     r.entero = falla < 0;
     if (r.entero || r.registro->tipo == '8')
         return falla;
-    const auto previsto = size_t(r.registro->ancho()) + 1;
-    if (r.bytes.size() > previsto + LARGO_DE_MAS)
+    if (r.bytes.size() > r.previsto + LARGO_DE_MAS)
         return falla;
-    r.entero = partir_con_una(r) || estado_->ultima.partir(r);
+    r.entero = partir_con_una(r, medidas, falla) || estado_->ultima.partir(r);
     if (!r.entero && estado_->rarezas.partir(r)) {
         r.entero = true;
         estado_->ultima.recordar(r);

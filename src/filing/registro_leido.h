@@ -16,6 +16,7 @@ struct RegistroLeido
     int linea = 0;
     std::string_view bytes;                                 ///< the record without its line end
     std::array<std::string_view, CAMPOS_MAXIMOS> campos{};  ///< empty for a field that is absent
+    size_t previsto = 0;                                    ///< length of the record by its fields' widths
     bool entero = false;                                    ///< its fields could be told apart
     bool dudoso = false;                                    ///< they could in more than one way
 

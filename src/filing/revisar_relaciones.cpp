@@ -5,7 +5,9 @@
 #include "core/numero.h"
 #include "filing/codificacion.h"
 
+#include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +32,54 @@ void sumar(qint64& suma, qint64 n)
         suma = suma < Limites::min() - n ? Limites::min() : suma + n;
 }
 
+int lugar_de(const Registro& registro, std::string_view nombre)
+{
+    const auto it = std::ranges::find_if(registro.campos, [&](const CampoRegistro& c) { return c.nombre == nombre; });
+    return it == registro.campos.end() ? -1 : int(it - registro.campos.begin());
+}
+
+qint64 numero_en(const RegistroLeido& r, int lugar)
+{
+    return lugar < 0 ? 0 : numero(r.campos[size_t(lugar)]);
+}
+
 }  // namespace
+
+void ClavesVistas::agregar(Clave clave)
+{
+    ordenadas_ = ordenadas_ && (todas_.empty() || todas_.back() <= clave);
+    todas_.push_back(clave);
+}
+
+bool ClavesVistas::contiene(Clave clave)
+{
+    constexpr int CERCA = 8;
+    if (!std::exchange(ordenadas_, true))
+        std::ranges::sort(todas_);
+    if (cursor_ >= todas_.size() || clave < todas_[cursor_])
+        cursor_ = 0;
+    for (int i = 0; i < CERCA && cursor_ < todas_.size() && todas_[cursor_] < clave; ++i)
+        ++cursor_;
+    const auto it = std::lower_bound(todas_.begin() + std::ptrdiff_t(cursor_), todas_.end(), clave);
+    cursor_ = size_t(it - todas_.begin());
+    return it != todas_.end() && *it == clave;
+}
+
+RevisorRelaciones::Lugares RevisorRelaciones::lugares_de(const Registro& registro)
+{
+    return {&registro, lugar_de(registro, "SEDD_ID"), lugar_de(registro, "SEDO_ID"), lugar_de(registro, "SPIN_ID"),
+            lugar_de(registro, "SINS_MONTO_FINAL")};
+}
+
+// Children come in the order of their deeds.
+RevisorRelaciones::EscrituraLeida* RevisorRelaciones::buscarEscritura(qint64 id)
+{
+    if (ultima_ != escrituras_.end() && ultima_->first < id)
+        ++ultima_;
+    if (ultima_ == escrituras_.end() || ultima_->first != id)
+        ultima_ = escrituras_.find(id);
+    return ultima_ == escrituras_.end() ? nullptr : &ultima_->second;
+}
 
 void RevisorRelaciones::revisar(const RegistroLeido& r)
 {
@@ -68,25 +117,27 @@ void RevisorRelaciones::escritura(const RegistroLeido& r)
 
 void RevisorRelaciones::hijo(const RegistroLeido& r)
 {
-    const qint64 id = numero(r.campo("SEDD_ID"));
-    const auto it = escrituras_.find(id);
-    if (it == escrituras_.end()) {
+    if (lugares_.registro != r.registro)
+        lugares_ = lugares_de(*r.registro);
+    const qint64 id = numero_en(r, lugares_.escritura);
+    EscrituraLeida* escritura = buscarEscritura(id);
+    if (!escritura) {
         fallas_.valor(r, "SEDD_ID", u"no hay una escritura con ese renglón"_s);
         return;
     }
-    const qint64 operacion = numero(r.campo("SEDO_ID"));
+    const qint64 operacion = numero_en(r, lugares_.operacion);
     const char tipo = r.registro->tipo;
     if (tipo == '3') {
-        partes_.emplace(id, numero(r.campo("SPIN_ID")));
+        partes_.agregar({id, numero_en(r, lugares_.parte)});
     } else if (tipo == '5') {
-        operaciones_.emplace(id, operacion);
-        sumar(it->second.operaciones, numero(r.campo("SINS_MONTO_FINAL")));
-        it->second.conOperacion = true;
-        it->second.dudosa = it->second.dudosa || r.dudoso;
+        operaciones_.agregar({id, operacion});
+        sumar(escritura->operaciones, numero_en(r, lugares_.monto));
+        escritura->conOperacion = true;
+        escritura->dudosa = escritura->dudosa || r.dudoso;
     } else if (tipo == '6' || tipo == '7') {
-        if (!operaciones_.contains({id, operacion}))
+        if (!operaciones_.contiene({id, operacion}))
             fallas_.valor(r, "SEDO_ID", u"no hay una operación con ese número en la escritura"_s);
-        if (tipo == '6' && !partes_.contains({id, numero(r.campo("SPIN_ID"))}))
+        if (tipo == '6' && !partes_.contiene({id, numero_en(r, lugares_.parte)}))
             fallas_.valor(r, "SPIN_ID", u"no hay una parte con ese número en la escritura"_s);
     }
 }

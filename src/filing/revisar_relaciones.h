@@ -4,7 +4,22 @@
 
 #include "filing/anotar_fallas.h"
 
-#include <set>
+#include <array>
+#include <vector>
+
+/// Keys that were met, mostly in ascending order, and are asked for in that order too: then nothing is searched.
+class ClavesVistas
+{
+public:
+    using Clave = std::pair<qint64, qint64>;
+    void agregar(Clave clave);
+    [[nodiscard]] bool contiene(Clave clave);
+
+private:
+    std::vector<Clave> todas_;
+    bool ordenadas_ = true;
+    size_t cursor_ = 0;
+};
 
 class RevisorRelaciones
 {
@@ -36,7 +51,21 @@ private:
     qint64 total_ = 0;
     qint64 suma_ = 0;
     bool dudosas_ = false;
+    // Where a record has the fields that are looked at in each of its kind; -1 without it.
+    struct Lugares
+    {
+        const Registro* registro = nullptr;
+        int escritura = -1;
+        int operacion = -1;
+        int parte = -1;
+        int monto = -1;
+    };
+    static Lugares lugares_de(const Registro& registro);
+    [[nodiscard]] EscrituraLeida* buscarEscritura(qint64 id);
+
     std::map<qint64, EscrituraLeida> escrituras_;
-    std::set<std::pair<qint64, qint64>> operaciones_;
-    std::set<std::pair<qint64, qint64>> partes_;
+    std::map<qint64, EscrituraLeida>::iterator ultima_ = escrituras_.end();
+    ClavesVistas operaciones_;
+    ClavesVistas partes_;
+    Lugares lugares_;  // of the kind that came last
 };

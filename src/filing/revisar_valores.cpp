@@ -23,8 +23,8 @@ constexpr Dominio DOMINIOS[] = {{'1', "SEDJ_ESTADO", "01"},
 
 void revisar_largo(const RegistroLeido& r, AnotadorFallas& fallas)
 {
-    const auto previsto = r.registro->ancho() + 1;
-    if (!r.dudoso && int(r.bytes.size()) == previsto)
+    const auto previsto = int(r.previsto);
+    if (!r.dudoso && r.bytes.size() == r.previsto)
         return;
     if (r.dudoso)
         fallas.rareza(r, "", r.bytes.size(), previsto);
@@ -41,7 +41,11 @@ void revisar_largo(const RegistroLeido& r, AnotadorFallas& fallas)
 
 void revisar_control(const RegistroLeido& r, AnotadorFallas& fallas)
 {
-    if (std::any_of(r.bytes.begin(), r.bytes.end(), [](unsigned char c) { return c < 0x20; }))
+    // The least byte of all, rather than the first that is one: the compiler takes many at a time.
+    unsigned char menor = 0xff;
+    for (const char c : r.bytes)
+        menor = std::min(menor, static_cast<unsigned char>(c));
+    if (menor < 0x20)
         fallas.falla({r.linea, 1, {}, {}, u"hay un carácter de control en el registro"_s});
 }
 

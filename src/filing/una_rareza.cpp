@@ -6,22 +6,28 @@
 
 #include <algorithm>
 
-bool partir_con_una(RegistroLeido& r)
+MedidasRegistro::MedidasRegistro(const Registro& registro)
+{
+    lugares[0] = 1;
+    for (size_t i = 0; i < registro.campos.size(); ++i)
+        lugares[i + 1] = lugares[i] + size_t(registro.campos[i].ancho);
+}
+
+bool partir_con_una(RegistroLeido& r, const MedidasRegistro& medidas, int falla)
 {
     const auto campos = r.registro->campos;
     const auto n = int(campos.size());
-    const auto de_mas = std::ptrdiff_t(r.bytes.size()) - r.registro->ancho() - 1;
-    std::array<size_t, CAMPOS_MAXIMOS + 1> lugares{};
-    lugares[0] = 1;
-    for (int i = 0; i < n; ++i)
-        lugares[size_t(i) + 1] = lugares[size_t(i)] + size_t(campos[size_t(i)].ancho);
+    const auto& lugares = medidas.lugares;
+    const auto de_mas = std::ptrdiff_t(r.bytes.size()) - std::ptrdiff_t(r.previsto);
+    if (de_mas == 0)
+        return false;
     const auto llano = [&](int i, std::ptrdiff_t corrido) {
         const auto desde = std::ptrdiff_t(lugares[size_t(i)]) + corrido;
         const auto ancho = size_t(campos[size_t(i)].ancho);
         return desde >= 1 && size_t(desde) + ancho <= r.bytes.size()
                && cabe(campos[size_t(i)], r.bytes.substr(size_t(desde), ancho));
     };
-    int antes = 0;  // fields from the start that stand at their places
+    int antes = falla;  // fields from the start that stand at their places
     while (antes < n && llano(antes, 0))
         ++antes;
     int despues = n;  // first of those that stand at their places counted from the end
@@ -41,10 +47,10 @@ bool partir_con_una(RegistroLeido& r)
             elegido = j;
         }
     }
-    if (elegido < 0 || de_mas == 0)
+    if (elegido < 0)
         return false;
     r.dudoso = empate;
-    for (int i = 0; i < n; ++i) {
+    for (int i = elegido; i < n; ++i) {
         const auto corrido = i > elegido ? de_mas : 0;
         const auto largo = campos[size_t(i)].ancho + (i == elegido ? de_mas : 0);
         r.campos[size_t(i)] = r.bytes.substr(size_t(std::ptrdiff_t(lugares[size_t(i)]) + corrido), size_t(largo));

@@ -4,9 +4,16 @@
 
 #include "filing/registro_leido.h"
 
-/// One field alone makes up for the length of the record; all others have their width. False when
-/// there is no such reading.
-[[nodiscard]] bool partir_con_una(RegistroLeido& r);
+/// Where the fields of a record lie when each has its width.
+struct MedidasRegistro
+{
+    explicit MedidasRegistro(const Registro& registro);
+    std::array<size_t, CAMPOS_MAXIMOS + 1> lugares{};  ///< of each field, and behind the last one
+};
+
+/// One field alone makes up for the length of the record; all others have their width. The fields in front of `falla`
+/// were told apart already, that one does not stand at its place. False when there is no such reading.
+[[nodiscard]] bool partir_con_una(RegistroLeido& r, const MedidasRegistro& medidas, int falla);
 
 /// Operations of one kind leave the same numbers out: the reading of the last record whose numbers
 /// alone were odd is tried on the next one of its length, where it must come as dear.
