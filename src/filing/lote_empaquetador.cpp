@@ -138,8 +138,10 @@ QString LoteEnMarcha::avance() const
 {
     if (fichero_.isEmpty())
         return u"Empaquetando la declaración jurada…"_s;
-    const QLocale local(QLocale::Spanish);
+    const auto bytes = [](qint64 n) {
+        return QLocale(QLocale::Spanish).formattedDataSize(n, 1, QLocale::DataSizeSIFormat);
+    };
     return u"Empaquetados %1 de %2 archivos\n%3 (%4 de %5)"_s.arg(hechos_)
         .arg(trabajo_.ficheros)
-        .arg(fichero_, local.formattedDataSize(bytesHechos_ + bytesDeEste_), local.formattedDataSize(trabajo_.bytes));
+        .arg(fichero_, bytes(bytesHechos_ + bytesDeEste_), bytes(trabajo_.bytes));
 }
