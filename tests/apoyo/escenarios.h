@@ -45,4 +45,5 @@ private:
     void responder();
 
     QTimer reloj_;
+    Cajas::Turno turno_de_cajas_;
 };

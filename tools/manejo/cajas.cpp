@@ -46,9 +46,7 @@ void Cajas::elegirArchivo(QFileDialog* dialogo)
 {
     if (archivos_.isEmpty() && !vista_)
         falla_ = u"vino un diálogo de archivos que nadie esperaba: "_s + dialogo->windowTitle();
-    const QString archivo = archivos_.isEmpty() ? QString()
-                            : vista_            ? archivos_.constFirst()
-                                                : archivos_.takeFirst();
+    const QString archivo = archivos_.isEmpty() ? QString() : vista_ ? archivos_.constFirst() : archivos_.takeFirst();
     auto* nombre = dialogo->findChild<QLineEdit*>(u"fileNameEdit"_s);
     if (archivo.isEmpty() || !nombre) {
         dialogo->reject();
@@ -85,17 +83,15 @@ void Cajas::mirar()
     QTest::mouseClick(boton, Qt::LeftButton);
 }
 
-namespace {
-
-struct Turno
+Cajas::Turno::Turno()
 {
-    Turno() { ++vigias; }
-    ~Turno() { --vigias; }
-    Turno(const Turno&) = delete;
-    Turno& operator=(const Turno&) = delete;
-};
+    ++vigias;
+}
 
-}  // namespace
+Cajas::Turno::~Turno()
+{
+    --vigias;
+}
 
 void Cajas::aceptando(const std::function<void()>& accion, const std::function<void(const QString&)>& vista,
                       const QString& archivo)

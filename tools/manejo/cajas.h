@@ -41,6 +41,15 @@ public:
     static void aceptando(const std::function<void()>& accion, const std::function<void(const QString&)>& vista,
                           const QString& archivo = {});
 
+    /// While one lives somebody answers the boxes.
+    struct Turno
+    {
+        Turno();
+        ~Turno();
+        Turno(const Turno&) = delete;
+        Turno& operator=(const Turno&) = delete;
+    };
+
     /// Runs an action during which no box is expected, unless somebody already answers the boxes.
     static void vigilar(const std::function<void()>& accion);
 
