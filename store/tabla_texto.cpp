@@ -126,14 +126,7 @@ void revisar_claves(const TablaTexto& t, QList<FallaTexto>& fallas)
     }
 }
 
-}  // namespace
-
-QString FallaTexto::texto() const
-{
-    return u"%1:%2:%3: %4"_s.arg(archivo, QString::number(linea), QString::number(columna), mensaje);
-}
-
-static std::string juntar(QList<FallaTexto>& fallas)
+std::string juntar(QList<FallaTexto>& fallas)
 {
     std::stable_sort(fallas.begin(), fallas.end(), [](const FallaTexto& a, const FallaTexto& b) {
         return std::tie(a.archivo, a.linea, a.columna) < std::tie(b.archivo, b.linea, b.columna);
@@ -142,6 +135,13 @@ static std::string juntar(QList<FallaTexto>& fallas)
     for (const FallaTexto& f : std::as_const(fallas))
         lineas << f.texto();
     return lineas.join(u'\n').toStdString();
+}
+
+}  // namespace
+
+QString FallaTexto::texto() const
+{
+    return u"%1:%2:%3: %4"_s.arg(archivo, QString::number(linea), QString::number(columna), mensaje);
 }
 
 ErrorTextos::ErrorTextos(QList<FallaTexto> fallas) : std::runtime_error(juntar(fallas)), cuantas(fallas.size()) {}

@@ -80,14 +80,7 @@ constexpr std::array FORMAS{
     FormaPaso{P::impuestoFinal, K::final, 2, C::impuesto, NADA, {C::impuesto, C::pagoACuenta, C::adicionales}},
 };
 
-constexpr bool en_orden()
-{
-    for (size_t i = 0; i < FORMAS.size(); ++i)
-        if (FORMAS[i].clase != P(i))
-            return false;
-    return FORMAS.size() == size_t(P::cuantas);
-}
-static_assert(en_orden());
+static_assert(una_por_clase(FORMAS));
 
 }  // namespace
 

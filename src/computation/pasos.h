@@ -144,6 +144,16 @@ enum class ClasePaso : quint8 {
     cuantas
 };
 
+/// Whether a table has one row for each kind of step, in their order.
+template <class Tabla>
+constexpr bool una_por_clase(const Tabla& tabla)
+{
+    for (size_t i = 0; i < tabla.size(); ++i)
+        if (tabla[i].clase != ClasePaso(i))
+            return false;
+    return tabla.size() == size_t(ClasePaso::cuantas);
+}
+
 constexpr int CIFRAS_POR_PASO = 4;
 constexpr int SIN_REDONDEO = -1;
 

@@ -93,14 +93,7 @@ constexpr std::array TEXTOS{
               "Menos el pago a cuenta, más los adicionales: {1} - {2} + {3}"},
 };
 
-constexpr bool en_orden()
-{
-    for (size_t i = 0; i < TEXTOS.size(); ++i)
-        if (TEXTOS[i].clase != P(i))
-            return false;
-    return TEXTOS.size() == size_t(P::cuantas);
-}
-static_assert(en_orden());
+static_assert(una_por_clase(TEXTOS));
 
 // An amount with the decimals that it has, at least two; no line parts it from its sign.
 QString pesos(double valor)

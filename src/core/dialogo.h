@@ -14,7 +14,7 @@ struct Mensaje
     QString titulo;
     Icono icono = Icono::informacion;
     QString detalles = {};  ///< behind "Detalles"
-    QString si = {};        ///< captions of a question's buttons, in place of Yes and No
+    QString si = {};        ///< captions in place of Yes and No; Enter is the latter then
     QString no = {};
 };
 

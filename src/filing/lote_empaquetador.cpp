@@ -38,6 +38,8 @@ LoteEnMarcha::LoteEnMarcha(TrabajoEmpaquetador trabajo, std::chrono::millisecond
     proceso_.setStandardInputFile(QProcess::nullDevice());
     proceso_.setChildProcessModifier(preparar_proceso);
     proceso_.start(u"/bin/sh"_s, {trabajo_.lote});
+    // The group can be ended once the child has made it.
+    proceso_.waitForStarted();
     callado_.start();
 }
 

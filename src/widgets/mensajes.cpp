@@ -61,6 +61,9 @@ int mostrar(QWidget* padre, const Mensaje& m, QMessageBox::StandardButtons boton
     for (const auto& [boton, texto] : {std::pair(QMessageBox::Yes, m.si), std::pair(QMessageBox::No, m.no)})
         if (!texto.isEmpty())
             caja.button(boton)->setText(texto);
+    // Enter is not what ends a work.
+    if (!m.no.isEmpty())
+        caja.setDefaultButton(QMessageBox::No);
     return caja.exec();
 }
 

@@ -186,9 +186,8 @@ void frmDJ_buscar::emitir()
         return;
     }
     // The name that is typed does not count, so nothing is asked about a file of that name.
-    DialogoPantalla paquete(this);
-    const auto pedir = [this, &paquete](const QString& nombre) {
-        paquete.ocultarProgreso();
+    const auto pedir = [this, &dialogo](const QString& nombre) {
+        dialogo.ocultarProgreso();
         const QString elegido = QFileDialog::getSaveFileName(
             this, u"Guardar la declaración jurada"_s, QDir(ultima_carpeta()).filePath(nombre),
             u"Archivo comprimido (*.rar)"_s, nullptr, QFileDialog::DontConfirmOverwrite);
@@ -196,9 +195,9 @@ void frmDJ_buscar::emitir()
             recordar_carpeta(QFileInfo(elegido).absolutePath());
         return elegido;
     };
-    if (!comprimir_dj(nro, paquete, pedir))
+    if (!comprimir_dj(nro, dialogo, pedir))
         return;
-    paquete.ocultarProgreso();
+    dialogo.ocultarProgreso();
     auto* reporte = cargar<frmReportes>();
     reporte->DJ(nro, emision.codigo);
     abrir(reporte);
