@@ -20,26 +20,6 @@ struct Columna
     const char* parametro = nullptr;  ///< when it is not "v_" and the column's name
 };
 
-/// The field's value as a parameter; an empty text and an absent number are null.
-template <class T>
-QVariant valor_columna(const T& fila, const Columna<T>& columna)
-{
-    return std::visit(
-        [&fila](auto campo) -> QVariant {
-            const auto& v = fila.*campo;
-            using V = std::remove_cvref_t<decltype(v)>;
-            if constexpr (std::is_same_v<V, QString>)
-                return v.isEmpty() ? QVariant() : QVariant(v);
-            else if constexpr (std::is_same_v<V, QDate>)
-                return v.isValid() ? QVariant(v) : QVariant();
-            else if constexpr (requires { v.has_value(); })
-                return v ? QVariant(*v) : QVariant();
-            else
-                return v;
-        },
-        columna.campo);
-}
-
 /// Reads rows of a query into structs; the places of the columns are found once.
 template <class T>
 class LectorFilas
@@ -108,12 +88,33 @@ QString sentencia_alta(const char* tabla, std::span<const Columna<T>> columnas)
     return u"insert into "_s + QLatin1String(tabla) + u" ("_s + nombres + u") values ("_s + marcas + u")"_s;
 }
 
+/// Appends the field's value to the parameters; an empty text and an absent number are null.
+template <class T>
+void anotar_columna(Comando& comando, const T& fila, const Columna<T>& columna)
+{
+    const char* nombre = columna.parametro ? columna.parametro : columna.nombre;
+    std::visit(
+        [&](auto campo) {
+            const auto& v = fila.*campo;
+            using V = std::remove_cvref_t<decltype(v)>;
+            if constexpr (std::is_same_v<V, QString>)
+                v.isEmpty() ? comando.nulo() : comando.parametro(nombre, v, columna.ancho);
+            else if constexpr (std::is_same_v<V, QDate>)
+                v.isValid() ? comando.parametro(nombre, v) : comando.nulo();
+            else if constexpr (requires { v.has_value(); })
+                v ? comando.parametro(nombre, *v) : comando.nulo();
+            else
+                comando.parametro(nombre, v);
+        },
+        columna.campo);
+}
+
 /// Inserts one row by positional parameters; gives the rows affected. Throws ErrorAlmacen.
 template <class T>
 int insertar_fila(Conexion& cn, const QString& sentencia, std::span<const Columna<T>> columnas, const T& fila)
 {
     Comando comando(cn, sentencia);
     for (const Columna<T>& c : columnas)
-        comando.parametro(c.parametro ? c.parametro : c.nombre, valor_columna(fila, c), c.ancho);
+        anotar_columna(comando, fila, c);
     return comando.ejecutar();
 }

@@ -2,8 +2,6 @@
 
 #include "core/comando.h"
 
-#include <QDate>
-
 #include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -15,27 +13,43 @@ Comando::~Comando()
     cn_.devolver(sql_, sentencia_);
 }
 
+void Comando::parametro(const char* nombre, const QString& valor, int ancho)
+{
+    if (ancho > 0 && valor.size() > ancho)
+        throw ErrorAlmacen(SQLITE_TOOBIG,
+                           u"El valor de %1 excede los %2 caracteres"_s.arg(QLatin1String(nombre)).arg(ancho));
+    const QByteArray utf8 = valor.toUtf8();
+    sqlite3_bind_text(sentencia_, siguiente_++, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+}
+
+void Comando::parametro(const char* nombre, const QDate& valor)
+{
+    parametro(nombre, valor.toString(Qt::ISODate));
+}
+
+void Comando::parametro(const char*, double valor)
+{
+    sqlite3_bind_double(sentencia_, siguiente_++, valor);
+}
+
+void Comando::parametro(const char*, qint64 valor)
+{
+    sqlite3_bind_int64(sentencia_, siguiente_++, valor);
+}
+
+void Comando::nulo()
+{
+    sqlite3_bind_null(sentencia_, siguiente_++);
+}
+
 void Comando::parametro(const char* nombre, const QVariant& valor, int ancho)
 {
-    const int n = siguiente_++;
     switch (valor.typeId()) {
-    case QMetaType::UnknownType: sqlite3_bind_null(sentencia_, n); return;
-    case QMetaType::QString: {
-        const QString texto = valor.toString();
-        if (ancho > 0 && texto.size() > ancho)
-            throw ErrorAlmacen(SQLITE_TOOBIG,
-                               u"El valor de %1 excede los %2 caracteres"_s.arg(QLatin1String(nombre)).arg(ancho));
-        const QByteArray utf8 = texto.toUtf8();
-        sqlite3_bind_text(sentencia_, n, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    case QMetaType::QDate: {
-        const QByteArray iso = valor.toDate().toString(Qt::ISODate).toUtf8();
-        sqlite3_bind_text(sentencia_, n, iso.constData(), int(iso.size()), SQLITE_TRANSIENT);
-        return;
-    }
-    case QMetaType::Double: sqlite3_bind_double(sentencia_, n, valor.toDouble()); return;
-    default: sqlite3_bind_int64(sentencia_, n, valor.toLongLong());
+    case QMetaType::UnknownType: return nulo();
+    case QMetaType::QString: return parametro(nombre, valor.toString(), ancho);
+    case QMetaType::QDate: return parametro(nombre, valor.toDate());
+    case QMetaType::Double: return parametro(nombre, valor.toDouble());
+    default: parametro(nombre, valor.toLongLong());
     }
 }
 

@@ -9,6 +9,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -78,6 +80,18 @@ bool con_comentario(const QByteArray& sql)
             return true;
     }
     return false;
+}
+
+// The place of a statement. Rows that are written by the thousand bring the very text that was kept: where it lies tells
+// it without a look at its hundreds of letters.
+auto lugar_de(auto& guardadas, const QString& sql, auto sirve)
+{
+    const auto con = [&](auto igual) {
+        return std::find_if(guardadas.begin(), guardadas.end(),
+                            [&](const auto& g) { return sirve(g.sentencia) && igual(g.sql); });
+    };
+    const auto mismo = con([&](const QString& s) { return s.constData() == sql.constData(); });
+    return mismo != guardadas.end() ? mismo : con([&](const QString& s) { return s == sql; });
 }
 
 }  // namespace
@@ -210,8 +224,8 @@ void Conexion::cerrar()
 {
     if (!base_)
         return;
-    for (auto& [sql, sentencia] : guardadas_)
-        sqlite3_finalize(sentencia);
+    for (const Guardada& g : guardadas_)
+        sqlite3_finalize(g.sentencia);
     guardadas_.clear();
     deshacerTodo();
     sqlite3_close_v2(base_);
@@ -238,19 +252,20 @@ sqlite3_stmt* Conexion::preparar(const QString& sql)
 
 sqlite3_stmt* Conexion::prestar(const QString& sql)
 {
-    const auto it = guardadas_.find(sql);
-    if (it == guardadas_.end())
-        return preparar(sql);
-    sqlite3_stmt* sentencia = it->second;
-    guardadas_.erase(it);
-    return sentencia;
+    const auto lugar = lugar_de(guardadas_, sql, [](const sqlite3_stmt* s) { return s != nullptr; });
+    return lugar == guardadas_.end() ? preparar(sql) : std::exchange(lugar->sentencia, nullptr);
 }
 
 void Conexion::devolver(const QString& sql, sqlite3_stmt* sentencia)
 {
     sqlite3_reset(sentencia);
     sqlite3_clear_bindings(sentencia);
-    if (!base_ || guardadas_.size() >= SENTENCIAS_GUARDADAS || !guardadas_.emplace(sql, sentencia).second)
+    const auto lugar = lugar_de(guardadas_, sql, [](const sqlite3_stmt* s) { return s == nullptr; });
+    if (base_ && lugar != guardadas_.end())
+        lugar->sentencia = sentencia;
+    else if (base_ && guardadas_.size() < SENTENCIAS_GUARDADAS)
+        guardadas_.push_back({sql, sentencia});
+    else
         sqlite3_finalize(sentencia);
 }
 

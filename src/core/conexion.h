@@ -6,7 +6,7 @@
 #include <QString>
 
 #include <stdexcept>
-#include <unordered_map>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_file;
@@ -94,7 +94,13 @@ private:
 
     sqlite3* base_ = nullptr;
     int nivel_ = 0;
-    std::unordered_map<QString, sqlite3_stmt*> guardadas_;
+    // Prepared statements between two uses; one that is lent leaves its place empty.
+    struct Guardada
+    {
+        QString sql;
+        sqlite3_stmt* sentencia = nullptr;
+    };
+    std::vector<Guardada> guardadas_;
 };
 
 /// Creates a new, empty store at the path; used by the builder of stores alone.

@@ -31,13 +31,12 @@ void modificar_inmueble(const Inmueble& i, const QString& valFiscalSQL)
         const std::string_view nombre(c.nombre);
         if (nombre == "SEDJ_NRO" || nombre == "SEDD_ID" || nombre == "SEII_ID")
             continue;
-        const QString valor = valor_columna(i, c).toString();
         if (nombre == "SEII_VAL_FISCAL")
             fila << Asignacion{c.nombre, valFiscalSQL};
         else if (nombre == "GTUB_ID")
-            fila << Asignacion{c.nombre, valor};
+            fila << Asignacion{c.nombre, i.caracter ? QString::number(*i.caracter) : QString()};
         else
-            fila << Asignacion{c.nombre, texto_o_null(toSQL(valor))};
+            fila << Asignacion{c.nombre, texto_o_null(toSQL(i.*std::get<QString Inmueble::*>(c.campo)))};
     }
     cnRtn.ejecutar(u"update SEL_TB_RTN_INS_INMUEBLES set  %1 where SEDJ_NRO='%2' and SEDD_ID=%3 and SEII_ID=%4"_s.arg(
         asignar_sql(fila), i.dj, QString::number(i.renglon), QString::number(i.id)));
