@@ -4,6 +4,8 @@
 
 #include <sqlcipher/sqlite3.h>
 
+#include <charconv>
+
 using namespace Qt::StringLiterals;
 
 Recordset::Recordset(Conexion& cn, const QString& sql) : cn_(cn), sql_(sql), sentencia_(cn.prestar(sql))
@@ -54,8 +56,16 @@ bool Recordset::nulo(int columna) const
 
 std::string_view Recordset::utf8(int columna) const
 {
-    const auto* texto = reinterpret_cast<const char*>(sqlite3_column_text(sentencia_, columna));
-    return texto ? std::string_view(texto, size_t(sqlite3_column_bytes(sentencia_, columna))) : std::string_view();
+    sqlite3_value* valor = sqlite3_column_value(sentencia_, columna);
+    // The engine writes a number by a general formatter, in new memory: lists have thousands of them.
+    if (sqlite3_value_type(valor) == SQLITE_INTEGER) {
+        enteros_.resize(size_t(columnas()));
+        auto& cifras = enteros_[size_t(columna)];
+        const auto fin = std::to_chars(cifras.begin(), cifras.end(), sqlite3_value_int64(valor)).ptr;
+        return {cifras.begin(), fin};
+    }
+    const auto* texto = reinterpret_cast<const char*>(sqlite3_value_text(valor));
+    return texto ? std::string_view(texto, size_t(sqlite3_value_bytes(valor))) : std::string_view();
 }
 
 QString Recordset::texto(int columna) const

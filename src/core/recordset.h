@@ -7,7 +7,9 @@
 #include <QDate>
 #include <QVariant>
 
+#include <array>
 #include <string_view>
+#include <vector>
 
 /// The rows of a query, walked once from the first. Columns are found by their name,
 /// without regard to case, or by position.
@@ -28,7 +30,7 @@ public:
 
     [[nodiscard]] bool nulo(int columna) const;
     [[nodiscard]] QString texto(int columna) const;
-    /// The text as the engine holds it, in UTF-8, until the next row.
+    /// The text as the engine holds it, or an integer as one, in UTF-8, until the next row.
     [[nodiscard]] std::string_view utf8(int columna) const;
     [[nodiscard]] double real(int columna) const;
     [[nodiscard]] qint64 entero(int columna) const;
@@ -52,4 +54,5 @@ private:
     QString sql_;
     sqlite3_stmt* sentencia_ = nullptr;
     bool eof_ = false;
+    mutable std::vector<std::array<char, 24>> enteros_;  // the integers of this row as texts
 };

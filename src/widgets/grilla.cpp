@@ -2,6 +2,8 @@
 
 #include "widgets/grilla.h"
 
+#include "widgets/pintor_celda.h"
+
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -11,6 +13,7 @@
 Grilla::Grilla(QWidget* padre) : QTableView(padre)
 {
     setModel(&modelo_);
+    setItemDelegate(new PintorCelda(this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setTabKeyNavigation(false);
