@@ -12,7 +12,7 @@ int main(int argc, char** argv)
         MDIPrincipal principal;
         if (!principal.iniciar())
             return EXIT_FAILURE;
-        principal.showMaximized();
+        principal.presentar();
         return Aplicacion::exec();
     } catch (const std::exception& e) {
         Aplicacion::terminar(QString::fromUtf8(e.what()));

@@ -3,14 +3,13 @@
 #include "core/preferencias.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString ULTIMA_CARPETA = u"emision/carpeta"_s;
 
 QString archivo()
 {
@@ -19,16 +18,26 @@ QString archivo()
 
 }  // namespace
 
-QString ultima_carpeta()
+QVariant preferencia(const QString& clave)
 {
-    const QString ultima = QSettings(archivo(), QSettings::IniFormat).value(ULTIMA_CARPETA).toString();
+    return QSettings(archivo(), QSettings::IniFormat).value(clave);
+}
+
+void recordar(const QString& clave, const QVariant& valor)
+{
+    QSettings(archivo(), QSettings::IniFormat).setValue(clave, valor);
+}
+
+QString ultima_carpeta(const QString& de)
+{
+    const QString ultima = preferencia(de + u"/carpeta"_s).toString();
     if (!ultima.isEmpty() && QDir(ultima).exists())
         return ultima;
     const QString documentos = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QDir(documentos).exists() ? documentos : QDir::homePath();
 }
 
-void recordar_carpeta(const QString& carpeta)
+void recordar_carpeta(const QString& de, const QString& archivo_elegido)
 {
-    QSettings(archivo(), QSettings::IniFormat).setValue(ULTIMA_CARPETA, carpeta);
+    recordar(de + u"/carpeta"_s, QFileInfo(archivo_elegido).absolutePath());
 }

@@ -3,7 +3,14 @@
 #pragma once
 
 #include <QString>
+#include <QVariant>
 
-/// The folder in which the user last saved an emission, while it is there; the first time that of his documents.
-[[nodiscard]] QString ultima_carpeta();
-void recordar_carpeta(const QString& carpeta);
+/// What was kept under a key ("columnas/…"); invalid when nothing was.
+[[nodiscard]] QVariant preferencia(const QString& clave);
+void recordar(const QString& clave, const QVariant& valor);
+
+/// The folder in which the user last saved or looked for that ("emision", "pdf"), while it is there; the first time that
+/// of his documents.
+[[nodiscard]] QString ultima_carpeta(const QString& de);
+/// Keeps the folder of a file that the user chose.
+void recordar_carpeta(const QString& de, const QString& archivo);

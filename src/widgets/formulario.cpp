@@ -3,6 +3,7 @@
 
 #include "widgets/formulario.h"
 
+#include "core/preferencias.h"
 #include "widgets/grilla.h"
 
 #include <QApplication>
@@ -19,6 +20,11 @@ namespace {
 QPointer<QMdiArea> area_principal;
 QList<QPointer<Formulario>> abiertos;
 QPointer<Formulario> ultima_activa;
+
+QString clave_lugar(const Formulario* f)
+{
+    return u"ventanas/"_s + QLatin1String(f->metaObject()->className());
+}
 
 }  // namespace
 
@@ -58,20 +64,42 @@ void Formulario::mostrar()
         subventana_ = area_principal->addSubWindow(this);
         subventana_->setAttribute(Qt::WA_DeleteOnClose);
         subventana_->setWindowIcon(QApplication::windowIcon());
-        const QSize disponible = area_principal->viewport()->size();
         const QSize marco = subventana_->sizeHint() - sizeHint();
-        subventana_->resize((propia + marco).boundedTo(disponible));
-        const QSize resto = disponible - subventana_->size();
-        const int paso = int(area_principal->subWindowList().size() - 1) * 24;
-        subventana_->move(std::min(paso, std::max(0, resto.width())), std::min(paso, std::max(0, resto.height())));
+        subventana_->resize((propia + marco).boundedTo(area_principal->viewport()->size()));
+        ubicar();
     }
     traerAlFrente();
     if (!primera)
         return;
+    if (subventana_)
+        lugar_ = subventana_->geometry();
     if (pedido && pedido->isVisible() && pedido->isEnabled())
         pedido->setFocus(Qt::OtherFocusReason);
     else
         enfocarPrimero();
+}
+
+// Where the user left it, unless it was in a larger window than there is now; else in steps from the upper left corner.
+void Formulario::ubicar()
+{
+    const QSize disponible = area_principal->viewport()->size();
+    const QVariantList dejado = preferencia(clave_lugar(this)).toList();
+    if (const QRect antes = dejado.value(0).toRect();
+        antes.isValid() && dejado.value(1).toSize() == dejado.value(1).toSize().boundedTo(disponible)) {
+        subventana_->setGeometry(antes);
+    } else {
+        const QSize resto = disponible - subventana_->size();
+        const int paso = int(area_principal->subWindowList().size() - 1) * 24;
+        subventana_->move(std::min(paso, std::max(0, resto.width())), std::min(paso, std::max(0, resto.height())));
+    }
+}
+
+// Only what the user changed: where nobody moved it, a form comes where it comes.
+void Formulario::guardarLugar() const
+{
+    if (!subventana_ || subventana_->isMaximized() || subventana_->isMinimized() || subventana_->geometry() == lugar_)
+        return;
+    recordar(clave_lugar(this), QVariantList{subventana_->geometry(), area_principal->viewport()->size()});
 }
 
 void Formulario::traerAlFrente()
@@ -125,6 +153,7 @@ void Formulario::closeEvent(QCloseEvent* evento)
         return;
     }
     descargada_ = true;
+    guardarLugar();
     alDescargar();
     abiertos.removeAll(QPointer<Formulario>(this));
     if (ultima_activa == this)

@@ -105,6 +105,8 @@ protected:
 
 private:
     void traerAlFrente();
+    void ubicar();
+    void guardarLugar() const;
     void activarse();
     void activarAnterior();
     [[nodiscard]] bool dejarCampo(QWidget* campo, bool sale);
@@ -115,6 +117,7 @@ private:
     void prepararControles();
 
     QPointer<QMdiSubWindow> subventana_;
+    QRect lugar_;  ///< of its window when it was shown
     bool descargada_ = false;
     bool preparada_ = false;
     bool porPrograma_ = false;  ///< the form unloads itself

@@ -5,9 +5,9 @@
 #include "widgets/pintor_celda.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 Grilla::Grilla(QWidget* padre) : QTableView(padre)
@@ -25,7 +25,28 @@ Grilla::Grilla(QWidget* padre) : QTableView(padre)
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicatorClearable(true);
+    setOrdenable(true);
     connect(this, &QTableView::doubleClicked, this, [this] { emit elegida(); });
+    connect(horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &Grilla::titularOrdenada);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int columna, int, int ancho) {
+        if (acomodando_)
+            return;
+        if (QApplication::mouseButtons() & Qt::LeftButton) {
+            arrastrada_ = true;
+            if (columna == elastica_)
+                propioElastica_ = ancho;
+        }
+        if (columna != elastica_)
+            acomodar();
+    });
+}
+
+void Grilla::setOrdenable(bool si)
+{
+    setSortingEnabled(si);
+    horizontalHeader()->setSortIndicatorShown(false);
 }
 
 namespace {
@@ -46,19 +67,48 @@ int ancho_columna(const QWidget* w, int twips)
     return int(pixeles(w, twips) * escala);
 }
 
-void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos)
+void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos, int elastica)
 {
-    grilla->preparar(titulos, anchos);
+    grilla->preparar(titulos, anchos, elastica);
 }
 
-void Grilla::preparar(const QStringList& titulos, const QList<int>& anchos)
+void Grilla::preparar(const QStringList& titulos, const QList<int>& anchos, int elastica)
 {
+    const QScopedValueRollback acomodando(acomodando_, true);
     modelo_.preparar(titulos);
     for (int i = 0; i < titulos.size(); ++i) {
         setColumnHidden(i, anchos.value(i) == 0);
         if (anchos.value(i) > 0)
             setColumnWidth(i, std::max(ancho_columna(this, anchos[i]), horizontalHeader()->sectionSizeHint(i)));
     }
+    const auto mayor = std::max_element(anchos.begin(), anchos.begin() + std::min(anchos.size(), titulos.size()));
+    elastica_ = elastica >= 0 ? elastica : int(mayor - anchos.begin());
+    propioElastica_ = columnWidth(elastica_);
+}
+
+// The elastic column takes what the others leave; where that is too little it gives up to half of its width.
+void Grilla::acomodar()
+{
+    if (elastica_ < 0 || horizontalHeader()->sectionResizeMode(elastica_) != QHeaderView::Interactive)
+        return;
+    const int otras = horizontalHeader()->length() - columnWidth(elastica_);
+    const int minimo = std::max(propioElastica_ / 2, horizontalHeader()->sectionSizeHint(elastica_));
+    const QScopedValueRollback acomodando(acomodando_, true);
+    setColumnWidth(elastica_, std::max(viewport()->width() - otras, minimo));
+}
+
+void Grilla::resizeEvent(QResizeEvent* evento)
+{
+    QTableView::resizeEvent(evento);
+    acomodar();
+}
+
+// The title of the column that sorts has an arrow, which wants room.
+void Grilla::titularOrdenada(int columna)
+{
+    horizontalHeader()->setSortIndicatorShown(columna >= 0);
+    if (columna >= 0 && columnWidth(columna) < horizontalHeader()->sectionSizeHint(columna))
+        setColumnWidth(columna, horizontalHeader()->sectionSizeHint(columna));
 }
 
 int Grilla::primeraVisible() const
@@ -131,20 +181,4 @@ void Grilla::keyPressEvent(QKeyEvent* evento)
         return;
     }
     QTableView::keyPressEvent(evento);
-}
-
-// The selected rows as lines of cells parted by tabs, hidden columns apart.
-void Grilla::copiar() const
-{
-    QModelIndexList filas_elegidas = selectionModel()->selectedRows(primeraVisible());
-    std::sort(filas_elegidas.begin(), filas_elegidas.end());
-    QStringList lineas;
-    for (const QModelIndex& fila : std::as_const(filas_elegidas)) {
-        QStringList celdas;
-        for (int c = 0; c < modelo_.columnCount(); ++c)
-            if (!isColumnHidden(c))
-                celdas << celda(fila.row(), c);
-        lineas << celdas.join(u'\t');
-    }
-    QApplication::clipboard()->setText(lineas.join(u'\n'));
 }

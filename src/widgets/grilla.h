@@ -15,8 +15,13 @@ class Grilla : public QTableView
 public:
     explicit Grilla(QWidget* padre = nullptr);
 
-    /// Titles, and widths in twips; a width of 0 hides the column.
-    void preparar(const QStringList& titulos, const QList<int>& anchos);
+    /// Titles, and widths in twips; a width of 0 hides the column. The widest column takes the room that is left, or
+    /// gives some of its own where there is too little, unless another one is named for that.
+    void preparar(const QStringList& titulos, const QList<int>& anchos, int elastica = -1);
+    /// Whether a click on a title sorts the rows by its column: up, down, as they were. They do from the start.
+    void setOrdenable(bool si);
+    /// Offers the list as a spreadsheet in its menu; the name that is proposed for the file.
+    void setPlanilla(const std::function<QString()>& nombre) { planilla_ = nombre; }
     /// Empties the grid and fills it by the function, which calls `agregar`. The row that was
     /// selected, known by its key cell, is selected again; when it is gone, the one that took its place. When the
     /// function throws, the rows that it added stay.
@@ -30,6 +35,8 @@ public:
     [[nodiscard]] int filas() const { return modelo_.rowCount(); }
     /// The current data row from 0, -1 without one.
     [[nodiscard]] int filaActual() const { return currentIndex().row(); }
+    /// The place of the current row among all as they were added, -1 without one: rows may have been sorted since.
+    [[nodiscard]] int filaLeida() const { return modelo_.filaLeida(filaActual()); }
     void irAFila(int fila, int columna = -1);
     [[nodiscard]] QString celda(int fila, int columna) const { return modelo_.texto(fila, columna); }
     void ponerCelda(int fila, int columna, const QString& texto) { modelo_.ponerTexto(fila, columna, texto); }
@@ -46,13 +53,30 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    void hideEvent(QHideEvent* evento) override;
 
 private:
+    void acomodar();
+    void titularOrdenada(int columna);
+    void recuperarAnchos();
+    void guardarAnchos();
+    [[nodiscard]] QString claveAnchos() const;
+    [[nodiscard]] QStringList celdasVisibles(int fila) const;
     void copiar() const;
+    void guardarPlanilla();
     [[nodiscard]] int primeraVisible() const;
 
     ModeloGrilla modelo_;
     int columnaClave_ = 0;
+    int elastica_ = -1;       ///< the column that takes the room that is left
+    int propioElastica_ = 0;  ///< its width where room is enough
+    bool acomodando_ = false;
+    bool arrastrada_ = false;  ///< the user gave a column another width
+    bool recuperada_ = false;
+    std::function<QString()> planilla_;
 };
 
 /// Pixels of a length in twips at the window's resolution.
@@ -61,4 +85,4 @@ private:
 [[nodiscard]] int ancho_columna(const QWidget* w, int twips);
 
 /// Titles and widths of a grid, as the forms set them.
-void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos);
+void preparar_grilla(Grilla* grilla, const QStringList& titulos, const QList<int>& anchos, int elastica = -1);

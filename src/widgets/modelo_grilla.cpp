@@ -2,20 +2,9 @@
 
 #include "widgets/modelo_grilla.h"
 
-namespace {
+#include "core/celdas.h"
 
-// Amounts and numbers stand at the right of their column.
-bool es_numerico(const QString& texto)
-{
-    if (texto.isEmpty() || texto.size() > 15)
-        return false;
-    for (const QChar c : texto)
-        if (!c.isDigit() && c != u'.' && c != u',' && c != u'-')
-            return false;
-    return true;
-}
-
-}  // namespace
+#include <algorithm>
 
 void ModeloGrilla::vaciar()
 {
@@ -23,6 +12,7 @@ void ModeloGrilla::vaciar()
     finales_.clear();
     cambiadas_.clear();
     colores_.clear();
+    orden_.clear();
     filas_ = 0;
 }
 
@@ -30,6 +20,7 @@ void ModeloGrilla::preparar(const QStringList& titulos)
 {
     beginResetModel();
     titulos_ = titulos;
+    ordenada_ = -1;
     vaciar();
     endResetModel();
 }
@@ -42,7 +33,53 @@ void ModeloGrilla::comenzar()
 
 void ModeloGrilla::terminar()
 {
+    ordenar();
     endResetModel();
+}
+
+// Where the rows stand that were added in this order.
+void ModeloGrilla::ordenar()
+{
+    orden_.clear();
+    if (ordenada_ < 0)
+        return;
+    QStringList celdas;
+    for (int fila = 0; fila < filas_; ++fila)
+        celdas << texto(fila, ordenada_);
+    std::vector<int> orden = orden_de_celdas(celdas);
+    if (sentido_ == Qt::DescendingOrder)
+        std::reverse(orden.begin(), orden.end());
+    orden_ = std::move(orden);
+}
+
+void ModeloGrilla::sort(int columna, Qt::SortOrder sentido)
+{
+    emit layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList antes = persistentIndexList();
+    std::vector<int> leidas;
+    for (const QModelIndex& i : antes)
+        leidas.push_back(filaLeida(i.row()));
+    ordenada_ = columna;
+    sentido_ = sentido;
+    ordenar();
+    std::vector<int> lugares(size_t(filas_), 0);
+    for (int fila = 0; fila < filas_; ++fila)
+        lugares[size_t(filaLeida(fila))] = fila;
+    QModelIndexList despues;
+    for (qsizetype n = 0; n < antes.size(); ++n)
+        despues << index(lugares[size_t(leidas[size_t(n)])], antes[n].column());
+    changePersistentIndexList(antes, despues);
+    emit layoutChanged({}, VerticalSortHint);
+}
+
+int ModeloGrilla::filaLeida(int fila) const
+{
+    return fila >= 0 && size_t(fila) < orden_.size() ? orden_[size_t(fila)] : fila;
+}
+
+quint32 ModeloGrilla::lugar(int fila, int columna) const
+{
+    return quint32(filaLeida(fila)) * quint32(titulos_.size()) + quint32(columna);
 }
 
 void ModeloGrilla::agregarCelda(std::string_view utf8)
@@ -67,20 +104,20 @@ void ModeloGrilla::agregar(std::span<const std::string_view> celdas)
 
 void ModeloGrilla::colorear(int fila, const Colores& colores)
 {
-    colores_.insert(fila, colores);
+    colores_.insert(filaLeida(fila), colores);
 }
 
-std::string_view ModeloGrilla::celda(quint32 lugar) const
+std::string_view ModeloGrilla::celda(quint32 cual) const
 {
-    const quint32 desde = lugar == 0 ? 0 : finales_[lugar - 1];
-    return {textos_.data() + desde, finales_[lugar] - desde};
+    const quint32 desde = cual == 0 ? 0 : finales_[cual - 1];
+    return {textos_.data() + desde, finales_[cual] - desde};
 }
 
 int ModeloGrilla::filaCon(int columna, const QString& texto) const
 {
     const std::string buscado = texto.toStdString();
     for (int fila = 0; fila < filas_; ++fila)
-        if (celda(quint32(fila) * quint32(titulos_.size()) + quint32(columna)) == buscado)
+        if (celda(lugar(fila, columna)) == buscado)
             return fila;
     return -1;
 }
@@ -89,16 +126,16 @@ QString ModeloGrilla::texto(int fila, int columna) const
 {
     if (fila < 0 || fila >= filas_ || columna < 0 || columna >= titulos_.size())
         return {};
-    const auto lugar = quint32(fila) * quint32(titulos_.size()) + quint32(columna);
-    if (const auto it = cambiadas_.find(lugar); it != cambiadas_.end())
+    const quint32 cual = lugar(fila, columna);
+    if (const auto it = cambiadas_.find(cual); it != cambiadas_.end())
         return *it;
-    const std::string_view utf8 = celda(lugar);
+    const std::string_view utf8 = celda(cual);
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
 void ModeloGrilla::ponerTexto(int fila, int columna, const QString& texto)
 {
-    cambiadas_[quint32(fila) * quint32(titulos_.size()) + quint32(columna)] = texto;
+    cambiadas_[lugar(fila, columna)] = texto;
     emit dataChanged(index(fila, columna), index(fila, columna));
 }
 
@@ -117,13 +154,13 @@ QVariant ModeloGrilla::data(const QModelIndex& indice, int rol) const
     switch (rol) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole: return texto(indice.row(), indice.column());
-    case Qt::TextAlignmentRole: return alineacion_[es_numerico(texto(indice.row(), indice.column()))];
+    case Qt::TextAlignmentRole: return alineacion_[parece_numero(texto(indice.row(), indice.column()))];
     case Qt::ForegroundRole:
-        if (const auto it = colores_.find(indice.row()); it != colores_.end() && it->texto.isValid())
+        if (const auto it = colores_.find(filaLeida(indice.row())); it != colores_.end() && it->texto.isValid())
             return it->texto;
         return {};
     case Qt::BackgroundRole:
-        if (const auto it = colores_.find(indice.row()); it != colores_.end() && it->fondo.isValid())
+        if (const auto it = colores_.find(filaLeida(indice.row())); it != colores_.end() && it->fondo.isValid())
             return it->fondo;
         return {};
     default: return {};

@@ -25,6 +25,7 @@ public:
     };
 
     void preparar(const QStringList& titulos);
+    [[nodiscard]] const QStringList& titulos() const { return titulos_; }
     /// Between both calls rows are added without the view following each.
     void comenzar();
     void terminar();
@@ -34,9 +35,13 @@ public:
     void colorear(int fila, const Colores& colores);
 
     [[nodiscard]] QString texto(int fila, int columna) const;
+    /// The place of a row among all as they were added.
+    [[nodiscard]] int filaLeida(int fila) const;
     /// The first row whose cell of the column holds this text, -1 without one.
     [[nodiscard]] int filaCon(int columna, const QString& texto) const;
     void ponerTexto(int fila, int columna, const QString& texto);
+    /// By the values of a column, from now on; -1 brings back the order in which the rows were added.
+    void sort(int columna, Qt::SortOrder sentido) override;
 
     int rowCount(const QModelIndex& padre = {}) const override;
     int columnCount(const QModelIndex& padre = {}) const override;
@@ -46,7 +51,9 @@ public:
 private:
     void vaciar();
     void agregarCelda(std::string_view utf8);
-    [[nodiscard]] std::string_view celda(quint32 lugar) const;
+    void ordenar();
+    [[nodiscard]] quint32 lugar(int fila, int columna) const;
+    [[nodiscard]] std::string_view celda(quint32 cual) const;
 
     QStringList titulos_;
     // Lists run to tens of thousands of rows: their texts lie end to end as they came from the
@@ -56,6 +63,9 @@ private:
     QHash<quint32, QString> cambiadas_;
     QHash<int, Colores> colores_;
     int filas_ = 0;
+    int ordenada_ = -1;  ///< the column by which the rows stand, -1 for none
+    Qt::SortOrder sentido_ = Qt::AscendingOrder;
+    std::vector<int> orden_;  ///< of the rows as they stand; empty when as they were added
     const QVariant alineacion_[2] = {QVariant::fromValue(Qt::AlignVCenter | Qt::AlignLeft),
                                      QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight)};
 };

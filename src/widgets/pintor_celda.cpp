@@ -38,6 +38,10 @@ const QStaticText& PintorCelda::letras(const QString& texto, const QFont& fuente
 
 void PintorCelda::paint(QPainter* pintor, const QStyleOptionViewItem& opcion, const QModelIndex& indice) const
 {
+    if (opcion.features & QStyleOptionViewItem::WrapText) {
+        QStyledItemDelegate::paint(pintor, opcion, indice);
+        return;
+    }
     const QStyle* estilo = opcion.widget ? opcion.widget->style() : QApplication::style();
     const bool elegida = opcion.state & QStyle::State_Selected;
     const QVariant fondo = indice.data(Qt::BackgroundRole);

@@ -3,7 +3,7 @@
 #include "application/aplicacion.h"
 
 #include <QLocale>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -15,8 +15,9 @@ int main(int argc, char** argv)
     // Not the program's own: what a form throws is to reach the test.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication aplicacion(argc, argv);
-    // What tests prefer is not what the user of this machine prefers.
-    QStandardPaths::setTestModeEnabled(true);
+    // What tests prefer is not what the user of this machine prefers, nor what the next test does.
+    const QTemporaryDir preferencias;
+    qputenv("XDG_CONFIG_HOME", preferencias.path().toLocal8Bit());
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     return RUN_ALL_TESTS();
 }

@@ -28,7 +28,8 @@ TEST_F(Pantallas, ListaDeDJFiltraYConservaLaFila)
     celda(f, "flx"_u, 1, 0);
     auto* grilla = control(f, "flx"_u);
     QTest::keyClick(grilla, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "20123456786261001\t101\tPÉREZ\t2026\t10\t1\tNORMAL\t"_u);
+    EXPECT_EQ(QApplication::clipboard()->text(), "DJ Nº\tAR Nº\tMunicipio\tAño\tMes\tRectif.\tEstado\tObservaciones\n"
+                                                 "20123456786261001\t101\tPÉREZ\t2026\t10\t1\tNORMAL\t"_u);
     escribir(f, "nroAnio"_u, "2026"_u);
     EXPECT_EQ(en_grilla(f, "flx"_u, 1, 0), "20123456786261001"_u);
     escribir(f, "nroAnio"_u, "2020"_u);

@@ -10,6 +10,7 @@
 #include "core/arranque.h"
 #include "core/cuidado.h"
 #include "core/modGlobales.h"
+#include "core/preferencias.h"
 #include "declarations/screens/frmDJ_buscar.h"
 #include "ui_MDIPrincipal.h"
 #include "widgets/formulario.h"
@@ -19,10 +20,17 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QLabel>
+#include <QScreen>
 
 #include <functional>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString VENTANA = u"ventanas/principal"_s;
+
+}  // namespace
 
 MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
 {
@@ -59,6 +67,22 @@ MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
 MDIPrincipal::~MDIPrincipal()
 {
     Formulario::fijarArea(nullptr);
+}
+
+// As the user left it, unless that was on a larger screen; else it fills the screen.
+void MDIPrincipal::presentar()
+{
+    const QVariantList dejada = preferencia(VENTANA).toList();
+    const QRect lugar = dejada.value(1).toRect();
+    const QSize pantalla = dejada.value(2).toSize();
+    if (lugar.isValid() && pantalla == pantalla.boundedTo(screen()->availableSize())) {
+        setGeometry(lugar);
+        if (!dejada.value(0).toBool()) {
+            show();
+            return;
+        }
+    }
+    showMaximized();
 }
 
 bool MDIPrincipal::iniciar()
@@ -105,6 +129,7 @@ void MDIPrincipal::closeEvent(QCloseEvent* evento)
     while (!formularios.isEmpty())
         if (!formularios.takeLast()->cerrar())
             return;
+    recordar(VENTANA, QVariantList{isMaximized(), normalGeometry(), screen()->availableSize()});
     cerrar_base();
     evento->accept();
 }

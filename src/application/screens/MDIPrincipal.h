@@ -22,6 +22,8 @@ public:
     /// is damaged: the failure has been told and the program ends.
     [[nodiscard]] bool iniciar();
 
+    /// Shows the window in the place and size in which the user left it.
+    void presentar();
     /// Sets the enabled state of the menu entry that opens the subconcept browser.
     void Hab_Deshab_Menu(bool habilitar);
 

@@ -18,7 +18,7 @@ namespace {
 
 QString cota(double valor)
 {
-    return valor == SIN_LIMITE ? u"Sin límite"_s : importe_llano(valor);
+    return valor == SIN_LIMITE ? u"Sin límite"_s : importe_agrupado(valor);
 }
 
 QString si_no(bool si)
@@ -26,11 +26,11 @@ QString si_no(bool si)
     return si ? u"Si"_s : u"No"_s;
 }
 
-// The bracket or role of the grid's current row, which stands in the order of the list.
+// The bracket or role of the grid's current row; the rows were added in the order of the list.
 template <class T>
 const T* elegido(const Grilla* grilla, const QList<T>& lista)
 {
-    const int fila = grilla->filaActual();
+    const int fila = grilla->filaLeida();
     return fila < 0 || fila >= lista.size() ? nullptr : &lista[fila];
 }
 
@@ -39,7 +39,7 @@ const T* elegido(const Grilla* grilla, const QList<T>& lista)
 void frmEditarSubconceptoSellos::prepararRangos()
 {
     preparar_grilla(ui->grillaAlicuotas, {u"Desde"_s, u"Hasta"_s, u"Alicuota"_s, u"Expresión"_s},
-                    {2000, 2000, 1600, 2000});
+                    {2000, 2000, 1600, 2000}, 3);
     preparar_grilla(ui->grillaModulos, {u"Desde"_s, u"Hasta"_s, u"Monto Impuesto"_s}, {2000, 2000, 2000});
     preparar_grilla(ui->grillaRoles,
                     {u"Id"_s, u"Descripción"_s, u"Interviene"_s, u"Obligado"_s, u"Requrido SM"_s, u"Depende de"_s,

@@ -23,6 +23,7 @@ frmSubconceptos::frmSubconceptos() : ui(std::make_unique<Ui::frmSubconceptos>())
     }
     preparar_grilla(ui->grilla, titulos, anchos);
     ui->grilla->setColumnaClave(COLUMNA_ID);
+    ui->grilla->setOrdenable(false);
     ui->grilla->horizontalHeader()->setSectionsClickable(true);
     llenar_combo(ui->cboConcepto, con_sin_filtro(conceptos_sellos()));
     ui->cboConcepto->setCurrentIndex(0);

@@ -41,8 +41,10 @@ frmDJ_detalle_op::~frmDJ_detalle_op() = default;
 
 void frmDJ_detalle_op::prepararGrillas()
 {
-    preparar_grilla(ui->flxVC, {u"Nro"_s, u"Monto"_s, u"Moneda"_s, u"Total"_s}, {800, 1400, 1400, 1400});
-    preparar_grilla(ui->flxInm, {u"NºInm"_s, u"Partida"_s, u"Val.Fiscal"_s}, {800, 1400, 1800});
+    preparar_grilla(ui->flxVC, {u"Nro"_s, u"Monto"_s, u"Moneda"_s, u"Total"_s}, {800, 1400, 1400, 1400}, 2);
+    preparar_grilla(ui->flxInm, {u"NºInm"_s, u"Partida"_s, u"Val.Fiscal"_s}, {800, 1400, 1800}, 1);
+    // Roles are typed into its cells.
+    ui->flxPartes->setOrdenable(false);
     preparar_grilla(ui->flxPartes,
                     {u"Id.Parte"_s, u"Tipo Doc"_s, u"Nro Doc"_s, u"Denominación"_s, u"Id.Rol"_s, u"Rol"_s,
                      u"Observaciones"_s, u"Exención %"_s},

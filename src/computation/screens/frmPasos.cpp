@@ -39,6 +39,7 @@ frmPasos::frmPasos() : ui(std::make_unique<Ui::frmPasos>())
     cerrarConEscape();
     preparar_grilla(ui->flxPasos, titulos_de_pasos(), {450, 2500, 5000, 1200, 1500});
     ui->flxPasos->setItemDelegateForColumn(COL_RESULTADO, new A_la_derecha(ui->flxPasos));
+    ui->flxPasos->setOrdenable(false);
     // A sum may take several lines.
     ui->flxPasos->setWordWrap(true);
     ui->flxPasos->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);

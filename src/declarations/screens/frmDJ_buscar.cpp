@@ -31,6 +31,7 @@ frmDJ_buscar::frmDJ_buscar() : ui(std::make_unique<Ui::frmDJ_buscar>())
         ui->flx,
         {u"DJ Nº"_s, u"AR Nº"_s, u"Municipio"_s, u"Año"_s, u"Mes"_s, u"Rectif."_s, u"Estado"_s, u"Observaciones"_s},
         {2200, 1000, 2800, 800, 800, 800, 1400, 2000});
+    ui->flx->setPlanilla([] { return u"declaraciones-juradas"_s; });
     cargar_agentes();
     ui->nroAnio->ClearText();
     ui->nroMes->ClearText();
@@ -189,10 +190,10 @@ void frmDJ_buscar::emitir()
     const auto pedir = [this, &dialogo](const QString& nombre) {
         dialogo.ocultarProgreso();
         const QString elegido = QFileDialog::getSaveFileName(
-            this, u"Guardar la declaración jurada"_s, QDir(ultima_carpeta()).filePath(nombre),
+            this, u"Guardar la declaración jurada"_s, QDir(ultima_carpeta(u"emision"_s)).filePath(nombre),
             u"Archivo comprimido (*.rar)"_s, nullptr, QFileDialog::DontConfirmOverwrite);
         if (!elegido.isEmpty())
-            recordar_carpeta(QFileInfo(elegido).absolutePath());
+            recordar_carpeta(u"emision"_s, elegido);
         return elegido;
     };
     if (!comprimir_dj(nro, dialogo, pedir))

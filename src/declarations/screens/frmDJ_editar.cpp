@@ -49,6 +49,8 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
         {u"NºRenglón"_s, u"Escritura"_s, u"Folio"_s, u"Dia"_s, u"Operación"_s, u"Observaciones"_s, u"Impuesto"_s},
         {0, 800, 600, 600, 3400, 1500, 1100});
     preparar_grilla(ui->flxB, {u"Nro boleta"_s, u"Importe"_s}, {2500, 1200});
+    ui->flxOp->setPlanilla([this] { return u"escrituras-"_s + ui->txtNroDJ->text(); });
+    ui->flxB->setPlanilla([this] { return u"boletas-"_s + ui->txtNroDJ->text(); });
     ui->dtpBOL_venc->setEnabled(false);
     ui->nroTotal_depositar->setValue(0);
     conectarBoletas();

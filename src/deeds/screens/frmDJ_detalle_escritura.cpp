@@ -4,6 +4,7 @@
 #include "deeds/screens/frmDJ_detalle.h"
 
 #include "core/modGlobales.h"
+#include "core/preferencias.h"
 #include "tree/modABM_dj.h"
 #include "ui_frmDJ_detalle.h"
 #include "widgets/ctlComunes.h"
@@ -89,10 +90,12 @@ void frmDJ_detalle::examinar()
 {
     QString filtro = u"Archivos PDF (*.pdf)"_s;
     const QString archivo = QFileDialog::getOpenFileName(
-        this, u"Testimonio"_s, ui->txtTestimonio->text(),
+        this, u"Testimonio"_s,
+        ui->txtTestimonio->text().isEmpty() ? ultima_carpeta(u"testimonio"_s) : ui->txtTestimonio->text(),
         u"Documentos de Word (*.doc);;Archivos de texto enriquecido (*.rtf);;Archivos PDF (*.pdf)"_s, &filtro);
     if (archivo.isEmpty())
         return;
+    recordar_carpeta(u"testimonio"_s, archivo);
     ui->txtTestimonio->setText(archivo);
     ui->txtTestimonio->end(false);
 }

@@ -3,6 +3,7 @@
 #include "printing/screens/frmReportes.h"
 
 #include "core/almacen.h"
+#include "core/preferencias.h"
 #include "printing/screens/rptRTN_boldep1.h"
 #include "printing/screens/rptSalida.h"
 #include "printing/screens/rpt_dj.h"
@@ -24,6 +25,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString ZOOM = u"reportes/zoom"_s;
 constexpr int ZOOM_ANCHO = 0;
 constexpr int ZOOM_PAGINA = 1;
 constexpr QLatin1StringView EXTENSION_PDF(".pdf");
@@ -42,7 +44,14 @@ frmReportes::frmReportes() : ui(std::make_unique<Ui::frmReportes>())
             descargar();
     });
     ui->tlb->boton(u"imprimir"_s)->setShortcuts({ui->tlb->boton(u"imprimir"_s)->shortcut(), QKeySequence::Print});
-    connect(ui->cboZoom, &QComboBox::activated, this, &frmReportes::cambiarZoom);
+    connect(ui->cboZoom, &QComboBox::activated, this, [this](int indice) {
+        cambiarZoom(indice);
+        recordar(ZOOM, ui->cboZoom->currentText());
+    });
+    if (const int dejado = ui->cboZoom->findText(preferencia(ZOOM).toString()); dejado >= 0) {
+        ui->cboZoom->setCurrentIndex(dejado);
+        cambiarZoom(dejado);
+    }
     connect(ui->spnPagina, &QSpinBox::editingFinished, this,
             [this] { ui->CRViewer91->irAPagina(ui->spnPagina->value() - 1); });
     connect(ui->cmdAnterior, &QPushButton::clicked, this,
@@ -157,7 +166,7 @@ bool frmReportes::guardarPDF(const QString& archivo)
 
 QString frmReportes::archivoPropuesto() const
 {
-    return QDir::home().filePath(nombre_ + EXTENSION_PDF);
+    return QDir(ultima_carpeta(u"pdf"_s)).filePath(nombre_ + EXTENSION_PDF);
 }
 
 void frmReportes::pedirPDF()
@@ -168,6 +177,7 @@ void frmReportes::pedirPDF()
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty())
         return;
     QString archivo = dialogo.selectedFiles().constFirst();
+    recordar_carpeta(u"pdf"_s, archivo);
     // The dialog takes what follows any point for an extension, and has not asked about this name.
     if (!archivo.endsWith(EXTENSION_PDF, Qt::CaseInsensitive)) {
         archivo += EXTENSION_PDF;
