@@ -73,7 +73,7 @@ void dj_a_pdf(benchmark::State& estado)
         estado, 1.5,
         [&] {
             rpt_dj informe(dj, CODIGO, u"v"_s);
-            if (!guardar_pdf(informe, dir.filePath(u"dj.pdf"_s), u"DJ"_s))
+            if (guardar_pdf(informe, dir.filePath(u"dj.pdf"_s), u"DJ"_s) != SalidaPDF::escrito)
                 std::abort();
         },
         [&] { textos_solos(dir.filePath(u"limite.pdf"_s), paginas); });

@@ -8,6 +8,7 @@
 #include "widgets/barra.h"
 #include "widgets/guardia.h"
 #include "widgets/mensajes.h"
+#include "widgets/vigia_pantalla.h"
 
 #include <QIcon>
 #include <QPalette>
@@ -30,6 +31,7 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
         colores.setColor(QPalette::Disabled, papel, QColor(Qt::darkGray).darker(130));
     setPalette(colores);
     instalar_espanol(this);
+    new VigiaPantalla(this);
 }
 
 bool Aplicacion::notify(QObject* objeto, QEvent* evento)

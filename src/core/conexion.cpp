@@ -8,6 +8,7 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <QFile>
+#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -17,6 +18,9 @@ namespace {
 
 constexpr int ESPERA_BLOQUEO_MS = 1500;
 constexpr size_t SENTENCIAS_GUARDADAS = 32;
+constexpr int PASOS_POR_LATIDO = 50000;  // of the engine's machine: about a millisecond
+
+Vigia* vigia_puesto = nullptr;
 
 // What the office is told of the engine's codes: the extended ones first, then their families.
 struct Palabras
@@ -41,6 +45,7 @@ constexpr Palabras PALABRAS[] = {
     {SQLITE_NOTADB, "El archivo no es una base de datos, está dañado o tiene otra contraseña."},
     {SQLITE_TOOBIG, "Un dato no entra en su lugar."},
     {SQLITE_MISMATCH, "Un dato no es del tipo que corresponde."},
+    {SQLITE_INTERRUPT, "Se canceló la consulta."},
     {SQLITE_NOMEM, "No hay memoria suficiente."},
 };
 
@@ -116,10 +121,20 @@ bool ErrorAlmacen::claveDuplicada() const
            || numero == SQLITE_CONSTRAINT_ROWID;
 }
 
+bool ErrorAlmacen::interrumpido() const
+{
+    return (numero & 0xff) == SQLITE_INTERRUPT;
+}
+
 bool ErrorAlmacen::ocupado() const
 {
     const int primario = numero & 0xff;
     return primario == SQLITE_BUSY || primario == SQLITE_LOCKED;
+}
+
+void fijar_vigia(Vigia* vigia)
+{
+    vigia_puesto = vigia;
 }
 
 Conexion::~Conexion()
@@ -159,6 +174,13 @@ void Conexion::conectar(const QString& ruta, const QString& clave, int modo)
         // A 4.x library writes another page format by default; the file is to move between both.
         sentenciaSimple("pragma cipher_compatibility = 3");
         registrar_funciones(base_);
+        sqlite3_progress_handler(
+            base_, PASOS_POR_LATIDO,
+            [](void* cn) {
+                const auto* yo = static_cast<const Conexion*>(cn);
+                return int(vigia_puesto && !vigia_puesto->sigue(yo->leyendo_ && !yo->enTransaccion()));
+            },
+            this);
     } catch (...) {
         sqlite3_close(base_);
         base_ = nullptr;
@@ -267,6 +289,13 @@ void Conexion::devolver(const QString& sql, sqlite3_stmt* sentencia)
         guardadas_.push_back({sql, sentencia});
     else
         sqlite3_finalize(sentencia);
+}
+
+// A step of a statement that reads.
+int Conexion::paso(sqlite3_stmt* lectura)
+{
+    const QScopedValueRollback leyendo(leyendo_, true);
+    return sqlite3_step(lectura);
 }
 
 void Conexion::sentenciaSimple(const char* sql)

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] bool claveDuplicada() const;
     /// Whether somebody else holds the file.
     [[nodiscard]] bool ocupado() const;
+    /// Whether the user ended it.
+    [[nodiscard]] bool interrumpido() const;
     /// Whether the file is damaged, no store any more, or gone.
     [[nodiscard]] bool perdido() const { return perdido_; }
 
@@ -35,6 +37,17 @@ private:
     friend class Conexion;
     bool perdido_;
 };
+
+/// Asked again and again while the engine is at work on a statement; it must not use the store. False ends the
+/// statement, where it only reads and nothing is half done (`cancelable`).
+class Vigia
+{
+public:
+    virtual ~Vigia() = default;
+    virtual bool sigue(bool cancelable) = 0;
+};
+/// Who is asked from now on; null for nobody.
+void fijar_vigia(Vigia* vigia);
 
 /// One connection to the store. Transactions nest: an inner one is a savepoint of the outer.
 class Conexion
@@ -89,11 +102,13 @@ private:
     sqlite3_stmt* prestar(const QString& sql);
     void devolver(const QString& sql, sqlite3_stmt* sentencia);
     void sentenciaSimple(const char* sql);
+    [[nodiscard]] int paso(sqlite3_stmt* lectura);
     [[nodiscard]] ErrorAlmacen falla() const;
     [[noreturn]] void fallar() const;
 
     sqlite3* base_ = nullptr;
     int nivel_ = 0;
+    bool leyendo_ = false;  ///< the statement at work only reads
     // Prepared statements between two uses; one that is lent leaves its place empty.
     struct Guardada
     {

@@ -18,9 +18,10 @@ namespace {
 
 constexpr qsizetype FALLAS_MOSTRADAS = 20;
 
+// What only reads, or writes a copy, may be ended; it begins anew at the next occasion.
 Progreso progreso_de(Dialogo& dialogo, const QString& que)
 {
-    return [&dialogo, que](qint64 hecho, qint64 total) { dialogo.progresar(que, hecho, total); };
+    return [&dialogo, que](qint64 hecho, qint64 total) { return dialogo.seguir(que, hecho, total); };
 }
 
 QString lineas_de(const std::exception& e)
@@ -73,6 +74,8 @@ std::optional<Revision> respaldar_hoy(Dialogo& dialogo, bool& fallo)
         // A store that can't be read is found so by its check.
         if (!e.perdido())
             avisar_sin_respaldo(dialogo, lineas_de(e));
+    } catch (const Cancelado&) {
+        throw;
     } catch (const ErrorTarea& e) {
         fallo = true;
         avisar_sin_respaldo(dialogo, lineas_de(e));
@@ -87,7 +90,10 @@ UltimoSano ultimo_respaldo_sano(const QString& almacen, Dialogo& dialogo)
     QList<Respaldo> lista = listar_respaldos(almacen);
     std::reverse(lista.begin(), lista.end());
     for (const Respaldo& r : lista)
-        if (revisar_archivo(r.archivo, progreso_de(dialogo, u"Se busca el último respaldo sano…"_s)).sana())
+        if (revisar_archivo(r.archivo, [&dialogo](qint64 hecho, qint64 total) {
+                dialogo.progresar(u"Se busca el último respaldo sano…"_s, hecho, total);
+                return true;
+            }).sana())
             return {u"El último respaldo sano es del %1."_s.arg(
                         fecha_corta(QDate::fromString(r.marca.first(10), Qt::ISODate))),
                     u"Para volver a él: respaldo restaurar %1"_s.arg(r.marca)};
@@ -115,6 +121,8 @@ bool cuidar_base(Dialogo& dialogo)
         avisar_sin_padre(dialogo, *r);
         if (!fallo && !copia_mala)
             anotar_revision(almacen, hoy());
+    } catch (const Cancelado&) {
+        return true;
     } catch (const std::exception& e) {
         avisar_sin_respaldo(dialogo, lineas_de(e));
     }
@@ -130,6 +138,8 @@ bool respaldar_antes(Dialogo& dialogo)
         if (r.sana())
             return true;
         motivo = u"La copia salió dañada.\n"_s + r.fallas.mid(0, FALLAS_MOSTRADAS).join(u'\n');
+    } catch (const Cancelado&) {
+        return false;
     } catch (const std::exception& e) {
         motivo = lineas_de(e);
     }

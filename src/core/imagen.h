@@ -6,8 +6,8 @@
 
 #include <functional>
 
-/// Told how far a long work is, in bytes of `total`. It must not throw.
-using Progreso = std::function<void(qint64 hecho, qint64 total)>;
+/// Told how far a long work is, in bytes of `total`; false ends it. It must not throw.
+using Progreso = std::function<bool(qint64 hecho, qint64 total)>;
 
 /// The bytes of an open store under a read transaction: one whole state, of the pages as they are encrypted on the
 /// disk. They are read by the connection's own handle, as the system would drop the engine's locks with any other

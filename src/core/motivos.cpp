@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+Cancelado::Cancelado() : ErrorTarea(u"Se canceló."_s) {}
+
 QString motivo_de_escritura(const ErrorAlmacen& e)
 {
     return e.ocupado() ? u"Otro usuario está utilizando en modo exclusivo los mismos datos que ud. Intente más tarde."_s

@@ -21,6 +21,13 @@ public:
     QString detalles;  ///< behind "Detalles"
 };
 
+/// A work that its user ended: nobody is told of it.
+class Cancelado : public ErrorTarea
+{
+public:
+    Cancelado();
+};
+
 /// What to tell of an error on a write: a store that somebody holds has words of its own, any other
 /// error the engine's.
 [[nodiscard]] QString motivo_de_escritura(const ErrorAlmacen& e);

@@ -25,7 +25,7 @@ Recordset::~Recordset()
 
 void Recordset::siguiente()
 {
-    const int rc = sqlite3_step(sentencia_);
+    const int rc = cn_.paso(sentencia_);
     if (rc != SQLITE_ROW && rc != SQLITE_DONE)
         cn_.fallar();
     eof_ = rc == SQLITE_DONE;

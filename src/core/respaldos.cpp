@@ -136,8 +136,8 @@ void copiar_imagen(Conexion& cn, ArchivoNuevo& copia, const Progreso& progreso)
     imagen.recorrer([&](const QByteArray& bloque) {
         copia.escribir(std::string_view(bloque.constData(), size_t(bloque.size())));
         copiados += bloque.size();
-        if (progreso)
-            progreso(copiados, imagen.bytes());
+        if (progreso && !progreso(copiados, imagen.bytes()))
+            throw Cancelado();
     });
     copia.cerrar();
 }

@@ -3,6 +3,7 @@
 #include "core/revision.h"
 
 #include "core/modGlobales.h"
+#include "core/motivos.h"
 #include "core/recordset.h"
 
 #include <sqlcipher/sqlite3.h>
@@ -71,12 +72,13 @@ void revisar_paginas(Conexion& cn, const Progreso& progreso, Revision& r)
     qint64 leidos = 0;
     imagen.recorrer([&](const QByteArray& bloque) {
         leidos += bloque.size();
-        if (progreso)
-            progreso(leidos, total);
+        if (progreso && !progreso(leidos, total))
+            throw Cancelado();
     });
     const Lecturas lecturas(cn.archivo(), [&](qint64 bytes) {
-        if (progreso)
-            progreso(std::min(imagen.bytes() + bytes, total), total);
+        // Here the engine is at work: it ends as soon as it asks.
+        if (progreso && !progreso(std::min(imagen.bytes() + bytes, total), total))
+            sqlite3_interrupt(cn.nativa());
     });
     for (Recordset rs(cn, u"pragma quick_check"_s); !rs.eof(); rs.siguiente())
         if (rs.texto(0) != u"ok")
@@ -95,6 +97,8 @@ Revision revisar(Conexion& cn, const Progreso& progreso)
     } catch (const ErrorAlmacen& e) {
         if (e.ocupado())
             throw;
+        if (e.interrumpido())
+            throw Cancelado();
         r.fallas << (e.motor.isEmpty() ? e.descripcion : e.motor);
     }
     return r;

@@ -17,7 +17,7 @@ struct Revision
 };
 
 /// Reads every page of the store from the disk and checks it and its relations; nothing is written. Throws ErrorAlmacen
-/// when somebody else holds the store.
+/// when somebody else holds the store, Cancelado when the progress ended it.
 [[nodiscard]] Revision revisar(Conexion& cn, const Progreso& progreso = {});
 
 /// The same for a file that is not open, which is opened for reading alone; one that does not open is damaged.

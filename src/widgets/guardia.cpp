@@ -17,9 +17,13 @@ bool con_guardia(QWidget* ventana, const std::function<void()>& accion, const st
     const int nivel = cnRtn.transacciones();
     const QPointer<QWidget> viva = ventana;
     // The box comes last: while it stands, nothing half done is held open.
-    const auto contar = [&](const Motivo& m) {
+    const auto deshacer = [&] {
         while (cnRtn.transacciones() > nivel)
             cnRtn.deshacer();
+        return false;
+    };
+    const auto contar = [&](const Motivo& m) {
+        deshacer();
         DialogoPantalla(viva).avisar({m.texto, viva ? viva->windowTitle() : QString(), Icono::exclamacion, m.detalles});
         return false;
     };
@@ -34,7 +38,9 @@ bool con_guardia(QWidget* ventana, const std::function<void()>& accion, const st
     } catch (const ErrorAlmacen& e) {
         if (e.perdido())
             throw;
-        return contar(motivo_de(e));
+        return e.interrumpido() ? deshacer() : contar(motivo_de(e));
+    } catch (const Cancelado&) {
+        return deshacer();
     } catch (const std::exception& e) {
         return contar(motivo_de(e));
     }

@@ -12,8 +12,11 @@
 
 using namespace Qt::StringLiterals;
 
+int VentanaProgreso::abiertas_ = 0;
+
 namespace {
 
+constexpr int ESPERA_PUNTERO_MS = 300;
 constexpr int ESPERA_MS = 500;
 constexpr int ENTRE_PINTADAS_MS = 60;
 constexpr int ANCHO = 420;
@@ -26,10 +29,17 @@ VentanaProgreso::VentanaProgreso(QWidget* padre, bool cancelable) : padre_(padre
     desde_.start();
 }
 
-VentanaProgreso::~VentanaProgreso() = default;
+VentanaProgreso::~VentanaProgreso()
+{
+    if (conPuntero_)
+        QGuiApplication::restoreOverrideCursor();
+    if (ventana_)
+        --abiertas_;
+}
 
 void VentanaProgreso::abrir()
 {
+    ++abiertas_;
     ventana_ = std::make_unique<QDialog>(padre_, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
     ventana_->setObjectName(u"progreso"_s);
     ventana_->setWindowTitle(u"VEDRA-RTN"_s);
@@ -39,7 +49,6 @@ void VentanaProgreso::abrir()
     ventana_->setMinimumWidth(ANCHO);
     rotulo_ = new QLabel;
     barra_ = new QProgressBar;
-    barra_->setRange(0, PASOS);
     auto* filas = new QVBoxLayout(ventana_.get());
     filas->addWidget(rotulo_);
     filas->addWidget(barra_);
@@ -56,12 +65,19 @@ void VentanaProgreso::abrir()
 
 bool VentanaProgreso::avanzar(const QString& que, qint64 hecho, qint64 total)
 {
-    if (desde_.elapsed() < ESPERA_MS || (pintada_.isValid() && pintada_.elapsed() < ENTRE_PINTADAS_MS))
+    const qint64 llevados = desde_.elapsed();
+    if (!conPuntero_ && llevados >= ESPERA_PUNTERO_MS) {
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        conPuntero_ = true;
+    }
+    if (llevados < ESPERA_MS || (pintada_.isValid() && pintada_.elapsed() < ENTRE_PINTADAS_MS))
         return !cancelado_;
     if (!ventana_)
         abrir();
     rotulo_->setText(que);
-    barra_->setValue(total > 0 ? int(PASOS * hecho / total) : 0);
+    barra_->setRange(0, total > 0 ? PASOS : 0);
+    if (total > 0)
+        barra_->setValue(int(PASOS * hecho / total));
     QApplication::processEvents(cancelable_ ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
     pintada_.start();
     return !cancelado_;

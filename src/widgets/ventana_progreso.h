@@ -11,7 +11,8 @@ class QLabel;
 class QProgressBar;
 class QWidget;
 
-/// Comes up once the work takes longer than half a second, and goes with the object.
+/// The pointer tells of a work after 0.3 s; the window comes up once it takes longer than half a second. Both go with the
+/// object.
 class VentanaProgreso
 {
 public:
@@ -21,16 +22,21 @@ public:
     VentanaProgreso(const VentanaProgreso&) = delete;
     VentanaProgreso& operator=(const VentanaProgreso&) = delete;
 
-    /// Shows what is done and how far it is; may be called as often as one likes. While the window stands, windows are
+    /// Shows what is done and how far it is (without a total, that it goes on); may be called as often as one likes. While the window stands, windows are
     /// painted, and what the user types or clicks elsewhere waits. False once the user cancelled.
     bool avanzar(const QString& que, qint64 hecho, qint64 total);
     [[nodiscard]] bool cancelable() const { return cancelable_; }
+    /// Whether one stands on the screen.
+    [[nodiscard]] static bool hay() { return abiertas_ > 0; }
 
 private:
     void abrir();
 
+    static int abiertas_;
+
     QWidget* padre_;
     bool cancelable_;
+    bool conPuntero_ = false;
     bool cancelado_ = false;
     QElapsedTimer desde_;
     QElapsedTimer pintada_;

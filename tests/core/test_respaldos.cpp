@@ -187,6 +187,20 @@ TEST_F(Respaldos, UnaBaseDaniadaTerminaSinTocarlaYNombraElUltimoSano)
     EXPECT_FALSE(QFile::exists(carpeta.path() + "/respaldos/vedra_rtn.nuevo"_u));
 }
 
+// What the user ends is told to nobody and is due again; what can't be undone is not done then.
+TEST_F(Respaldos, ElQueSeCancelaQuedaPendiente)
+{
+    oyente.hasta = "Se "_u;
+    EXPECT_TRUE(empezar(5));
+    EXPECT_FALSE(respaldar_antes(oyente));
+    EXPECT_EQ(copias(), QString());
+    EXPECT_TRUE(oyente.textos.isEmpty());
+    EXPECT_FALSE(QFile::exists(carpeta.path() + "/respaldos/vedra_rtn.nuevo"_u));
+    oyente.hasta.clear();
+    EXPECT_TRUE(empezar(5));
+    EXPECT_EQ(copias(), "05"_u);
+}
+
 TEST_F(Respaldos, LoQueTardaMuestraUnaVentanaConSuAvance)
 {
     const auto ventana = [] {
@@ -226,6 +240,7 @@ TEST_F(Respaldos, ElAvanceCreceHastaElFinal)
                     antes = hecho;
                     total = de;
                     ++veces;
+                    return true;
                 }).sana());
     EXPECT_GT(veces, 50);
     EXPECT_GT(antes, total * 3 / 4);

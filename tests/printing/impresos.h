@@ -28,7 +28,7 @@ protected:
     {
         nada_se_toca(informe);
         const QString archivo = carpeta.path() + "/informe.pdf"_u;
-        EXPECT_TRUE(guardar_pdf(informe, archivo, "T"_u));
+        EXPECT_EQ(guardar_pdf(informe, archivo, "T"_u), SalidaPDF::escrito);
         if (const QString papeles = qEnvironmentVariable("PAPELES"); !papeles.isEmpty()) {
             const auto* t = testing::UnitTest::GetInstance()->current_test_info();
             QFile::copy(

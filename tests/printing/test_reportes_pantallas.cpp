@@ -4,6 +4,7 @@
 #include "apoyo/pantallas.h"
 #include "printing/screens/ctlVistaPrevia.h"
 #include "printing/screens/frmReportes.h"
+#include "printing/screens/rpt_dj.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,6 +40,21 @@ TEST_F(Pantallas, VistaPreviaDeUnaDJLarga)
         EXPECT_FALSE(vista->grab().isNull());
     }
     EXPECT_FALSE(r->guardarPDF("/no/hay/carpeta.pdf"_u));
+}
+
+// What is ended halfway leaves the file that was there.
+TEST_F(Pantallas, ElPDFQueSeCancelaNoTocaElArchivo)
+{
+    const QString dj = nueva_dj();
+    for (int i = 1; i <= 300; ++i)
+        nueva_escritura(dj, i, i, i, 1);
+    const QString archivo = carpeta.filePath("dj.pdf"_u);
+    for (const int hasta : {0, 3}) {
+        rpt_dj informe(leer_dj_impresa(dj), "9DCABBEC95C60F7B69846C4A8513C009"_u, "v"_u);
+        EXPECT_EQ(guardar_pdf(informe, archivo, "T"_u, [&](int hechas, int) { return hechas < hasta; }),
+                  SalidaPDF::cancelado);
+        EXPECT_FALSE(QFile::exists(archivo));
+    }
 }
 
 // The keys scroll without a click on the page before, and End waits for the last page.

@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTimer>
 #include <QWheelEvent>
 
 namespace {
@@ -22,6 +21,7 @@ ctlVistaPrevia::ctlVistaPrevia(QWidget* padre) : QAbstractScrollArea(padre)
 {
     viewport()->setBackgroundRole(QPalette::Dark);
     setFocusPolicy(Qt::StrongFocus);
+    connect(&resto_, &QTimer::timeout, this, &ctlVistaPrevia::seguir);
 }
 
 ctlVistaPrevia::~ctlVistaPrevia() = default;
@@ -42,7 +42,7 @@ void ctlVistaPrevia::mostrar(std::shared_ptr<Informe> informe)
     paginas_ = 0;
     verticalScrollBar()->setValue(0);
     contar();
-    QTimer::singleShot(0, this, &ctlVistaPrevia::seguir);
+    resto_.start();
 }
 
 // The first page is there at once; the others come a few at a time.
@@ -57,9 +57,9 @@ void ctlVistaPrevia::contar()
 void ctlVistaPrevia::seguir()
 {
     if (!informe_ || informe_->completo())
-        return;
-    contar();
-    QTimer::singleShot(0, this, &ctlVistaPrevia::seguir);
+        resto_.stop();
+    else
+        contar();
 }
 
 void ctlVistaPrevia::fijarZoom(double zoom)

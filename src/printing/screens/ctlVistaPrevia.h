@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QTimer>
 
 #include <memory>
 
@@ -51,4 +52,5 @@ private:
     int paginas_ = 0;
     double escala_ = 3;  // pixels a millimetre
     Ajuste ajuste_ = Ajuste::ancho;
+    QTimer resto_;  // rings while pages are to be laid out
 };

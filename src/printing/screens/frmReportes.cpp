@@ -5,13 +5,13 @@
 #include "core/almacen.h"
 #include "core/preferencias.h"
 #include "printing/screens/rptRTN_boldep1.h"
-#include "printing/screens/rptSalida.h"
 #include "printing/screens/rpt_dj.h"
 #include "printing/screens/rpt_dj_sin_mov.h"
 #include "printing/screens/rpt_recibo.h"
 #include "printing/textos_escrituras.h"
 #include "ui_frmReportes.h"
 #include "widgets/ctlEspera.h"
+#include "widgets/mensajes.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -145,9 +145,14 @@ void frmReportes::imprimir()
     QPrinter impresora(QPrinter::HighResolution);
     impresora.setFullPage(true);
     impresora.setDocName(nombre_);
-    impresora.setFromTo(1, informe_->paginas());
+    DialogoPantalla progreso(this);
+    const int paginas = contar_paginas(*informe_, avance(progreso, u"Se preparan las páginas"_s));
+    progreso.ocultarProgreso();
+    if (paginas == 0)
+        return;
+    impresora.setFromTo(1, paginas);
     QPrintDialog dialogo(&impresora, this);
-    dialogo.setMinMax(1, informe_->paginas());
+    dialogo.setMinMax(1, paginas);
     dialogo.setOption(QAbstractPrintDialog::PrintPageRange);
     // Named beforehand on the printer itself, a file would take the place of the user's own printer.
     if (auto* archivo = dialogo.findChild<QLineEdit*>(u"filename"_s))
@@ -155,13 +160,28 @@ void frmReportes::imprimir()
     if (dialogo.exec() != QDialog::Accepted)
         return;
     const bool rango = impresora.printRange() == QPrinter::PageRange;
-    pintar_informe(*informe_, impresora, rango ? impresora.fromPage() - 1 : 0,
-                   rango ? impresora.toPage() : informe_->paginas());
+    if (!pintar_informe(*informe_, impresora, rango ? impresora.fromPage() - 1 : 0,
+                        rango ? impresora.toPage() : paginas, avance(progreso, u"Se imprime"_s)))
+        impresora.abort();
+}
+
+AvancePaginas frmReportes::avance(DialogoPantalla& dialogo, const QString& que) const
+{
+    return [&dialogo, que](int hechas, int total) {
+        return dialogo.seguir(total > 0 ? u"%1: página %2 de %3"_s.arg(que).arg(hechas).arg(total) : que + u"…"_s,
+                              hechas, total);
+    };
+}
+
+SalidaPDF frmReportes::escribirPDF(const QString& archivo)
+{
+    DialogoPantalla progreso(this);
+    return guardar_pdf(*informe_, archivo, windowTitle(), avance(progreso, u"Se guarda el PDF"_s));
 }
 
 bool frmReportes::guardarPDF(const QString& archivo)
 {
-    return guardar_pdf(*informe_, archivo, windowTitle());
+    return escribirPDF(archivo) == SalidaPDF::escrito;
 }
 
 QString frmReportes::archivoPropuesto() const
@@ -186,6 +206,6 @@ void frmReportes::pedirPDF()
                           windowTitle()))
             return;
     }
-    if (!guardarPDF(archivo))
+    if (escribirPDF(archivo) == SalidaPDF::fallido)
         avisar(u"No se pudo guardar "_s + QDir::toNativeSeparators(archivo), windowTitle(), Icono::exclamacion);
 }

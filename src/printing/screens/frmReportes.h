@@ -3,6 +3,7 @@
 // same pages.
 #pragma once
 
+#include "printing/screens/rptSalida.h"
 #include "widgets/formulario.h"
 
 #include <memory>
@@ -45,6 +46,8 @@ protected:
 private:
     void imprimir();
     void pedirPDF();
+    [[nodiscard]] AvancePaginas avance(class DialogoPantalla& dialogo, const QString& que) const;
+    [[nodiscard]] SalidaPDF escribirPDF(const QString& archivo);
     [[nodiscard]] QString archivoPropuesto() const;
     void cambiarZoom(int indice);
 

@@ -13,10 +13,19 @@
 namespace {
 
 constexpr int RESOLUCION_PDF = 1200;
+constexpr int PAGINAS_POR_VEZ = 10;
 
 }  // namespace
 
-void pintar_informe(Informe& informe, QPagedPaintDevice& papel, int desde, int hasta)
+int contar_paginas(Informe& informe, const AvancePaginas& avance)
+{
+    while (informe.adelantar(PAGINAS_POR_VEZ))
+        if (!avance(0, 0))
+            return 0;
+    return informe.paginas();
+}
+
+bool pintar_informe(Informe& informe, QPagedPaintDevice& papel, int desde, int hasta, const AvancePaginas& avance)
 {
     papel.setPageSize(QPageSize(QPageSize::A4));
     papel.setPageMargins({0, 0, 0, 0});
@@ -27,20 +36,28 @@ void pintar_informe(Informe& informe, QPagedPaintDevice& papel, int desde, int h
             papel.newPage();
         if (const auto pagina = informe.pagina(n))
             pintar_pagina(p, *pagina, escala);
+        if (!avance(n - desde + 1, hasta - desde))
+            return false;
     }
+    return true;
 }
 
-bool guardar_pdf(Informe& informe, const QString& archivo, const QString& titulo)
+SalidaPDF guardar_pdf(Informe& informe, const QString& archivo, const QString& titulo, const AvancePaginas& avance)
 {
     QSaveFile salida(archivo);
     if (!salida.open(QIODevice::WriteOnly))
-        return false;
-    {
+        return SalidaPDF::fallido;
+    bool entero = false;
+    if (const int paginas = contar_paginas(informe, avance); paginas > 0) {
         QPdfWriter pdf(&salida);
         pdf.setResolution(RESOLUCION_PDF);
         pdf.setTitle(titulo);
         pdf.setCreator(QCoreApplication::applicationName());
-        pintar_informe(informe, pdf, 0, informe.paginas());
+        entero = pintar_informe(informe, pdf, 0, paginas, avance);
     }
-    return salida.commit();
+    if (!entero) {
+        salida.cancelWriting();
+        return SalidaPDF::cancelado;
+    }
+    return salida.commit() ? SalidaPDF::escrito : SalidaPDF::fallido;
 }

@@ -4,10 +4,21 @@
 
 #include <QString>
 
+#include <functional>
+
 class Informe;
 class QPagedPaintDevice;
 
-/// Paints the pages from `desde` (0 is the first) up to `hasta`, which is not painted any more.
-void pintar_informe(Informe& informe, QPagedPaintDevice& papel, int desde, int hasta);
-/// Writes all pages as a PDF, aside and renamed; false when the file can't be written.
-[[nodiscard]] bool guardar_pdf(Informe& informe, const QString& archivo, const QString& titulo);
+/// Told of each page that is done, and of how many there are, 0 while that is not known; false ends the work.
+using AvancePaginas = std::function<bool(int hechas, int total)>;
+
+/// How many pages the report has; lays them out. 0 when it was ended.
+[[nodiscard]] int contar_paginas(Informe& informe, const AvancePaginas& avance);
+/// Paints the pages from `desde` (0 is the first) up to `hasta`, which is not painted any more; false when it was ended.
+[[nodiscard]] bool pintar_informe(Informe& informe, QPagedPaintDevice& papel, int desde, int hasta,
+                                  const AvancePaginas& avance);
+
+enum class SalidaPDF { escrito, fallido, cancelado };
+/// Writes all pages as a PDF, aside and renamed: unless it is written, what stood there stays.
+[[nodiscard]] SalidaPDF guardar_pdf(Informe& informe, const QString& archivo, const QString& titulo,
+                                    const AvancePaginas& avance = [](int, int) { return true; });
