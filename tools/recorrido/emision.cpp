@@ -41,6 +41,7 @@ void Mes::emitir(const QString& nro, const QString& nombre)
         auto* f = formulario("frmDJ_buscar");
         escribir(f, u"nroAnio"_s, u"20"_s + nro.mid(11, 2));
         buscarFila(f, nro);
+        g_.foto(u"lista"_s);
         const QString guardado = g_.carpeta() + u"/SRTN"_s + nro + u".rar"_s;
         Cajas::durante({}, [&] { pulsar(f, u"tlbDJ"_s, u"emitir"_s); }, {guardado});
         if (QFileInfo(guardado).size() == 0)

@@ -27,6 +27,7 @@ void Guia::paso(const QString& titulo, const std::function<void()>& accion)
 void Guia::foto(const QString& nombre)
 {
     foto(principal_, nombre);
+    imagenes_.tomar(nombre, principal_);
 }
 
 void Guia::foto(QWidget* ventana, const QString& nombre)

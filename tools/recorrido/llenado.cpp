@@ -106,6 +106,9 @@ void Mes::operacion(const OperacionPapel& o)
         nuevo_subconcepto(g_, f);
     }
     comprobar(u"subconcepto"_s, texto(f, u"txtSubconcepto"_s), QString::fromUtf8(o.titulo));
+    clic(f, u"cmdDetallesSSUB"_s);
+    g_.foto(u"detalles"_s);
+    clic(formulario("frmDetalleSSUB"), u"cmdCerrar"_s);
     pulsar(f, u"tlb"_s, u"guardar_op"_s);
     for (const ValorPapel& v : o.valores)
         valor(f, v);
@@ -129,6 +132,8 @@ void Mes::operacion(const OperacionPapel& o)
     pulsar(f, u"tlb"_s, u"salir"_s);
     comprobar(u"total de la escritura"_s, texto(formulario("frmDJ_detalle"), u"nroTotalImpuesto"_s),
               QString::fromUtf8(o.impuesto));
+    solapa(deed, u"SSTab1"_s, 0);
+    g_.foto(u"escritura-completa"_s);
 }
 
 void Mes::comoSeCalculo(QWidget* f, const QString& impuesto)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// recorrido [--carpeta CARPETA]: drives the real windows through one month on the sample store.
+// recorrido [--carpeta CARPETA] [--imagenes CARPETA]: drives the real windows through one month on the sample store.
 
 #include "application/aplicacion.h"
 #include "application/screens/MDIPrincipal.h"
@@ -54,6 +54,7 @@ int main(int argc, char** argv)
     argumentos.addHelpOption();
     argumentos.addOption(
         {u"carpeta"_s, u"Dónde dejar lo que hace."_s, u"carpeta"_s, QDir::currentPath() + u"/build/recorrido"_s});
+    argumentos.addOption({u"imagenes"_s, u"Dónde dejar las imágenes del manual."_s, u"carpeta"_s});
     argumentos.process(aplicacion);
     const QString carpeta = QDir(argumentos.value(u"carpeta"_s)).absolutePath();
     try {
@@ -67,8 +68,11 @@ int main(int argc, char** argv)
         principal.show();
         principal.activateWindow();
         QApplication::processEvents();
-        Guia guia(&principal, carpeta);
+        const QString imagenes = argumentos.value(u"imagenes"_s);
+        Guia guia(&principal, carpeta, imagenes.isEmpty() ? QString() : QDir(imagenes).absolutePath());
         Mes(principal, guia).correr();
+        if (const QStringList faltan = guia.imagenesQueFaltan(); !faltan.isEmpty())
+            throw Inesperado(u"faltan imágenes del manual: "_s + faltan.join(u", "_s));
         Cajas::durante({{u"¿Está seguro que desea salir del sistema?"_s, u"VEDRA-RTN"_s}}, [&] { principal.close(); });
         std::printf("\nEl mes está completo: %d pasos, %d imágenes.\nTodo quedó en %s\n", guia.pasos(), guia.fotos(),
                     qUtf8Printable(carpeta));

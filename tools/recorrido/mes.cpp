@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -15,12 +16,38 @@ using namespace manejo;
 
 void Mes::correr()
 {
+    g_.foto(u"inicio"_s);
     agentes();
     nuevaDJ();
     escrituras();
     lista();
     emitir(u"30712345671261000"_s, u"emision"_s);
     rectificar();
+    acercaDe();
+}
+
+void Mes::manual(QWidget* f)
+{
+    g_.paso(u"El manual, en la página del formulario"_s, [&] {
+        auto* campo = f->focusWidget();
+        QTest::keyClick(campo, Qt::Key_F1);
+        g_.foto(u"manual"_s);
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->inherits("frmManual"))
+                QTest::keyClick(w, Qt::Key_Escape);
+        principal_.activateWindow();
+        if (f->focusWidget() != campo)
+            throw Inesperado(u"el manual dejó el campo "_s + campo->objectName());
+    });
+}
+
+void Mes::acercaDe()
+{
+    g_.paso(u"Acerca de"_s, [&] {
+        menu("smAcercaDe");
+        g_.foto(u"acerca"_s);
+        clic(formulario("frmAcercaDe"), u"cmdAceptar"_s);
+    });
 }
 
 void Mes::menu(const char* nombre)
@@ -118,6 +145,7 @@ void Mes::lista()
         comprobar(u"escrituras"_s, QString::number(filas(f, u"flxOp"_s)), u"9"_s);
         comprobar(u"total retenido"_s, texto(f, u"nroTotalRetenido"_s), u"47.325,00"_s);
         g_.foto(u"dj-renglones"_s);
+        manual(f);
     });
     boletas();
     g_.paso(u"Cierra la DJ"_s, [&] { pulsar(formulario("frmDJ_editar"), u"tlbDJ"_s, u"salir"_s); });

@@ -58,9 +58,11 @@ private:
     void boletas();
     void emitir(const QString& nro, const QString& nombre);
     void rectificar();
+    void acercaDe();
 
     // One form each.
     void menu(const char* nombre);
+    void manual(QWidget* f);
     void escritura(const Papel& p);
     void aceptarEscritura(const QList<CajaEsperada>& cajas = {});
     void salirDeEscritura(const QList<CajaEsperada>& cajas = {});

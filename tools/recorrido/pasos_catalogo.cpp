@@ -92,6 +92,23 @@ void rol(Guia& g, QWidget* f, const char* descripcion, bool obligado)
     pulsar(r, u"toolbar"_s, u"aceptar"_s);
 }
 
+// The number of modules of an item with a fixed tax, looked at and left as it is.
+void modulos(Guia& g, QWidget* catalogo)
+{
+    buscar(catalogo, u"poder general"_s);
+    celda(catalogo, u"grilla"_s, 0, 1);
+    pulsar(catalogo, u"toolbar"_s, u"modificar"_s);
+    auto* f = formulario("frmEditarSubconceptoSellos");
+    pulsar(f, u"toolbar"_s, u"editar"_s);
+    solapa(f, u"SSTab1"_s, 2);
+    celda(f, u"grillaModulos"_s, 0, 0);
+    pulsar(f, u"tlbModulos"_s, u"modificar"_s);
+    g.foto(u"modulos"_s);
+    pulsar(formulario("frmEditarModulo"), u"toolbar"_s, u"cancelar"_s);
+    pulsar(f, u"toolbar"_s, u"cancelar"_s);
+    pulsar(f, u"toolbar"_s, u"salir"_s);
+}
+
 }  // namespace
 
 void nuevo_subconcepto(Guia& g, QWidget* operacion)
@@ -117,6 +134,7 @@ void nuevo_subconcepto(Guia& g, QWidget* operacion)
     g.foto(u"subconcepto-roles"_s);
     pulsar(f, u"toolbar"_s, u"aceptar"_s);
     pulsar(f, u"toolbar"_s, u"salir"_s);
+    modulos(g, catalogo);
     buscar(catalogo, u"patentes"_s);
     comprobar(u"hallados"_s, texto(catalogo, u"lblResultado"_s), u"1 registro"_s);
     tecla(catalogo, u"grilla"_s, Qt::Key_Return);

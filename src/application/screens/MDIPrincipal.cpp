@@ -3,6 +3,7 @@
 #include "application/screens/MDIPrincipal.h"
 
 #include "agents/screens/frmRTN_buscar.h"
+#include "application/screens/ayuda.h"
 #include "application/screens/frmAcercaDe.h"
 #include "application/screens/frmBackup.h"
 #include "application/screens/rotulo_ruta.h"
@@ -21,6 +22,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QScreen>
+#include <QToolButton>
 
 #include <functional>
 
@@ -62,6 +64,16 @@ MDIPrincipal::MDIPrincipal() : ui(std::make_unique<Ui::MDIPrincipal>())
     atender(ui->ssmBackup, [] { cargar<frmBackup>()->mostrar(); });
     atender(ui->smAcercaDe, [] { cargar<frmAcercaDe>()->mostrar(); });
     connect(ui->smSalir, &QAction::triggered, this, &QWidget::close);
+
+    auto* ayuda = new Ayuda(this);
+    auto* manual = new QToolButton;
+    manual->setObjectName(u"cmdManual"_s);
+    manual->setText(u"Manual (F1)"_s);
+    manual->setAutoRaise(true);
+    // A click takes the focus from no field, as F1 does not.
+    manual->setFocusPolicy(Qt::NoFocus);
+    connect(manual, &QToolButton::clicked, ayuda, &Ayuda::abrir);
+    ui->StatusBar->addPermanentWidget(manual);
 }
 
 MDIPrincipal::~MDIPrincipal()
