@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # cmake --install BUILD --prefix DIR makes a self-contained folder: program, configuration, store.
 install(TARGETS vedra_rtn crear_base leer_dj respaldo rar RUNTIME DESTINATION .)
+install(FILES ${CMAKE_BINARY_DIR}/manual/manual.pdf DESTINATION .)
 install(CODE [[
   set(carpeta "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
   if(NOT EXISTS "${carpeta}/vedra_rtn.cfg")

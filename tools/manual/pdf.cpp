@@ -11,6 +11,7 @@
 #include <QPdfWriter>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextFrame>
 
 #include <memory>
 #include <stdexcept>
@@ -25,6 +26,7 @@ constexpr qreal MARGEN_MM = 20;
 constexpr qreal PIE_MM = 8;
 constexpr int LETRA = 10;            // points
 constexpr qreal PUNTOS_IMAGEN = 96;  // dots an inch of the pictures
+constexpr int BORDE = 10;            // dots of the device
 constexpr qreal ALTO_IMAGEN = 0.6;   // of the page, at the most
 
 struct Capitulo
@@ -96,7 +98,7 @@ private:
                 return u"%1 (pág. %2)"_s.arg(t).arg(numero(a));
             })));
             ponerImagenes(*c.doc, c.pagina.archivo);
-            c.doc->setPageSize(caja_);
+            paginar(*c.doc);
             juntarTitulos(*c.doc);
             pagina += c.doc->pageCount();
         }
@@ -113,7 +115,16 @@ private:
                               .arg(c.desde);
         contenido_ = nuevo();
         contenido_->setHtml(html + u"</table>"_s);
-        contenido_->setPageSize(caja_);
+        paginar(*contenido_);
+    }
+
+    // Pictures begin a little above their line: the foot of a page is left free, and not painted.
+    void paginar(QTextDocument& doc) const
+    {
+        QTextFrameFormat marco = doc.rootFrame()->frameFormat();
+        marco.setBottomMargin(2 * BORDE);
+        doc.rootFrame()->setFrameFormat(marco);
+        doc.setPageSize(caja_);
     }
 
     // A line is never parted, and a picture is a line: it fits the page, and goes to the next one as a whole.
@@ -149,13 +160,15 @@ private:
     // A title does not stay behind at the foot of a page.
     void juntarTitulos(QTextDocument& doc) const
     {
-        const auto pagina = [&](const QTextBlock& b, bool fin) {
+        // A block begins where the one before ends, its first line perhaps on the next page.
+        const auto pagina = [&](const QTextBlock& b) {
             const QRectF r = doc.documentLayout()->blockBoundingRect(b);
-            return int((fin ? r.bottom() - 1 : r.top()) / caja_.height());
+            const qreal linea = b.layout()->lineCount() > 0 ? b.layout()->lineAt(0).y() : 0;
+            return int((r.top() + linea + 1) / caja_.height());
         };
         for (QTextBlock b = doc.begin(); b.isValid(); b = b.next()) {
             const QTextBlock sigue = b.next();
-            if (b.blockFormat().headingLevel() == 0 || !sigue.isValid() || pagina(sigue, false) == pagina(b, true))
+            if (b.blockFormat().headingLevel() == 0 || !sigue.isValid() || pagina(sigue) == pagina(b))
                 continue;
             QTextCursor cursor(b);
             QTextBlockFormat f = b.blockFormat();
@@ -184,7 +197,7 @@ private:
             const QRectF hoja(0, i * caja_.height(), caja_.width(), caja_.height());
             p.save();
             p.translate(0, -hoja.top());
-            p.setClipRect(hoja);
+            p.setClipRect(hoja.adjusted(0, -BORDE, 0, -BORDE));
             QAbstractTextDocumentLayout::PaintContext contexto;
             contexto.clip = hoja;
             contexto.palette.setColor(QPalette::Text, Qt::black);
