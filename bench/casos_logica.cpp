@@ -306,5 +306,5 @@ void registrar_logica()
     benchmark::RegisterBenchmark("copiar_dj_de_1000_escrituras", copia)
         ->UseManualTime()
         ->Unit(benchmark::kMillisecond)
-        ->Iterations(5);
+        ->Iterations(15);
 }

@@ -62,6 +62,8 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     Aplicacion aplicacion(argc, argv);
+    // Without a loop of events all cases would be one long wait, and its window would be painted over them.
+    fijar_vigia(nullptr);
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     registrar_logica();
     registrar_pantallas();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
 
 #include <memory>
 
@@ -34,7 +35,7 @@ private:
 
     static int abiertas_;
 
-    QWidget* padre_;
+    QPointer<QWidget> padre_;
     bool cancelable_;
     bool conPuntero_ = false;
     bool cancelado_ = false;

@@ -31,8 +31,11 @@ bool VigiaPantalla::sigue(bool cancelable)
 {
     if (preguntando_ || (VentanaProgreso::hay() && !ventana_))
         return true;
-    if (!ventana_ || !ultimo_.isValid() || ultimo_.elapsed() > PAUSA_MS || ventana_->cancelable() != cancelable)
+    if (!ventana_ || !ultimo_.isValid() || ultimo_.elapsed() > PAUSA_MS || ventana_->cancelable() != cancelable) {
+        // Its own window may be the active one: the next one is not to stand on that.
+        ventana_.reset();
         ventana_.emplace(QApplication::activeWindow(), cancelable);
+    }
     ultimo_.start();
     if (!fin_.isActive())
         fin_.start(0);
