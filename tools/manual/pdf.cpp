@@ -25,9 +25,11 @@ constexpr int RESOLUCION = 300;
 constexpr qreal MARGEN_MM = 20;
 constexpr qreal PIE_MM = 8;
 constexpr int LETRA = 10;            // points
-constexpr qreal PUNTOS_IMAGEN = 96;  // dots an inch of the pictures
-constexpr int BORDE = 10;            // dots of the device
-constexpr qreal ALTO_IMAGEN = 0.6;   // of the page, at the most
+constexpr qreal PUNTOS_IMAGEN = 96;  // dots an inch of a document's pictures
+constexpr qreal ESCALA_IMAGEN = 0.75;
+constexpr int VUELTAS = 10;
+constexpr int BORDE = 10;           // dots of the device
+constexpr qreal ALTO_IMAGEN = 0.6;  // of the page, at the most
 
 struct Capitulo
 {
@@ -52,8 +54,9 @@ public:
     void pintar()
     {
         // Numbers that get longer may move a line to the next page.
-        while (!disponer())
-            ;
+        for (int vez = 0; !disponer(); ++vez)
+            if (vez == VUELTAS)
+                throw std::runtime_error("las páginas no quedan en su lugar");
         QPainter p(&pdf_);
         p.setRenderHint(QPainter::LosslessImageRendering);
         portada(p);
@@ -142,9 +145,9 @@ private:
                 if (imagen.isNull())
                     throw std::runtime_error(archivo.toStdString() + ": no se puede leer " + f.name().toStdString());
                 doc.addResource(QTextDocument::ImageResource, QUrl(f.name()), imagen);
-                const QSizeF medida = imagen.width() > lugar.width() || imagen.height() > lugar.height()
-                                          ? QSizeF(imagen.size()).scaled(lugar, Qt::KeepAspectRatio)
-                                          : QSizeF(imagen.size());
+                QSizeF medida = QSizeF(imagen.size()) * ESCALA_IMAGEN;
+                if (medida.width() > lugar.width() || medida.height() > lugar.height())
+                    medida.scale(lugar, Qt::KeepAspectRatio);
                 f.setWidth(medida.width());
                 f.setHeight(medida.height());
                 QTextCursor cursor(&doc);

@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QTextDocument>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +27,11 @@ const QString EXTENSION = u".html"_s;
 constexpr int ANCHO_CONTENIDO = 290;
 constexpr int DATO_PAGINA = Qt::UserRole;
 constexpr int DATO_POSICION = Qt::UserRole + 1;
+
+QString pagina_de(const QUrl& fuente)
+{
+    return fuente.path().mid(RAIZ.size()).chopped(EXTENSION.size());
+}
 
 QString leer(const QString& archivo)
 {
@@ -104,7 +110,7 @@ bool frmManual::existe(const QString& pagina)
 
 QString frmManual::actual() const
 {
-    return ui->pagina->source().path().mid(RAIZ.size()).chopped(EXTENSION.size());
+    return pagina_de(ui->pagina->source());
 }
 
 void frmManual::ir(const QString& pagina)
@@ -114,10 +120,11 @@ void frmManual::ir(const QString& pagina)
         ui->pagina->setSource(QUrl(u"qrc:"_s + RAIZ + nombre + EXTENSION));
 }
 
-void frmManual::seguirEnArbol()
+// While the browser tells its change, its own source is still the page of before.
+void frmManual::seguirEnArbol(const QUrl& fuente)
 {
     const QSignalBlocker sin_ir(ui->arbol);
-    if (QTreeWidgetItem* hoja = hojas_.value(actual())) {
+    if (QTreeWidgetItem* hoja = hojas_.value(pagina_de(fuente))) {
         ui->arbol->setCurrentItem(hoja);
         ui->arbol->scrollToItem(hoja);
     }

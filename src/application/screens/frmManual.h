@@ -12,6 +12,7 @@ namespace Ui {
 class frmManual;
 }
 class QTreeWidgetItem;
+class QUrl;
 
 class frmManual : public QWidget
 {
@@ -32,7 +33,7 @@ private:
     void conectar();
     void buscar();
     void abrirHallado();
-    void seguirEnArbol();
+    void seguirEnArbol(const QUrl& fuente);
     [[nodiscard]] const QString& textoDe(const QString& pagina);
 
     std::unique_ptr<Ui::frmManual> ui;
