@@ -6,12 +6,13 @@
 #include "core/arranque.h"
 #include "core/modGlobales.h"
 #include "widgets/barra.h"
+#include "widgets/colores.h"
 #include "widgets/guardia.h"
 #include "widgets/mensajes.h"
 #include "widgets/vigia_pantalla.h"
 
 #include <QIcon>
-#include <QPalette>
+#include <QScopedValueRollback>
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,13 +26,19 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
     setApplicationVersion(QString::fromLatin1(RTN_VERSION));
     iniciar_recursos();
     setWindowIcon(QIcon(u":/iconos/programa.svg"_s));
-    // A form that is only read shows most of its fields disabled: they must stay easy to read.
-    QPalette colores = palette();
-    for (const auto papel : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        colores.setColor(QPalette::Disabled, papel, QColor(Qt::darkGray).darker(130));
-    setPalette(colores);
+    setPalette(con_deshabilitados_legibles(palette()));
     instalar_espanol(this);
     new VigiaPantalla(this);
+}
+
+bool Aplicacion::event(QEvent* evento)
+{
+    const bool hecho = QApplication::event(evento);
+    if (evento->type() == QEvent::ApplicationPaletteChange && !pintando_) {
+        const QScopedValueRollback una_vez(pintando_, true);
+        setPalette(con_deshabilitados_legibles(palette()));
+    }
+    return hecho;
 }
 
 bool Aplicacion::notify(QObject* objeto, QEvent* evento)

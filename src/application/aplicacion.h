@@ -16,4 +16,10 @@ public:
     /// Shows the error, with the details behind it, rolls back what is open, closes the connections and ends the program
     /// with status 1.
     [[noreturn]] static void terminar(const QString& error, const QString& detalles = {});
+
+protected:
+    bool event(QEvent* evento) override;
+
+private:
+    bool pintando_ = false;
 };

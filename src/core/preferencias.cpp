@@ -11,12 +11,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString fijado;
+
 QString archivo()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/preferencias.ini"_s;
+    return !fijado.isEmpty()
+               ? fijado
+               : QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + u"/preferencias.ini"_s;
 }
 
 }  // namespace
+
+void fijar_preferencias(const QString& archivo)
+{
+    fijado = archivo;
+}
 
 QVariant preferencia(const QString& clave)
 {

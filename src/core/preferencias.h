@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVariant>
 
+/// Keeps them in another file than that of the user.
+void fijar_preferencias(const QString& archivo);
 /// What was kept under a key ("columnas/…"); invalid when nothing was.
 [[nodiscard]] QVariant preferencia(const QString& clave);
 void recordar(const QString& clave, const QVariant& valor);

@@ -3,9 +3,9 @@
 #include "widgets/barra.h"
 
 #include "widgets/formulario.h"
+#include "widgets/icono.h"
 
 #include <QAction>
-#include <QIcon>
 
 #include <array>
 
@@ -56,6 +56,7 @@ constexpr std::array BOTONES{
 void iniciar_recursos()
 {
     Q_INIT_RESOURCE(recursos);
+    Q_INIT_RESOURCE(iconos_oscuros);
 }
 
 BarraHerramientas::BarraHerramientas(QWidget* padre) : QToolBar(padre)
@@ -87,7 +88,7 @@ void BarraHerramientas::setClaves(const QStringList& claves)
                                      [&](const Boton& b) { return clave == QLatin1StringView(b.clave); });
         Q_ASSERT(it != BOTONES.end());
         const QString titulo = QString::fromUtf8(it->titulo);
-        QAction* accion = addAction(QIcon(u":/iconos/%1.svg"_s.arg(QLatin1StringView(it->icono))), titulo);
+        QAction* accion = addAction(icono(QLatin1StringView(it->icono)), titulo);
         accion->setObjectName(clave);
         if (!secundaria_) {
             accion->setShortcut(QKeySequence::mnemonic(titulo));

@@ -4,6 +4,8 @@
 
 #include "core/almacen.h"
 #include "core/funciones_sql.h"
+#include "widgets/colores.h"
+#include "widgets/ctlComunes.h"
 #include "widgets/grilla.h"
 
 #include <QHeaderView>
@@ -51,6 +53,9 @@ ctlCombo::ctlCombo(QWidget* padre)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     txt_->installEventFilter(this);
     lvw_->installEventFilter(this);
+    nombrar_por(this, txt_);
+    nombrar_por(this, lvw_);
+    cmd_->setAccessibleName(u"Abrir la lista"_s);
 
     connect(cmd_, &QToolButton::clicked, this, [this] {
         abierta() ? Cerrarse() : abrir();
@@ -76,9 +81,7 @@ void ctlCombo::Habilitar(bool si)
 
 void ctlCombo::pintarFondo()
 {
-    QPalette p = palette();
-    p.setColor(QPalette::Base, p.color(QPalette::Active, cmd_->isEnabledTo(this) ? QPalette::Base : QPalette::Button));
-    txt_->setPalette(p);
+    pintar_fondo(txt_, cmd_->isEnabledTo(this));
 }
 
 void ctlCombo::Locked(bool si)

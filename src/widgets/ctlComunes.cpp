@@ -2,6 +2,8 @@
 
 #include "widgets/ctlComunes.h"
 
+#include "widgets/colores.h"
+
 #include "core/redondeo.h"
 
 #include <QAbstractButton>
@@ -55,14 +57,47 @@ void completar(QComboBox* combo)
 
 void pintar(QWidget* w, bool si)
 {
-    QPalette p = w->palette();
-    const QPalette base;
-    p.setColor(QPalette::Base, base.color(si ? QPalette::Base : QPalette::Button));
-    w->setPalette(p);
+    pintar_fondo(w, si);
     w->setEnabled(si);
 }
 
+// Asked for each time: the label's text may be another one by now.
+class Nombrador : public QObject
+{
+public:
+    Nombrador(QWidget* control, QWidget* parte) : QObject(parte), control_(control), parte_(parte)
+    {
+        parte->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override
+    {
+        if (evento->type() == QEvent::Show || evento->type() == QEvent::FocusIn)
+            parte_->setAccessibleName(nombre());
+        return QObject::eventFilter(objeto, evento);
+    }
+
+private:
+    [[nodiscard]] QString nombre() const
+    {
+        if (const QWidget* padre = control_->parentWidget(); padre && control_->accessibleName().isEmpty())
+            for (const auto* rotulo : padre->findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
+                if (rotulo->buddy() == control_)
+                    return rotulo->text();
+        return control_->accessibleName();
+    }
+
+    QWidget* control_;
+    QWidget* parte_;
+};
+
 }  // namespace
+
+void nombrar_por(QWidget* control, QWidget* parte)
+{
+    new Nombrador(control, parte);
+}
 
 void a_mayusculas(QLineEdit* texto)
 {

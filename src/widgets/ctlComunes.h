@@ -15,6 +15,10 @@ class QComboBox;
 class QLineEdit;
 class QWidget;
 
+/// A screen reader says the name of the whole control, its own or that of its label, also where a part of it has the
+/// focus.
+void nombrar_por(QWidget* control, QWidget* parte);
+
 /// Turns what is typed, pasted or set to capitals at once, the caret staying where it was.
 void a_mayusculas(QLineEdit* texto);
 /// Ticks or clears a box or an option, also the last option of its group.

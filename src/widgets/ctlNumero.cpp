@@ -2,6 +2,9 @@
 
 #include "widgets/ctlNumero.h"
 
+#include "widgets/colores.h"
+#include "widgets/ctlComunes.h"
+
 #include <QHBoxLayout>
 #include <QLineEdit>
 
@@ -20,6 +23,7 @@ ctlNumero::ctlNumero(QWidget* padre) : QWidget(padre), txt_(new QLineEdit(this))
     caja->addWidget(txt_);
     setFocusProxy(txt_);
     txt_->installEventFilter(this);
+    nombrar_por(this, txt_);
 
     // What the model wrote comes back with its own text; any other text is the user's.
     connect(txt_, &QLineEdit::textChanged, this, [this](const QString& texto) {
@@ -53,9 +57,7 @@ void ctlNumero::Habilitar(bool si)
 
 void ctlNumero::pintarFondo()
 {
-    QPalette p = palette();
-    p.setColor(QPalette::Base, p.color(QPalette::Active, Enabled() ? QPalette::Base : QPalette::Button));
-    txt_->setPalette(p);
+    pintar_fondo(txt_, Enabled());
 }
 
 bool ctlNumero::Negrita() const
@@ -68,11 +70,4 @@ void ctlNumero::setNegrita(bool si)
     QFont f = txt_->font();
     f.setBold(si);
     txt_->setFont(f);
-}
-
-void ctlNumero::changeEvent(QEvent* evento)
-{
-    QWidget::changeEvent(evento);
-    if (evento->type() == QEvent::PaletteChange)
-        pintarFondo();
 }

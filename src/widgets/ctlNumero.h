@@ -61,7 +61,6 @@ signals:
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
-    void changeEvent(QEvent* evento) override;
 
 private:
     bool tecla(const QString& texto);

@@ -5,6 +5,7 @@
 
 #include "core/preferencias.h"
 #include "widgets/grilla.h"
+#include "widgets/medidas.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -59,6 +60,8 @@ void Formulario::mostrar()
 {
     const bool primera = !isVisible();
     const QPointer<QWidget> pedido = focusWidget();
+    if (!std::exchange(medida_, true))
+        ajustar_a_letra(this);
     if (area_principal && !subventana_) {
         const QSize propia = size().expandedTo(minimumSizeHint());
         subventana_ = area_principal->addSubWindow(this);
@@ -79,13 +82,14 @@ void Formulario::mostrar()
         enfocarPrimero();
 }
 
-// Where the user left it, unless it was in a larger window than there is now; else in steps from the upper left corner.
+// Where the user left it, unless that was in a larger window than there is now, or for other letters; else in steps from the upper left corner.
 void Formulario::ubicar()
 {
     const QSize disponible = area_principal->viewport()->size();
     const QVariantList dejado = preferencia(clave_lugar(this)).toList();
     if (const QRect antes = dejado.value(0).toRect();
-        antes.isValid() && dejado.value(1).toSize() == dejado.value(1).toSize().boundedTo(disponible)) {
+        antes.isValid() && dejado.value(1).toSize() == dejado.value(1).toSize().boundedTo(disponible)
+        && qFuzzyCompare(dejado.value(2).toDouble(), escala_letra(this))) {
         subventana_->setGeometry(antes);
     } else {
         const QSize resto = disponible - subventana_->size();
@@ -99,7 +103,8 @@ void Formulario::guardarLugar() const
 {
     if (!subventana_ || subventana_->isMaximized() || subventana_->isMinimized() || subventana_->geometry() == lugar_)
         return;
-    recordar(clave_lugar(this), QVariantList{subventana_->geometry(), area_principal->viewport()->size()});
+    recordar(clave_lugar(this),
+             QVariantList{subventana_->geometry(), area_principal->viewport()->size(), escala_letra(this)});
 }
 
 void Formulario::traerAlFrente()

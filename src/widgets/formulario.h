@@ -119,6 +119,7 @@ private:
     QPointer<QMdiSubWindow> subventana_;
     QRect lugar_;  ///< of its window when it was shown
     bool descargada_ = false;
+    bool medida_ = false;  ///< for the size of its letters
     bool preparada_ = false;
     bool porPrograma_ = false;  ///< the form unloads itself
     BarraHerramientas* barra_ = nullptr;

@@ -2,6 +2,7 @@
 // Where a form's focus stands, and its keys.
 
 #include "widgets/barra.h"
+#include "widgets/colores.h"
 #include "widgets/ctlNumero.h"
 #include "widgets/formulario.h"
 #include "widgets/grilla.h"
@@ -64,13 +65,11 @@ void sin_control(QLineEdit* texto)
 }
 
 // A field that only shows has the colour of the window's face, and Tab passes it.
-void ajustar_solo_lectura(const QWidget* form, QLineEdit* texto)
+void ajustar_solo_lectura(QLineEdit* texto)
 {
     if (texto->objectName() == u"txt")
         return;
-    QPalette p = texto->palette();
-    p.setColor(QPalette::Base, form->palette().color(texto->isReadOnly() ? QPalette::Button : QPalette::Base));
-    texto->setPalette(p);
+    pintar_fondo(texto, !texto->isReadOnly());
     texto->setFocusPolicy(texto->isReadOnly() ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
@@ -86,7 +85,7 @@ void Formulario::prepararControles()
     const auto textos = findChildren<QLineEdit*>();
     for (QLineEdit* texto : textos) {
         if (texto->isReadOnly())
-            ajustar_solo_lectura(this, texto);
+            ajustar_solo_lectura(texto);
         texto->installEventFilter(this);
         connect(texto, &QLineEdit::textChanged, texto, [texto] { sin_control(texto); });
     }
@@ -107,7 +106,7 @@ bool Formulario::eventFilter(QObject* objeto, QEvent* evento)
         return true;
     }
     if (auto* texto = qobject_cast<QLineEdit*>(w); texto && evento->type() == QEvent::ReadOnlyChange)
-        ajustar_solo_lectura(this, texto);
+        ajustar_solo_lectura(texto);
     return QWidget::eventFilter(objeto, evento);
 }
 

@@ -33,11 +33,15 @@ Grilla::Grilla(QWidget* padre) : QTableView(padre)
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int columna, int, int ancho) {
         if (acomodando_)
             return;
-        if (QApplication::mouseButtons() & Qt::LeftButton) {
+        if (QApplication::mouseButtons() & Qt::LeftButton)
             arrastrada_ = true;
-            if (columna == elastica_)
-                propioElastica_ = ancho;
+        if (ancho == 0) {
+            // A column that is being hidden is so only when this is over.
+            QMetaObject::invokeMethod(this, &Grilla::acomodar, Qt::QueuedConnection);
+            return;
         }
+        if (columna < propios_.size())
+            propios_[columna] = ancho;
         if (columna != elastica_)
             acomodar();
     });
@@ -83,18 +87,37 @@ void Grilla::preparar(const QStringList& titulos, const QList<int>& anchos, int 
     }
     const auto mayor = std::max_element(anchos.begin(), anchos.begin() + std::min(anchos.size(), titulos.size()));
     elastica_ = elastica >= 0 ? elastica : int(mayor - anchos.begin());
-    propioElastica_ = columnWidth(elastica_);
+    propios_.resize(titulos.size());
+    for (int i = 0; i < titulos.size(); ++i)
+        propios_[i] = columnWidth(i);
 }
 
-// The elastic column takes what the others leave; where that is too little it gives up to half of its width.
+// The elastic column takes what the others leave. Where that is too little it gives up to half of its width, and then
+// the others give up what their titles don't need.
 void Grilla::acomodar()
 {
     if (elastica_ < 0 || horizontalHeader()->sectionResizeMode(elastica_) != QHeaderView::Interactive)
         return;
-    const int otras = horizontalHeader()->length() - columnWidth(elastica_);
-    const int minimo = std::max(propioElastica_ / 2, horizontalHeader()->sectionSizeHint(elastica_));
+    const int minimo = std::max(propios_[elastica_] / 2, horizontalHeader()->sectionSizeHint(elastica_));
+    const auto holgura = [this](int i) { return std::max(0, propios_[i] - horizontalHeader()->sectionSizeHint(i)); };
+    int otras = 0;
+    int ceden = 0;
+    for (int i = 0; i < propios_.size(); ++i)
+        if (i != elastica_ && !isColumnHidden(i)) {
+            otras += propios_[i];
+            ceden += holgura(i);
+        }
+    const int falta = std::clamp(otras + minimo - viewport()->width(), 0, ceden);
     const QScopedValueRollback acomodando(acomodando_, true);
+    for (int i = 0; i < propios_.size(); ++i)
+        if (i != elastica_ && !isColumnHidden(i)) {
+            const int cede = ceden > 0 ? (falta * holgura(i) + ceden - 1) / ceden : 0;
+            otras -= cede;
+            setColumnWidth(i, propios_[i] - cede);
+        }
     setColumnWidth(elastica_, std::max(viewport()->width() - otras, minimo));
+    // Else the bar below goes away only after it was seen.
+    updateGeometries();
 }
 
 void Grilla::resizeEvent(QResizeEvent* evento)

@@ -28,7 +28,7 @@ public:
     void llenar(const std::function<void()>& rellenar);
     void agregar(const QStringList& celdas) { modelo_.agregar(celdas); }
     void agregar(std::span<const std::string_view> celdas) { modelo_.agregar(celdas); }
-    void colorear(int fila, const ModeloGrilla::Colores& colores) { modelo_.colorear(fila, colores); }
+    void colorear(int fila, Tono tono) { modelo_.colorear(fila, tono); }
     void vaciar();
 
     /// Data rows; the titles do not count.
@@ -71,8 +71,8 @@ private:
 
     ModeloGrilla modelo_;
     int columnaClave_ = 0;
-    int elastica_ = -1;       ///< the column that takes the room that is left
-    int propioElastica_ = 0;  ///< its width where room is enough
+    int elastica_ = -1;   ///< the column that takes the room that is left
+    QList<int> propios_;  ///< the columns' widths where room is enough
     bool acomodando_ = false;
     bool arrastrada_ = false;  ///< the user gave a column another width
     bool recuperada_ = false;

@@ -116,10 +116,9 @@ void Grilla::recuperarAnchos()
     const QVariantList anchos = preferencia(claveAnchos()).toList();
     if (anchos.size() != modelo_.columnCount())
         return;
-    const QScopedValueRollback acomodando(acomodando_, true);
     for (int i = 0; i < int(anchos.size()); ++i)
         if (!isColumnHidden(i) && anchos[i].toInt() > 0)
-            setColumnWidth(i, anchos[i].toInt() * fontMetrics().horizontalAdvance(u'0') / 100);
+            propios_[i] = anchos[i].toInt() * fontMetrics().horizontalAdvance(u'0') / 100;
     acomodar();
 }
 
@@ -128,6 +127,6 @@ void Grilla::guardarAnchos()
     arrastrada_ = false;
     QVariantList anchos;
     for (int i = 0; i < modelo_.columnCount(); ++i)
-        anchos << (i == elastica_ ? propioElastica_ : columnWidth(i)) * 100 / fontMetrics().horizontalAdvance(u'0');
+        anchos << propios_[i] * 100 / fontMetrics().horizontalAdvance(u'0');
     recordar(claveAnchos(), anchos);
 }

@@ -2,15 +2,16 @@
 
 #include "widgets/marca_largo.h"
 
+#include "widgets/icono.h"
+
 #include <QAction>
-#include <QIcon>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
 void marcar_largo(QLineEdit* campo, int ancho)
 {
-    auto* marca = campo->addAction(QIcon(u":/iconos/largo.svg"_s), QLineEdit::TrailingPosition);
+    auto* marca = campo->addAction(icono(u"largo"_s), QLineEdit::TrailingPosition);
     marca->setObjectName(u"largo"_s);
     marca->setToolTip(u"La declaración jurada emitida toma %1 caracteres"_s.arg(ancho));
     const auto mirar = [campo, marca, ancho, tip = campo->toolTip()] {

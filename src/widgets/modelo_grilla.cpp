@@ -11,7 +11,7 @@ void ModeloGrilla::vaciar()
     textos_.clear();
     finales_.clear();
     cambiadas_.clear();
-    colores_.clear();
+    tonos_.clear();
     orden_.clear();
     filas_ = 0;
 }
@@ -102,9 +102,9 @@ void ModeloGrilla::agregar(std::span<const std::string_view> celdas)
     ++filas_;
 }
 
-void ModeloGrilla::colorear(int fila, const Colores& colores)
+void ModeloGrilla::colorear(int fila, Tono tono)
 {
-    colores_.insert(filaLeida(fila), colores);
+    tonos_.insert(filaLeida(fila), tono);
 }
 
 std::string_view ModeloGrilla::celda(quint32 cual) const
@@ -156,12 +156,12 @@ QVariant ModeloGrilla::data(const QModelIndex& indice, int rol) const
     case Qt::ToolTipRole: return texto(indice.row(), indice.column());
     case Qt::TextAlignmentRole: return alineacion_[parece_numero(texto(indice.row(), indice.column()))];
     case Qt::ForegroundRole:
-        if (const auto it = colores_.find(filaLeida(indice.row())); it != colores_.end() && it->texto.isValid())
-            return it->texto;
-        return {};
     case Qt::BackgroundRole:
-        if (const auto it = colores_.find(filaLeida(indice.row())); it != colores_.end() && it->fondo.isValid())
-            return it->fondo;
+        if (const auto it = tonos_.find(filaLeida(indice.row())); it != tonos_.end()) {
+            const Colores& c = colores_de(*it, QGuiApplication::palette());
+            const QColor& color = rol == Qt::ForegroundRole ? c.texto : c.fondo;
+            return color.isValid() ? QVariant(color) : QVariant();
+        }
         return {};
     default: return {};
     }

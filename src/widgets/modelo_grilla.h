@@ -2,8 +2,9 @@
 // The rows of a grid: texts, with a colour per row where one is set.
 #pragma once
 
+#include "widgets/colores.h"
+
 #include <QAbstractTableModel>
-#include <QColor>
 #include <QHash>
 
 #include <span>
@@ -18,12 +19,6 @@ class ModeloGrilla : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    struct Colores
-    {
-        QColor texto;
-        QColor fondo;
-    };
-
     void preparar(const QStringList& titulos);
     [[nodiscard]] const QStringList& titulos() const { return titulos_; }
     /// Between both calls rows are added without the view following each.
@@ -32,7 +27,7 @@ public:
     void agregar(const QStringList& celdas);
     /// A row of cells in UTF-8; the bytes are copied.
     void agregar(std::span<const std::string_view> celdas);
-    void colorear(int fila, const Colores& colores);
+    void colorear(int fila, Tono tono);
 
     [[nodiscard]] QString texto(int fila, int columna) const;
     /// The place of a row among all as they were added.
@@ -61,7 +56,7 @@ private:
     std::string textos_;
     std::vector<quint32> finales_;
     QHash<quint32, QString> cambiadas_;
-    QHash<int, Colores> colores_;
+    QHash<int, Tono> tonos_;
     int filas_ = 0;
     int ordenada_ = -1;  ///< the column by which the rows stand, -1 for none
     Qt::SortOrder sentido_ = Qt::AscendingOrder;

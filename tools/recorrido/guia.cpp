@@ -3,6 +3,7 @@
 #include "recorrido/guia.h"
 
 #include "manejo/manejo.h"
+#include "recorrido/revision.h"
 
 #include <QApplication>
 #include <QPixmap>
@@ -28,6 +29,10 @@ void Guia::foto(const QString& nombre)
 {
     foto(principal_, nombre);
     imagenes_.tomar(nombre, principal_);
+    if (revisa_)
+        for (const QString& falta : revisar_ventanas(principal_))
+            if (!faltas_.contains(falta))
+                faltas_ << falta;
 }
 
 void Guia::foto(QWidget* ventana, const QString& nombre)

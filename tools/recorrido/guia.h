@@ -24,6 +24,11 @@ public:
     /// Leaves a picture of another window.
     void foto(QWidget* ventana, const QString& nombre);
 
+    /// From now on the windows in view are looked over at each picture.
+    void revisar() { revisa_ = true; }
+    /// What that found, once each.
+    [[nodiscard]] const QStringList& faltas() const { return faltas_; }
+
     [[nodiscard]] QString carpeta() const { return carpeta_; }
     [[nodiscard]] int pasos() const { return pasos_; }
     [[nodiscard]] int fotos() const { return fotos_; }
@@ -36,4 +41,6 @@ private:
     ImagenesManual imagenes_;
     int pasos_ = 0;
     int fotos_ = 0;
+    bool revisa_ = false;
+    QStringList faltas_;
 };

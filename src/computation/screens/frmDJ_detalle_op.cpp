@@ -57,17 +57,16 @@ void frmDJ_detalle_op::prepararLeyendas()
     ui->tlbBI->ayuda(u"nuevo"_s, u"Nuevo valor contractual parcial"_s);
     ui->tlbBI->ayuda(u"editar"_s, u"Editar el valor contractual parcial seleccionado"_s);
     ui->tlbBI->ayuda(u"borrar"_s, u"Borrar el valor contractual parcial seleccionado"_s);
-    const QPalette p = palette();
-    for (const auto& [etiqueta, fondo, texto] :
-         {std::tuple{ui->lblObligado, p.color(QPalette::Base), p.color(QPalette::Highlight)},
-          std::tuple{ui->lblInformativo, p.color(QPalette::Base), p.color(QPalette::Text)},
-          std::tuple{ui->lblNoParticipaOp, p.color(QPalette::ToolTipBase), QColor(Qt::darkGray)}}) {
-        QPalette pe = p;
-        pe.setColor(QPalette::Window, fondo);
-        pe.setColor(QPalette::WindowText, texto);
+    for (const auto& [etiqueta, tono] :
+         {std::pair{ui->lblObligado, Tono::destacado}, std::pair{ui->lblInformativo, Tono::normal},
+          std::pair{ui->lblNoParticipaOp, Tono::apagado}}) {
         etiqueta->setAutoFillBackground(true);
-        etiqueta->setPalette(pe);
         etiqueta->setMargin(3);
+        con_paleta(etiqueta, [tono = tono](QPalette& p) {
+            const Colores& c = colores_de(tono, p);
+            p.setColor(QPalette::Window, c.fondo.isValid() ? c.fondo : p.color(QPalette::Base));
+            p.setColor(QPalette::WindowText, c.texto.isValid() ? c.texto : p.color(QPalette::Text));
+        });
     }
 }
 

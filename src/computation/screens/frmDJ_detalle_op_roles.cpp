@@ -97,16 +97,13 @@ QList<ParteRol> frmDJ_detalle_op::partesDeGrilla() const
 
 void frmDJ_detalle_op::colorearRoles()
 {
-    const QPalette p = palette();
     for (int i = 0; i < ui->flxPartes->filas(); ++i) {
         const QString texto = ui->flxPartes->celda(i, COL_ROL);
         const clsRol* rol = subconcepto_ ? subconcepto_->Roles().FindItem(texto) : nullptr;
-        ModeloGrilla::Colores colores;
-        if (texto.isEmpty() || ui->flxPartes->celda(i, COL_ID_ROL) == u"0")
-            colores = {QColor(Qt::darkGray), p.color(QPalette::ToolTipBase)};
-        else if (rol && rol->ParicipaImpuesto)
-            colores = {p.color(QPalette::Highlight), {}};
-        ui->flxPartes->colorear(i, colores);
+        const bool ausente = texto.isEmpty() || ui->flxPartes->celda(i, COL_ID_ROL) == u"0";
+        ui->flxPartes->colorear(i, ausente                        ? Tono::apagado
+                                   : rol && rol->ParicipaImpuesto ? Tono::destacado
+                                                                  : Tono::normal);
     }
     ui->flxPartes->viewport()->update();
 }

@@ -34,9 +34,10 @@ frmDJ_editar::frmDJ_editar() : ui(std::make_unique<Ui::frmDJ_editar>())
     numerar(ui->cboRectificativa, 0);
     numerar(ui->cboDJ_Estado, DJ_NORMAL);
     ui->cboDJ_Estado->setCurrentIndex(0);
-    ui->lblAviso->hide();
-    ui->lblCantIncompletos->hide();
-    ui->lblDiferencia->hide();
+    for (QLabel* aviso : {ui->lblAviso, ui->lblCantIncompletos, ui->lblDiferencia}) {
+        pintar_texto(aviso, Tono::alerta);
+        aviso->hide();
+    }
     seleccionar_item(ui->cboMes, hoy().month());
     ui->txtAnio->setText(QString::number(hoy().year()));
     seleccionar_item(ui->cboRectificativa, 0);

@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int COL_IMPUESTO = 6;
-const QColor ROJO(255, 0, 0);
 
 }  // namespace
 
@@ -51,7 +50,7 @@ void frmDJ_editar::cargar_detalle()
         leer_renglones(ui->txtNroDJ->text(), [&](const FilaRenglon& r) {
             ui->flxOp->agregar(std::span<const std::string_view>(r.celdas));
             if (r.incompleto) {
-                ui->flxOp->colorear(fila, {ROJO, {}});
+                ui->flxOp->colorear(fila, Tono::alerta);
                 ++incompletos;
             }
             ++fila;

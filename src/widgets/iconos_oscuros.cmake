@@ -1,0 +1,22 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The icons for dark desktops: those for light ones, color by color. Makes the resource file ${iconos_oscuros}.
+set(oscuros "#4a5568=#cbd5e0" "#e2e8f0=#4a5568" "#2b6cb0=#90cdf4" "#2f855a=#68d391" "#c53030=#fc8181" "#b7791f=#f6e05e"
+  "#ebf4ff=#2a4365" "#f0fff4=#22543d" "#f7fafc=#2d3748" "#fefcbf=#744210" "#fff=#1a202c")
+set(carpeta ${CMAKE_CURRENT_BINARY_DIR}/iconos/oscuro)
+file(GLOB iconos CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/iconos/*.svg)
+set(recursos "<RCC><qresource prefix=\"/iconos/oscuro\">\n")
+foreach(icono IN LISTS iconos)
+  get_filename_component(nombre ${icono} NAME)
+  file(READ ${icono} dibujo)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${icono})
+  foreach(par IN LISTS oscuros)
+    string(REPLACE "=" ";" par ${par})
+    list(GET par 0 claro)
+    list(GET par 1 oscuro)
+    string(REPLACE "\"${claro}\"" "\"${oscuro}\"" dibujo "${dibujo}")
+  endforeach()
+  file(CONFIGURE OUTPUT ${carpeta}/${nombre} CONTENT "${dibujo}" @ONLY)
+  string(APPEND recursos "<file alias=\"${nombre}\">${carpeta}/${nombre}</file>\n")
+endforeach()
+set(iconos_oscuros ${CMAKE_CURRENT_BINARY_DIR}/iconos/iconos_oscuros.qrc)
+file(CONFIGURE OUTPUT ${iconos_oscuros} CONTENT "${recursos}</qresource></RCC>\n" @ONLY)
