@@ -2,6 +2,7 @@
 
 #include "application/aplicacion.h"
 
+#include "application/tema_escritorio.h"
 #include "application/traduccion.h"
 #include "core/arranque.h"
 #include "core/modGlobales.h"
@@ -29,6 +30,7 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
     setPalette(con_deshabilitados_legibles(palette()));
     instalar_espanol(this);
     new VigiaPantalla(this);
+    new TemaEscritorio(this);
 }
 
 bool Aplicacion::event(QEvent* evento)

@@ -115,6 +115,36 @@ QPalette con_deshabilitados_legibles(QPalette paleta)
     return paleta;
 }
 
+QPalette paleta_oscura()
+{
+    QPalette p(QColor(49, 54, 59), QColor(42, 46, 50));
+    p.setColor(QPalette::Base, QColor(27, 30, 32));
+    p.setColor(QPalette::AlternateBase, QColor(35, 38, 41));
+    p.setColor(QPalette::Highlight, QColor(30, 110, 160));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::ToolTipBase, QColor(49, 54, 59));
+    p.setColor(QPalette::ToolTipText, Qt::white);
+    p.setColor(QPalette::Link, QColor(100, 180, 245));
+    p.setColor(QPalette::PlaceholderText, QColor(160, 165, 170));
+    return p;
+}
+
+QPalette paleta_contraste(bool oscura)
+{
+    const QColor letra = oscura ? Qt::white : Qt::black;
+    const QColor fondo = oscura ? Qt::black : Qt::white;
+    QPalette p(letra, fondo, letra, letra, mezclar(letra, fondo, 0.5), letra, fondo);
+    p.setColor(QPalette::Window, fondo);
+    p.setColor(QPalette::AlternateBase, fondo);
+    p.setColor(QPalette::Highlight, oscura ? QColor(Qt::yellow) : QColor(0, 0, 160));
+    p.setColor(QPalette::HighlightedText, fondo);
+    p.setColor(QPalette::ToolTipBase, fondo);
+    p.setColor(QPalette::ToolTipText, letra);
+    p.setColor(QPalette::Link, letra);
+    p.setColor(QPalette::PlaceholderText, letra);
+    return p;
+}
+
 void con_paleta(QWidget* w, const std::function<void(QPalette& propia)>& cambio)
 {
     static QPointer<Aviso> aviso;

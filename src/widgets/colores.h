@@ -31,6 +31,11 @@ struct Colores
 /// The palette with the texts of what is disabled readable: a form that is only read shows most of its fields so.
 [[nodiscard]] QPalette con_deshabilitados_legibles(QPalette paleta);
 
+/// Light letters on dark ground, for desktops that ask for it and bring no palette of their own.
+[[nodiscard]] QPalette paleta_oscura();
+/// White on black, or black on white.
+[[nodiscard]] QPalette paleta_contraste(bool oscura);
+
 /// Changes the palette of one widget, from that of the program, now and whenever the desktop's changes. A later call takes the place of this one.
 void con_paleta(QWidget* w, const std::function<void(QPalette& propia)>& cambio);
 /// A field's ground: that of fields, or of the window's face where nothing can be typed.

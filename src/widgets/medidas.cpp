@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QLayout>
+#include <QToolBar>
 #include <QWidget>
 
 namespace {
@@ -34,6 +35,8 @@ void ajustar_a_letra(QWidget* form)
     for (QWidget* w : controles) {
         w->setMaximumSize(ampliada(w->maximumSize(), escala));
         w->setMinimumSize(ampliada(w->minimumSize(), escala));
+        if (auto* barra = qobject_cast<QToolBar*>(w))
+            barra->setIconSize(ampliada(barra->iconSize(), escala));
     }
     // What is not in view yet does not tell its layouts, one within the other, of a new size.
     for (QWidget* w : controles)

@@ -14,9 +14,8 @@
 namespace {
 
 // Light, dark, and the two of high contrast.
-const QList<QPalette> ESCRITORIOS{QPalette(QColor(239, 239, 239)), QPalette(QColor(49, 54, 59), QColor(42, 46, 50)),
-                                  QPalette(Qt::yellow, Qt::black, Qt::gray, Qt::black, Qt::gray, Qt::yellow, Qt::black),
-                                  QPalette(Qt::black, Qt::white, Qt::gray, Qt::black, Qt::gray, Qt::black, Qt::white)};
+const QList<QPalette> ESCRITORIOS{QPalette(QColor(239, 239, 239)), paleta_oscura(), paleta_contraste(true),
+                                  paleta_contraste(false)};
 
 TEST(ComunesColores, TonosYDeshabilitadosSeLeenEnCadaEscritorio)
 {

@@ -10,6 +10,7 @@
 #include "manejo/manejo.h"
 #include "recorrido/guia.h"
 #include "recorrido/mes.h"
+#include "widgets/colores.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -48,17 +49,8 @@ void vestir(int letra, bool oscuro)
     QFont fuente = QApplication::font();
     fuente.setPointSizeF(fuente.pointSizeF() * letra / 100);
     QApplication::setFont(fuente);
-    if (!oscuro)
-        return;
-    QPalette p(QColor(49, 54, 59), QColor(42, 46, 50));
-    p.setColor(QPalette::Base, QColor(27, 30, 32));
-    p.setColor(QPalette::AlternateBase, QColor(35, 38, 41));
-    p.setColor(QPalette::Highlight, QColor(61, 174, 233));
-    p.setColor(QPalette::HighlightedText, QColor(252, 252, 252));
-    p.setColor(QPalette::ToolTipBase, QColor(49, 54, 59));
-    p.setColor(QPalette::ToolTipText, QColor(252, 252, 252));
-    p.setColor(QPalette::Link, QColor(29, 153, 243));
-    QApplication::setPalette(p);
+    if (oscuro)
+        QApplication::setPalette(paleta_oscura());
 }
 
 }  // namespace
