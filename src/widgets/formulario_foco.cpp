@@ -10,10 +10,12 @@
 
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 
@@ -103,6 +105,12 @@ bool Formulario::eventFilter(QObject* objeto, QEvent* evento)
     auto* w = qobject_cast<QWidget*>(objeto);
     if (w && evento->type() == QEvent::Wheel && !w->hasFocus() && !qobject_cast<QLineEdit*>(w)) {
         evento->ignore();
+        return true;
+    }
+    if (const auto* lista = qobject_cast<QComboBox*>(w);
+        lista && evento->type() == QEvent::ToolTip
+        && lista->fontMetrics().horizontalAdvance(lista->currentText()) + lista->height() > lista->width()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(), lista->currentText(), w);
         return true;
     }
     if (auto* texto = qobject_cast<QLineEdit*>(w); texto && evento->type() == QEvent::ReadOnlyChange)

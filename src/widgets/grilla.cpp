@@ -203,5 +203,7 @@ void Grilla::keyPressEvent(QKeyEvent* evento)
         emit elegida();
         return;
     }
+    if (evento->modifiers() == Qt::NoModifier && pulsarBarra(evento->key()))
+        return;
     QTableView::keyPressEvent(evento);
 }

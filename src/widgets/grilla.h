@@ -8,6 +8,8 @@
 
 #include <functional>
 
+class BarraHerramientas;
+
 class Grilla : public QTableView
 {
     Q_OBJECT
@@ -20,6 +22,9 @@ public:
     void preparar(const QStringList& titulos, const QList<int>& anchos, int elastica = -1);
     /// Whether a click on a title sorts the rows by its column: up, down, as they were. They do from the start.
     void setOrdenable(bool si);
+    /// The bar beside the list, whose buttons have no access keys: they stand in the list's menu, and Insert and Delete
+    /// press its first ones.
+    void setBarra(BarraHerramientas* barra) { barra_ = barra; }
     /// Offers the list as a spreadsheet in its menu; the name that is proposed for the file.
     void setPlanilla(const std::function<QString()>& nombre) { planilla_ = nombre; }
     /// Empties the grid and fills it by the function, which calls `agregar`. The row that was
@@ -66,6 +71,8 @@ private:
     [[nodiscard]] QString claveAnchos() const;
     [[nodiscard]] QStringList celdasVisibles(int fila) const;
     void copiar() const;
+    [[nodiscard]] bool pulsarBarra(int tecla);
+    void ordenarPorActual();
     void guardarPlanilla();
     [[nodiscard]] int primeraVisible() const;
 
@@ -77,6 +84,7 @@ private:
     bool arrastrada_ = false;  ///< the user gave a column another width
     bool recuperada_ = false;
     std::function<QString()> planilla_;
+    BarraHerramientas* barra_ = nullptr;
 };
 
 /// Pixels of a length in twips at the window's resolution.

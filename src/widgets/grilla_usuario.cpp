@@ -4,6 +4,7 @@
 #include "core/motivos.h"
 #include "core/planilla.h"
 #include "core/preferencias.h"
+#include "widgets/barra.h"
 #include "widgets/formulario.h"
 #include "widgets/grilla.h"
 #include "widgets/guardia.h"
@@ -49,10 +50,39 @@ void Grilla::copiar() const
     QApplication::clipboard()->setText(lineas.join(u'\n'));
 }
 
+bool Grilla::pulsarBarra(int tecla)
+{
+    static const QHash<int, QStringList> BOTONES{
+        {Qt::Key_Insert, {u"agregar"_s, u"alta"_s, u"nuevo"_s, u"generar"_s}},
+        {Qt::Key_Delete, {u"borrar"_s, u"quitar"_s}},
+    };
+    if (!barra_ || !BOTONES.contains(tecla))
+        return false;
+    barra_->pulsarPrimera(BOTONES[tecla]);
+    return true;
+}
+
+// As by a click on the title: up, down, as the rows were read.
+void Grilla::ordenarPorActual()
+{
+    QHeaderView* titulos = horizontalHeader();
+    const int columna = currentIndex().column();
+    const bool ya = titulos->sortIndicatorSection() == columna;
+    const bool baja = ya && titulos->sortIndicatorOrder() == Qt::DescendingOrder;
+    titulos->setSortIndicator(baja ? -1 : columna, ya && !baja ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
 void Grilla::contextMenuEvent(QContextMenuEvent* evento)
 {
     QMenu menu(this);
-    QAction* copia = menu.addAction(u"&Copiar"_s, this, &Grilla::copiar);
+    if (barra_) {
+        menu.addActions(barra_->actions());
+        menu.addSeparator();
+    }
+    if (isSortingEnabled() && currentIndex().isValid())
+        menu.addAction(u"O&rdenar por «%1»"_s.arg(modelo_.titulos()[currentIndex().column()]), this,
+                       &Grilla::ordenarPorActual);
+    QAction* copia = menu.addAction(u"C&opiar"_s, this, &Grilla::copiar);
     copia->setShortcut(QKeySequence::Copy);
     copia->setEnabled(selectionModel()->hasSelection());
     if (planilla_) {

@@ -113,6 +113,36 @@ TEST_F(Pantallas, LaListaSeGuardaComoPlanilla)
     EXPECT_EQ(ods.mid(30, 54), "mimetypeapplication/vnd.oasis.opendocument.spreadsheet");
 }
 
+// What the bars beside the lists do needs no mouse.
+TEST_F(Pantallas, ListasConElTeclado)
+{
+    const QString dj = nueva_dj();
+    nueva_escritura(dj, 1, 1, 1, 1);
+    cnRtn.ejecutar(
+        "insert into SEL_TB_RTN_INS_PARTES (SPIN_ID, SEDJ_NRO, SEDD_ID, GTDC_ID, SPIN_NRODOC, SPIN_RSOCIAL, SPIN_NACIONALIDAD) "
+        "values (1, '%1', 1, '80', '20123456786', 'UNO', 'A'), (2, '%1', 1, '96', '22333444', 'DOS', 'A')"_u.arg(dj));
+    QWidget* e = abrirEscritura(false);
+    pulsar(e, "tlbDetalle"_u, "cancelar"_u);
+    auto* partes = e->findChild<Grilla*>("flxPartes"_u);
+    tecla(e, "flxPartes"_u, Qt::Key_Insert);
+    pulsar(formulario("frmDJ_detalle_parte"), "tlb"_u, "cancelar"_u);
+    partes->irAFila(1, 2);
+    const auto menu_con = [&](Qt::Key letra) {
+        QTimer::singleShot(0, partes, [letra] { QTest::keyClick(QApplication::activePopupWidget(), letra); });
+        QContextMenuEvent pedido(QContextMenuEvent::Keyboard, {5, 5}, partes->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(partes, &pedido);
+    };
+    for (const char* primero : {"22333444", "20123456786", "20123456786"}) {
+        menu_con(Qt::Key_R);
+        EXPECT_EQ(partes->celda(0, 2), QLatin1StringView(primero));
+    }
+    Cajas::durante({{"¿Está seguro que desea quitar la parte seleccionada?"_u}},
+                   [&] { tecla(e, "flxPartes"_u, Qt::Key_Delete); });
+    EXPECT_EQ(partes->filas(), 1);
+    menu_con(Qt::Key_E);
+    pulsar(formulario("frmDJ_detalle_parte"), "tlb"_u, "cancelar"_u);
+}
+
 // The archive is opened by another program.
 TEST(Planilla, LosValoresSonValoresYLosTextosSonTextos)
 {

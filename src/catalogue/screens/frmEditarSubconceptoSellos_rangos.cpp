@@ -47,8 +47,10 @@ void frmEditarSubconceptoSellos::prepararRangos()
                     {1300, 2600, 1200, 900, 1200, 2000, 1200, 1600, 1200});
     for (const auto& [grilla, barra, clave] : {std::tuple{ui->grillaAlicuotas, ui->tlbAlicuotas, "modificar"},
                                                std::tuple{ui->grillaModulos, ui->tlbModulos, "modificar"},
-                                               std::tuple{ui->grillaRoles, ui->tlbRoles, "editar"}})
+                                               std::tuple{ui->grillaRoles, ui->tlbRoles, "editar"}}) {
+        grilla->setBarra(barra);
         atender(grilla, &Grilla::elegida, [barra = barra, clave = clave] { barra->pulsar(QLatin1StringView(clave)); });
+    }
     ui->fraModulos->hide();
 }
 

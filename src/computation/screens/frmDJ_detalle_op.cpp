@@ -93,6 +93,8 @@ void frmDJ_detalle_op::conectar()
     });
     atender(ui->cmdPasos, &QPushButton::clicked, &frmDJ_detalle_op::mostrarPasos);
     atender(ui->cmdBienes, &QPushButton::clicked, [this] { ui->flxInm->setVisible(!ui->flxInm->isVisible()); });
+    ui->flxVC->setBarra(ui->tlbBI);
+    ui->flxPartes->setBarra(ui->tlbPartes);
     atender(ui->flxInm, &QTableView::clicked, [this](const QModelIndex& i) { elegirInmueble(i.row()); });
     atender(ui->flxInm, &Grilla::elegida, [this] { elegirInmueble(ui->flxInm->filaActual()); });
 }

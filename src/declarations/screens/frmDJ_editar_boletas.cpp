@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 void frmDJ_editar::conectarBoletas()
 {
     atender(ui->tlbB, &BarraHerramientas::pulsada, &frmDJ_editar::tlbB_pulsada);
+    ui->flxB->setBarra(ui->tlbB);
     atender(ui->flxB, &Grilla::elegida, [this] { ui->tlbB->pulsar(u"imprimir"_s); });
     for (ctlNumero* n : {ui->nroImpuesto, ui->nroInteres})
         atender(n, &ctlNumero::cambiado, &frmDJ_editar::sumarDeposito);

@@ -22,6 +22,7 @@ constexpr int COL_IMPUESTO = 6;
 void frmDJ_editar::conectarRenglones()
 {
     atender(ui->tlbDetalle, &BarraHerramientas::pulsada, &frmDJ_editar::tlbDetalle_pulsada);
+    ui->flxOp->setBarra(ui->tlbDetalle);
     atender(ui->flxOp, &Grilla::elegida, [this] { ui->tlbDetalle->pulsar(u"editar"_s); });
 }
 

@@ -61,6 +61,9 @@ void frmDJ_detalle::conectar()
     atender(ui->tlbPartes, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbPartes_pulsada);
     atender(ui->tlbInm, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbInm_pulsada);
     atender(ui->tlbOp, &BarraHerramientas::pulsada, &frmDJ_detalle::tlbOp_pulsada);
+    ui->flxPartes->setBarra(ui->tlbPartes);
+    ui->flxInm->setBarra(ui->tlbInm);
+    ui->flxOp->setBarra(ui->tlbOp);
     atender(ui->flxPartes, &Grilla::elegida, [this] { ui->tlbPartes->pulsar(u"editar"_s); });
     atender(ui->flxInm, &Grilla::elegida, [this] { ui->tlbInm->pulsar(u"editar"_s); });
     atender(ui->flxOp, &Grilla::elegida, [this] { ui->tlbOp->pulsar(u"editar"_s); });
