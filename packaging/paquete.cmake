@@ -64,7 +64,8 @@ foreach(par "${empaque}/changelog.Debian" "${CMAKE_SOURCE_DIR}/CHANGELOG.md")
 endforeach()
 instalar(FILES packaging/copyright docs/RESPALDOS.md ${CMAKE_BINARY_DIR}/manual/manual.pdf DESTINATION ${doc})
 file(GLOB imagenes CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/*.png)
-instalar(FILES ${imagenes} DESTINATION ${doc}/imagenes)
+instalar(FILES ${imagenes} docs/manual/imagenes/ventana.png docs/manual/imagenes/subconcepto-general.png
+  DESTINATION ${doc}/imagenes)
 add_custom_target(archivos_paquete ALL DEPENDS ${iconos_png} ${comprimidos})
 add_dependencies(archivos_paquete manual_pdf)
 

@@ -18,6 +18,7 @@ struct ImagenManual
 
 inline constexpr std::array IMAGENES_MANUAL{
     ImagenManual{"principal", "inicio", "MDIPrincipal"},
+    ImagenManual{"ventana", "operacion-base", "MDIPrincipal"},
     ImagenManual{"agentes", "agentes", "frmRTN_buscar"},
     ImagenManual{"agente", "agente", "frmRTN_editar"},
     ImagenManual{"declaraciones", "lista", "frmDJ_buscar"},
