@@ -34,7 +34,8 @@ public:
         QDir base(carpeta_programa());
         base.mkdir(u"origen"_s);
         base.mkdir(u"destino"_s);
-        QFile::copy(QCoreApplication::applicationDirPath() + u"/rar"_s, base.filePath(u"rar"_s));
+        QFile::copy(ruta_herramienta(u"rar"_s, QCoreApplication::applicationDirPath()),
+                    ruta_herramienta(u"rar"_s, base.path()));
         QByteArray datos(bytes, Qt::Uninitialized);
         quint32 azar = 2463534242;
         for (int i = 1; i <= cuantos; ++i) {

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by ./run and ./test: installs what is missing on Debian 12, configures and builds.
 
-PAQUETES=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools libqt6svg6-dev libgl-dev
+PAQUETES=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-base-dev-tools qt6-svg-dev libgl-dev
   qt6-translations-l10n libsqlcipher-dev libzint-dev zlib1g-dev libzip-dev libgtest-dev libbenchmark-dev fonts-dejavu-core poppler-utils zbar-tools zxing-cpp-tools libarchive-tools)
 
 instalar_faltantes() {

@@ -1,15 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "core/motivo_sistema.h"
 #include "indice.h"
 #include "rar5.h"
-
-#include <fcntl.h>
-#include <unistd.h>
+#include "system/motivo_sistema.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <memory>
 #include <set>
 #include <stdexcept>
@@ -76,12 +72,13 @@ void poner_entrada(Archivo& a, IndiceRar& indice, EntradaRar e, const Origen& de
 
 void poner_archivo(Archivo& a, IndiceRar& indice, const std::string& ruta, const AvanceRar& avance)
 {
-    Archivo origen(ruta, O_RDONLY);
+    Archivo origen(ruta, sistema::Apertura::leer);
+    const sistema::Ficha ficha = origen.ficha();
     EntradaRar e;
     e.nombre = nombre_base(ruta);
-    e.largo = e.almacenado = origen.largo();
-    e.modificado = origen.modificado();
-    e.permisos = origen.permisos();
+    e.largo = e.almacenado = ficha.largo;
+    e.modificado = uint32_t(ficha.modificado);
+    e.permisos = ficha.permisos;
     poner_entrada(a, indice, e, {origen}, avance);
 }
 
@@ -106,20 +103,20 @@ class Aparte
 public:
     explicit Aparte(const std::string& archivo) : archivo_(archivo), aparte_(archivo + ".nuevo")
     {
-        unlink(aparte_.c_str());
-        salida_ = std::make_unique<Archivo>(aparte_, O_RDWR | O_CREAT | O_EXCL);
+        sistema::borrar(aparte_);
+        salida_ = std::make_unique<Archivo>(aparte_, sistema::Apertura::nuevo);
     }
     ~Aparte()
     {
         if (!aparte_.empty())
-            unlink(aparte_.c_str());
+            sistema::borrar(aparte_);
     }
     Aparte(const Aparte&) = delete;
     Aparte& operator=(const Aparte&) = delete;
     Archivo& salida() { return *salida_; }
     void ocupar()
     {
-        if (std::rename(aparte_.c_str(), archivo_.c_str()) != 0)
+        if (!sistema::renombrar(aparte_, archivo_))
             throw std::runtime_error(archivo_ + ": no se puede escribir (" + motivo_del_sistema(errno) + ")");
         aparte_.clear();
     }
@@ -141,7 +138,7 @@ void crear(const std::string& archivo, const std::vector<std::string>& archivos,
 
 // Writes the archive anew: one that another packer wrote, or a file takes the place of an earlier one. Entries of
 // other packers keep their headers, and such an archive has no index.
-void rehacer(const std::string& archivo, Archivo& anterior, const std::vector<std::string>& archivos,
+void rehacer(const std::string& archivo, std::unique_ptr<Archivo> anterior, const std::vector<std::string>& archivos,
              const AvanceRar& avance)
 {
     std::vector<EntradaRar> quedan = listar_rar(archivo);
@@ -161,9 +158,9 @@ void rehacer(const std::string& archivo, Archivo& anterior, const std::vector<st
         a.ir(indice.fin);
     for (const EntradaRar& e : quedan) {
         if (propio)
-            poner_entrada(a, indice, e, {anterior, e.datos}, callado);
+            poner_entrada(a, indice, e, {*anterior, e.datos}, callado);
         else
-            copiar({anterior, e.cabecera}, a, e.datos + e.almacenado - e.cabecera, [](uint64_t) {});
+            copiar({*anterior, e.cabecera}, a, e.datos + e.almacenado - e.cabecera, [](uint64_t) {});
     }
     if (!propio)
         indice = {0, a.lugar()};
@@ -174,14 +171,17 @@ void rehacer(const std::string& archivo, Archivo& anterior, const std::vector<st
         a.recortar();
     }
     a.asegurar();
+    // Where what is open keeps its name the lock goes a moment earlier.
+    if (!sistema::SE_REEMPLAZA_ABIERTO)
+        anterior.reset();
     nuevo.ocupar();
 }
 
 // Opens the archive for this process alone; nothing when there is none.
 std::unique_ptr<Archivo> abrir(const std::string& archivo)
 {
-    while (access(archivo.c_str(), F_OK) == 0) {
-        auto a = std::make_unique<Archivo>(archivo, O_RDWR);
+    while (sistema::existe(archivo)) {
+        auto a = std::make_unique<Archivo>(archivo, sistema::Apertura::escribir);
         a->trabar();
         // Another process may have put a new one in its place meanwhile.
         if (a->es(archivo))
@@ -203,7 +203,7 @@ void sin_repetidos(const std::vector<std::string>& archivos)
 void agregar_rar(const std::string& archivo, const std::vector<std::string>& archivos, const AvanceRar& avance)
 {
     sin_repetidos(archivos);
-    const auto a = abrir(archivo);
+    auto a = abrir(archivo);
     if (!a)
         return crear(archivo, archivos, avance);
     const auto indice = leer_indice(*a);
@@ -212,7 +212,7 @@ void agregar_rar(const std::string& archivo, const std::vector<std::string>& arc
                             return b && !b->esta;
                         });
     if (!nuevos)
-        return rehacer(archivo, *a, archivos, avance);
+        return rehacer(archivo, std::move(a), archivos, avance);
     a->soloDelUsuario();
     continuar(*a, *indice, archivos, avance);
 }

@@ -2,14 +2,15 @@
 // A file by its descriptor; every failure throws std::runtime_error with the file's name.
 #pragma once
 
+#include "system/sistema.h"
+
 #include <cstdint>
 #include <string>
 
 class Archivo
 {
 public:
-    /// Opens it with the flags of open(2); one that is made is for the user alone, whatever the umask.
-    Archivo(std::string ruta, int modo);
+    Archivo(std::string ruta, sistema::Apertura como);
     ~Archivo();
     Archivo(const Archivo&) = delete;
     Archivo& operator=(const Archivo&) = delete;
@@ -19,9 +20,9 @@ public:
     void escribir(const void* que, size_t cuantos);
     void ir(uint64_t lugar);
     [[nodiscard]] uint64_t lugar() const { return lugar_; }
-    [[nodiscard]] uint64_t largo() const;
-    [[nodiscard]] uint32_t modificado() const;
-    [[nodiscard]] uint32_t permisos() const;
+    [[nodiscard]] uint64_t largo() const { return ficha().largo; }
+    /// Throws for what is no file, too.
+    [[nodiscard]] sistema::Ficha ficha() const;
     /// To the disk, before a rename makes it count.
     void asegurar();
     /// Ends the file at its place.

@@ -2,10 +2,10 @@
 // rar a -y ARCHIVE FILE… | rar t ARCHIVE | rar l ARCHIVE
 
 #include "rar5.h"
+#include "system/sistema.h"
 #include "visible.h"
 
 #include <cinttypes>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -45,7 +45,12 @@ int listar(const std::string& archivo)
         const std::time_t t = e.modificado;
         char fecha[20] = {};
         std::tm partes{};
-        std::strftime(fecha, sizeof fecha, "%d/%m/%Y %H:%M", localtime_r(&t, &partes));
+#ifdef _WIN32
+        localtime_s(&partes, &t);
+#else
+        localtime_r(&t, &partes);
+#endif
+        std::strftime(fecha, sizeof fecha, "%d/%m/%Y %H:%M", &partes);
         std::printf("%14llu  %s  %08X  %s\n", static_cast<unsigned long long>(e.largo), fecha, e.crc,
                     visible(e.nombre).c_str());
     }
@@ -72,9 +77,9 @@ int terminar(int estado)
 
 int main(int argc, char** argv)
 {
-    const std::vector<std::string> a(argv + 1, argv + argc);
+    const std::vector<std::string> a = sistema::argumentos(argc, argv);
     // Who listened to the progress may be gone; the archive is made all the same.
-    std::signal(SIGPIPE, SIG_IGN);
+    sistema::preparar_salidas();
     try {
         if (a.size() >= 4 && a[0] == "a" && a[1] == "-y") {
             agregar_rar(a[2], {a.begin() + 3, a.end()}, contar);

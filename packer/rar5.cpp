@@ -2,8 +2,6 @@
 
 #include "rar5.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <cstring>
 #include <memory>
@@ -15,7 +13,7 @@ constexpr size_t BLOQUE = 1 << 20;
 
 std::vector<EntradaRar> listar_rar(const std::string& archivo)
 {
-    Archivo a(archivo, O_RDONLY);
+    Archivo a(archivo, sistema::Apertura::leer);
     unsigned char firma[sizeof FIRMA_RAR] = {};
     if (a.leer(firma, sizeof firma) != sizeof firma || std::memcmp(firma, FIRMA_RAR, sizeof firma) != 0)
         throw std::runtime_error(archivo + ": no es un archivo RAR 5");
@@ -34,7 +32,7 @@ bool leer_entrada(const std::string& archivo, const EntradaRar& entrada,
 {
     if (!entrada.guardada)
         throw std::runtime_error(archivo + ": " + entrada.nombre + " está comprimido");
-    Archivo a(archivo, O_RDONLY);
+    Archivo a(archivo, sistema::Apertura::leer);
     a.ir(entrada.datos);
     const auto bufer = std::make_unique<char[]>(BLOQUE);
     uint32_t crc = 0;

@@ -2,17 +2,17 @@
 
 #include "application/aplicacion.h"
 
-#include "application/tema_escritorio.h"
+#include "application/escritorio.h"
 #include "application/traduccion.h"
 #include "core/arranque.h"
 #include "core/modGlobales.h"
 #include "widgets/barra.h"
 #include "widgets/colores.h"
 #include "widgets/guardia.h"
+#include "widgets/icono.h"
 #include "widgets/mensajes.h"
 #include "widgets/vigia_pantalla.h"
 
-#include <QIcon>
 #include <QScopedValueRollback>
 
 #include <cstdio>
@@ -21,16 +21,16 @@
 
 using namespace Qt::StringLiterals;
 
-Aplicacion::Aplicacion(int& argc, char** argv) : QApplication(argc, argv)
+Aplicacion::Aplicacion(int& argc, char** argv) : QApplication((preparar_escritorio(), argc), argv)
 {
     setApplicationName(u"VEDRA-RTN"_s);
     setApplicationVersion(QString::fromLatin1(RTN_VERSION));
     iniciar_recursos();
-    setWindowIcon(QIcon(u":/iconos/programa.svg"_s));
+    setWindowIcon(icono(u"programa"_s));
     setPalette(con_deshabilitados_legibles(palette()));
     instalar_espanol(this);
     new VigiaPantalla(this);
-    new TemaEscritorio(this);
+    seguir_escritorio(this);
 }
 
 bool Aplicacion::event(QEvent* evento)

@@ -93,7 +93,8 @@ public:
 void instalar_espanol(QObject* duenio)
 {
     auto* propio = new QTranslator(duenio);
-    if (propio->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (propio->load(u"qtbase_es"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))
+        || propio->load(u":/traducciones/qtbase_es"_s))
         QCoreApplication::installTranslator(propio);
     QCoreApplication::installTranslator(new Faltantes(duenio));
 }

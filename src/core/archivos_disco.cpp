@@ -2,17 +2,14 @@
 
 #include "core/archivos_disco.h"
 
-#include "core/motivo_sistema.h"
+#include "system/motivo_sistema.h"
+#include "system/sistema.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cstdio>
+#include <cerrno>
 #include <future>
 #include <memory>
 #include <utility>
@@ -21,16 +18,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr mode_t SOLO_DEL_USUARIO = 0600;
-constexpr mode_t CARPETA_DEL_USUARIO = 0700;
 constexpr size_t BLOQUE = 1 << 20;
 constexpr qint64 POR_VEZ = 16 << 20;
 constexpr std::chrono::milliseconds ENTRE_LATIDOS{30};
 constexpr QStringView NO_COPIADO = u"No se pudo copiar ";
 
-QByteArray nombre(const QString& ruta)
+std::string nombre(const QString& ruta)
 {
-    return QFile::encodeName(ruta);
+    return ruta.toStdString();
 }
 
 QString carpeta_de(const QString& archivo)
@@ -45,19 +40,19 @@ QString carpeta_de(const QString& archivo)
 
 void renombrar(const QString& de, const QString& a)
 {
-    if (std::rename(nombre(de).constData(), nombre(a).constData()) != 0)
+    if (!sistema::renombrar(nombre(de), nombre(a)))
         fallar_al_escribir(a);
 }
 
 // A file that is open for reading.
 struct Descriptor
 {
-    explicit Descriptor(const QString& ruta) : fd(open(nombre(ruta).constData(), O_RDONLY | O_CLOEXEC))
+    explicit Descriptor(const QString& ruta) : fd(sistema::abrir(nombre(ruta), sistema::Apertura::leer))
     {
         if (fd < 0)
             throw ErrorDisco(NO_COPIADO.toString(), ruta, errno);
     }
-    ~Descriptor() { close(fd); }
+    ~Descriptor() { sistema::cerrar(fd); }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     int fd;
@@ -72,10 +67,9 @@ public:
     // Empty at the end.
     std::string_view leer()
     {
-        ssize_t n = -1;
-        while ((n = read(archivo_.fd, bloque_.get(), BLOQUE)) < 0)
-            if (errno != EINTR)
-                throw ErrorDisco(NO_COPIADO.toString(), ruta_, errno);
+        const int64_t n = sistema::leer(archivo_.fd, bloque_.get(), BLOQUE);
+        if (n < 0)
+            throw ErrorDisco(NO_COPIADO.toString(), ruta_, errno);
         return {bloque_.get(), size_t(n)};
     }
 
@@ -98,32 +92,27 @@ ArchivoNuevo::ArchivoNuevo(const QString& destino, Asegurar asegurar)
 {
 }
 
-// A stick may keep no modes: that one can't be set is no failure.
 ArchivoNuevo::ArchivoNuevo(const QString& destino, Asegurar asegurar, const QString& aparte)
     : destino_(destino), aparte_(aparte), asegurar_(asegurar)
 {
-    const QByteArray ruta = nombre(aparte_);
-    unlink(ruta.constData());
-    fd_ = open(ruta.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, SOLO_DEL_USUARIO);
+    sistema::borrar(nombre(aparte_));
+    fd_ = sistema::abrir(nombre(aparte_), sistema::Apertura::nuevo);
     if (fd_ < 0)
         fallar_al_escribir(destino_);
-    (void)fchmod(fd_, SOLO_DEL_USUARIO);
 }
 
 ArchivoNuevo::~ArchivoNuevo()
 {
     if (fd_ >= 0)
-        close(fd_);
+        sistema::cerrar(fd_);
     if (!aparte_.isEmpty())
-        unlink(nombre(aparte_).constData());
+        sistema::borrar(nombre(aparte_));
 }
 
 void ArchivoNuevo::escribir(std::string_view bytes)
 {
     while (!bytes.empty()) {
-        const ssize_t n = write(fd_, bytes.data(), bytes.size());
-        if (n < 0 && errno == EINTR)
-            continue;
+        const int64_t n = sistema::escribir(fd_, bytes.data(), bytes.size());
         if (n <= 0)
             fallar_al_escribir(destino_);
         bytes.remove_prefix(size_t(n));
@@ -132,7 +121,7 @@ void ArchivoNuevo::escribir(std::string_view bytes)
 
 void ArchivoNuevo::adelantar()
 {
-    if (asegurar_ == Asegurar::si && fsync(fd_) != 0)
+    if (asegurar_ == Asegurar::si && !sistema::asegurar(fd_))
         fallar_al_escribir(destino_);
 }
 
@@ -141,8 +130,7 @@ void ArchivoNuevo::cerrar()
     if (fd_ < 0)
         return;
     adelantar();
-    const int fd = std::exchange(fd_, -1);
-    if (close(fd) != 0 && errno != EINTR)
+    if (!sistema::cerrar(std::exchange(fd_, -1)))
         fallar_al_escribir(destino_);
 }
 
@@ -158,13 +146,10 @@ void ArchivoNuevo::ocupar()
 // The earlier one keeps a second name meanwhile, so that its place is never empty.
 Sustitucion::Sustitucion(const QString& nuevo, const QString& destino) : nuevo_(nuevo), destino_(destino)
 {
-    struct stat s
-    {
-    };
-    if (lstat(nombre(destino).constData(), &s) == 0) {
+    if (sistema::existe(nombre(destino))) {
         anterior_ = destino + u".anterior"_s;
-        unlink(nombre(anterior_).constData());
-        if (link(nombre(destino).constData(), nombre(anterior_).constData()) != 0)
+        sistema::borrar(nombre(anterior_));
+        if (!sistema::otro_nombre(nombre(destino), nombre(anterior_)))
             copiar_archivo(destino, anterior_, Asegurar::si);
     }
     pendiente_ = true;
@@ -187,19 +172,19 @@ void Sustitucion::confirmar()
 {
     pendiente_ = false;
     if (!anterior_.isEmpty())
-        unlink(nombre(anterior_).constData());
+        sistema::borrar(nombre(anterior_));
 }
 
 void Sustitucion::deshacer()
 {
     pendiente_ = false;
-    const QByteArray ruta = nombre(destino_);
-    const QByteArray anterior = nombre(anterior_);
+    const std::string ruta = nombre(destino_);
+    const std::string anterior = nombre(anterior_);
     // Two names of one file are renamed into each other by doing nothing.
-    if (!anterior.isEmpty() && std::rename(anterior.constData(), ruta.constData()) == 0)
-        unlink(anterior.constData());
-    else if (anterior.isEmpty() && !QFileInfo::exists(nuevo_))
-        unlink(ruta.constData());
+    if (!anterior.empty() && sistema::renombrar(anterior, ruta))
+        sistema::borrar(anterior);
+    else if (anterior.empty() && !QFileInfo::exists(nuevo_))
+        sistema::borrar(ruta);
     try {
         asegurar_carpeta(carpeta_de(destino_));
     } catch (const ErrorDisco&) {
@@ -246,13 +231,13 @@ void llevar_archivo(const QString& de, const QString& a, const Latido& latido)
 {
     const Descriptor origen(de);
     // Only the call that may take long waits elsewhere.
-    auto listo = std::async(std::launch::async, [&origen] { return fsync(origen.fd) == 0 ? 0 : errno; });
+    auto listo = std::async(std::launch::async, [&origen] { return sistema::asegurar(origen.fd) ? 0 : errno; });
     while (listo.wait_for(ENTRE_LATIDOS) != std::future_status::ready)
         if (!latido(0))
             throw Interrumpido();
     if (const int falla = listo.get(); falla != 0)
         throw ErrorDisco(u"No se pudo escribir el archivo "_s, de, falla);
-    if (std::rename(nombre(de).constData(), nombre(a).constData()) == 0)
+    if (sistema::renombrar(nombre(de), nombre(a)))
         return asegurar_carpeta(carpeta_de(a));
     copiar_archivo(de, a, Asegurar::si, latido);
     borrar_archivo(de);
@@ -260,35 +245,21 @@ void llevar_archivo(const QString& de, const QString& a, const Latido& latido)
 
 void borrar_archivo(const QString& archivo)
 {
-    if (unlink(nombre(archivo).constData()) != 0)
+    if (!sistema::borrar(nombre(archivo)))
         throw ErrorDisco(u"No se pudo borrar "_s, archivo, errno);
 }
 
 void carpeta_privada(const QString& carpeta)
 {
-    const QByteArray ruta = nombre(carpeta);
-    const bool nueva = mkdir(ruta.constData(), CARPETA_DEL_USUARIO) == 0;
-    const int falla = errno;
-    struct stat s
-    {
-    };
-    if (!nueva && (falla != EEXIST || stat(ruta.constData(), &s) != 0 || !S_ISDIR(s.st_mode)))
-        throw ErrorDisco(u"No se pudo crear "_s, carpeta, falla == EEXIST ? ENOTDIR : falla);
-    if (nueva || (s.st_mode & 07777) != CARPETA_DEL_USUARIO)
-        (void)chmod(ruta.constData(), CARPETA_DEL_USUARIO);
-    if (nueva)
+    const auto nueva = sistema::carpeta_privada(nombre(carpeta));
+    if (!nueva)
+        throw ErrorDisco(u"No se pudo crear "_s, carpeta, errno);
+    if (*nueva)
         asegurar_carpeta(carpeta_de(carpeta));
 }
 
 void asegurar_carpeta(const QString& carpeta)
 {
-    const int fd = open(nombre(carpeta).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    // One that may be written but not listed can't be asked, and some file systems know no such call.
-    if (fd < 0 && errno == EACCES)
-        return;
-    const int falla = fd < 0 || (fsync(fd) != 0 && errno != EINVAL && errno != ENOTSUP) ? errno : 0;
-    if (fd >= 0)
-        close(fd);
-    if (falla != 0)
-        throw ErrorDisco(u"No se pudo escribir en "_s, carpeta, falla);
+    if (!sistema::asegurar_carpeta(nombre(carpeta)))
+        throw ErrorDisco(u"No se pudo escribir en "_s, carpeta, errno);
 }

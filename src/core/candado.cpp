@@ -4,6 +4,7 @@
 
 #include "core/archivos_disco.h"
 #include "core/conexion.h"
+#include "system/sistema.h"
 
 #include <sqlcipher/sqlite3.h>
 
@@ -14,23 +15,17 @@
 #include <QSysInfo>
 
 #include <cerrno>
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr mode_t SOLO_DUENO = 0600;
 constexpr qint64 TEXTO_MAXIMO = 512;
 
 bool es_el_de(int archivo, const QString& ruta)
 {
-    struct stat abierto = {}, nombrado = {};
-    return ::fstat(archivo, &abierto) == 0 && ::stat(QFile::encodeName(ruta).constData(), &nombrado) == 0
-           && abierto.st_dev == nombrado.st_dev && abierto.st_ino == nombrado.st_ino;
+    const auto abierto = sistema::identidad(archivo);
+    return abierto && abierto == sistema::identidad(ruta.toStdString());
 }
 
 // Who has the store open, as far as the lock's text can be read; its owner writes it when it takes the lock.
@@ -68,16 +63,16 @@ void Candado::tomar(const QString& almacen)
     soltar();
     int fd = -1;
     for (bool mio = false; !mio;) {
-        fd = ::open(QFile::encodeName(ruta).constData(), O_RDWR | O_CREAT | O_CLOEXEC, SOLO_DUENO);
+        fd = sistema::abrir(ruta.toStdString(), sistema::Apertura::crear);
         if (fd < 0) {
             const int error = errno;
             if (QFileInfo::exists(ruta))
                 throw ErrorDisco(u"No se pudo tomar "_s, ruta, error);
             return;
         }
-        if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        if (!sistema::trabar(fd, false)) {
             const int error = errno;
-            ::close(fd);
+            sistema::cerrar(fd);
             if (error != EWOULDBLOCK)
                 throw ErrorDisco(u"No se pudo tomar "_s, ruta, error);
             throw ErrorAlmacen(SQLITE_BUSY, ocupante(ruta));
@@ -85,15 +80,15 @@ void Candado::tomar(const QString& almacen)
         // Its owner may have removed it between the opening and the lock: then another file has that name, or none.
         mio = es_el_de(fd, ruta);
         if (!mio)
-            ::close(fd);
+            sistema::cerrar(fd);
     }
     archivo_ = fd;
     ruta_ = ruta;
     const QByteArray texto =
         (QSysInfo::machineHostName() + u'\n' + QString::number(QCoreApplication::applicationPid()) + u'\n').toUtf8();
     // The lock stands without its text too.
-    (void)(::fchmod(fd, SOLO_DUENO) == 0 && ::ftruncate(fd, 0) == 0
-           && ::write(fd, texto.constData(), size_t(texto.size())) == texto.size());
+    sistema::solo_del_usuario(fd);
+    (void)(sistema::recortar(fd, 0) && sistema::escribir(fd, texto.constData(), size_t(texto.size())) == texto.size());
 }
 
 void Candado::soltar()
@@ -102,8 +97,8 @@ void Candado::soltar()
         return;
     // While it is held nobody else takes the file of that name for a free one.
     if (sigueAhi())
-        ::unlink(QFile::encodeName(ruta_).constData());
-    ::close(archivo_);
+        sistema::borrar(ruta_.toStdString());
+    sistema::cerrar(archivo_);
     archivo_ = -1;
     ruta_.clear();
 }

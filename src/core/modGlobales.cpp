@@ -34,6 +34,15 @@ QString carpeta_programa()
     return carpeta_fijada.isEmpty() ? QCoreApplication::applicationDirPath() : carpeta_fijada;
 }
 
+QString ruta_herramienta(const QString& nombre, const QString& carpeta)
+{
+#ifdef Q_OS_WIN
+    return carpeta + u'/' + nombre + u".exe"_s;
+#else
+    return carpeta + u'/' + nombre;
+#endif
+}
+
 void fijar_carpeta_programa(const QString& carpeta)
 {
     carpeta_fijada = carpeta;

@@ -32,5 +32,8 @@ extern QDate LeyVigenciaDesde;
 /// Makes another folder take the program's place.
 void fijar_carpeta_programa(const QString& carpeta);
 
+/// The full name of a program of the project's, which lies beside this one or in another folder.
+[[nodiscard]] QString ruta_herramienta(const QString& nombre, const QString& carpeta = carpeta_programa());
+
 /// Password of the store.
 [[nodiscard]] QString clave_almacen();

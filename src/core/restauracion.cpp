@@ -5,15 +5,13 @@
 #include "core/archivos_disco.h"
 #include "core/candado.h"
 #include "core/modGlobales.h"
+#include "system/sistema.h"
 
 #include <sqlcipher/sqlite3.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -32,24 +30,22 @@ QString prefijo_de(const QString& almacen)
 // A second name for the same file, or a copy where the disk knows no second names.
 void dar_otro_nombre(const QString& de, const QString& a)
 {
-    if (::link(QFile::encodeName(de).constData(), QFile::encodeName(a).constData()) == 0)
-        return;
-    copiar_archivo(de, a, Asegurar::si);
+    if (!sistema::otro_nombre(de.toStdString(), a.toStdString()))
+        copiar_archivo(de, a, Asegurar::si);
 }
 
 // One that was cut short may have left the store under a second name. Where a journal stands beside that name the two
 // are the whole store, and stay.
 void quitar_otros_nombres(const QString& almacen)
 {
-    struct stat propio = {};
-    if (::stat(QFile::encodeName(almacen).constData(), &propio) != 0)
+    const auto propio = sistema::identidad(almacen.toStdString());
+    if (!propio)
         return;
     const QDir carpeta = QFileInfo(almacen).absoluteDir();
     for (const QFileInfo& info : carpeta.entryInfoList({prefijo_de(almacen) + u"*.db"_s}, QDir::Files)) {
-        struct stat otro = {};
-        if (::stat(QFile::encodeName(info.absoluteFilePath()).constData(), &otro) == 0 && otro.st_ino == propio.st_ino
-            && otro.st_dev == propio.st_dev && !QFile::exists(diario_de(info.absoluteFilePath())))
-            QFile::remove(info.absoluteFilePath());
+        const QString otro = info.absoluteFilePath();
+        if (sistema::identidad(otro.toStdString()) == propio && !QFile::exists(diario_de(otro)))
+            QFile::remove(otro);
     }
 }
 

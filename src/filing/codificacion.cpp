@@ -2,57 +2,40 @@
 
 #include "filing/codificacion.h"
 
-#include <iconv.h>
-
+#include <algorithm>
 #include <array>
-#include <unordered_map>
 
 namespace {
 
-struct Pagina
-{
-    std::array<char16_t, 256> aUnicode{};
-    std::unordered_map<char16_t, char> aByte;
+// Windows-1252 from 0x80 to 0x9f, 0 for the bytes that it does not use; elsewhere it is Latin 1.
+// https://www.unicode.org/Public/MAPPINGS/VENDORS/MICSFT/WINDOWS/CP1252.TXT
+constexpr unsigned char PRIMERO = 0x80;
+constexpr std::array<char16_t, 32> PROPIOS{0x20ac, 0,      0x201a, 0x0192, 0x201e, 0x2026, 0x2020, 0x2021,
+                                           0x02c6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017d, 0,
+                                           0,      0x2018, 0x2019, 0x201c, 0x201d, 0x2022, 0x2013, 0x2014,
+                                           0x02dc, 0x2122, 0x0161, 0x203a, 0x0153, 0,      0x017e, 0x0178};
 
-    Pagina()
-    {
-        iconv_t cd = iconv_open("UTF-16LE", "WINDOWS-1252");
-        for (int i = 0; i < 256; ++i) {
-            char entrada = char(i);
-            char salida[4] = {};
-            char* de = &entrada;
-            char* a = salida;
-            size_t quedan = 1;
-            size_t lugar = sizeof salida;
-            aUnicode[size_t(i)] = u'?';
-            if (cd != iconv_t(-1) && iconv(cd, &de, &quedan, &a, &lugar) != size_t(-1) && lugar == 2) {
-                aUnicode[size_t(i)] = char16_t(static_cast<unsigned char>(salida[0])
-                                               | static_cast<unsigned char>(salida[1]) << 8);
-                aByte.emplace(aUnicode[size_t(i)], char(i));
-            }
-        }
-        if (cd != iconv_t(-1))
-            iconv_close(cd);
-    }
-};
-
-const Pagina& pagina()
+bool es_propio(char16_t c)
 {
-    static const Pagina unica;
-    return unica;
+    return c >= PRIMERO && c < PRIMERO + PROPIOS.size();
 }
 
 }  // namespace
 
 char byte_ansi(char16_t c)
 {
-    const auto it = pagina().aByte.find(c);
-    return it == pagina().aByte.end() ? '?' : it->second;
+    if (c <= 0xff && !es_propio(c))
+        return char(c);
+    const auto* p = std::find(PROPIOS.begin(), PROPIOS.end(), c);
+    return p == PROPIOS.end() ? '?' : char(PRIMERO + (p - PROPIOS.begin()));
 }
 
 char16_t caracter_ansi(unsigned char byte)
 {
-    return pagina().aUnicode[byte];
+    if (!es_propio(byte))
+        return byte;
+    const char16_t c = PROPIOS[byte - PRIMERO];
+    return c == 0 ? u'?' : c;
 }
 
 QString texto_ansi(std::string_view bytes)

@@ -23,7 +23,7 @@ struct Piezas
     qsizetype utf8(std::string_view texto);
 };
 
-/// The byte of a character in Windows-1252, '?' when it has none. The code page is iconv's.
+/// The byte of a character in Windows-1252, '?' when it has none.
 [[nodiscard]] char byte_ansi(char16_t c);
 /// The character of a byte of the file.
 [[nodiscard]] char16_t caracter_ansi(unsigned char byte);

@@ -7,10 +7,11 @@
 #include "core/modUtiles.h"
 #include "core/numero.h"
 #include "filing/carpetas_dj.h"
+#include "filing/guion_lote.h"
 #include "filing/lote_empaquetador.h"
 #include "rar5.h"
 
-#include <QFile>
+#include <QDir>
 #include <QFileInfo>
 #include <QHash>
 
@@ -29,7 +30,7 @@ class Empaquetado
 public:
     Empaquetado(const QString& nro, Dialogo& dialogo, std::chrono::milliseconds sin_noticias)
         : nro_(nro), dialogo_(dialogo), sin_noticias_(sin_noticias), base_(carpeta_programa()),
-          carpeta_(carpeta_dj(nro)), copias_(carpeta_testimonios(nro))
+          carpeta_(carpeta_dj(nro)), copias_(carpeta_testimonios(nro)), guion_(base_)
     {
     }
 
@@ -39,8 +40,6 @@ public:
         borrar(archivo());
         // The batch file stands from here on, empty until all its lines are known.
         escribirLote({});
-        // The quote in front of the command's name makes the line one name that fails; it does no harm.
-        texto_ = palabra_shell(u"rm "_s + archivo()) + u'\n';
         empaquetar(carpeta_ + u"/SRTN"_s + nro_ + u".txt"_s);
         hacer_carpeta_testimonios(nro_);
         if (const auto falla = vaciar_testimonios(nro_))
@@ -51,8 +50,8 @@ public:
         } catch (const Interrumpido&) {
             return cancelada({});
         }
-        escribirLote(texto_ + u'\n');
-        LoteEnMarcha lotes({lote(), archivo(), largos_.size(), bytes_}, sin_noticias_);
+        escribirLote(guion_.texto());
+        LoteEnMarcha lotes({guion_.orden(lote()), base_, archivo(), largos_.size(), bytes_}, sin_noticias_);
         // Normally the packer is still at work and no copy is made here; half an archive is never one.
         if (lotes.termino() && QFileInfo::exists(archivo()))
             copiar_archivo(archivo(), carpeta_ + u"/dj.rar"_s, Asegurar::si);
@@ -69,8 +68,7 @@ private:
         const QFileInfo info(fichero);
         largos_[info.fileName()] = info.size();
         bytes_ += info.size();
-        texto_ += palabra_shell(base_ + u"/rar"_s) + u" a -y "_s + palabra_shell(archivo()) + u' '
-                  + palabra_shell(fichero) + u'\n';
+        guion_.empaquetar(fichero);
     }
 
     struct Testimonio
@@ -112,10 +110,10 @@ private:
         return true;
     }
 
-    void escribirLote(const QString& texto) const
+    void escribirLote(const QByteArray& texto) const
     {
         ArchivoNuevo f(lote(), Asegurar::no);
-        f.escribir(QFile::encodeName(texto).toStdString());
+        f.escribir(texto.toStdString());
         f.ocupar();
     }
 
@@ -151,10 +149,11 @@ private:
 
     [[nodiscard]] QString motivoDelEmpaquetador(LoteEnMarcha& lotes) const
     {
-        if (!QFileInfo(base_ + u"/rar"_s).isExecutable())
-            return u"No se puede ejecutar "_s + base_ + u"/rar"_s;
+        const QString rar = ruta_herramienta(u"rar"_s);
+        if (!QFileInfo(rar).isExecutable())
+            return u"No se puede ejecutar "_s + QDir::toNativeSeparators(rar);
         const QString queja = lotes.queja();
-        return queja.isEmpty() ? u"El archivo %1 no quedó completo."_s.arg(archivo()) : queja;
+        return queja.isEmpty() ? u"El archivo %1 no quedó completo."_s.arg(QDir::toNativeSeparators(archivo())) : queja;
     }
 
     // The shell only tells how its last line ended: the archive itself says whether it holds all.
@@ -162,7 +161,7 @@ private:
     {
         try {
             QHash<QString, qint64> faltan = largos_;
-            for (const EntradaRar& e : listar_rar(QFile::encodeName(archivo()).toStdString())) {
+            for (const EntradaRar& e : listar_rar(archivo().toStdString())) {
                 const auto it = faltan.constFind(QFileInfo(QString::fromStdString(e.nombre)).fileName());
                 if (it != faltan.cend() && *it == qint64(e.largo))
                     faltan.erase(it);
@@ -182,15 +181,10 @@ private:
     QString base_;
     QString carpeta_;
     QString copias_;
-    QString texto_;
+    GuionLote guion_;
 };
 
 }  // namespace
-
-QString palabra_shell(const QString& texto)
-{
-    return u'\'' + QString(texto).replace(u'\'', u"'\\''"_s) + u'\'';
-}
 
 bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir,
                   std::chrono::milliseconds sin_noticias)

@@ -19,6 +19,3 @@ using PedirDestino = std::function<QString(const QString& nombre)>;
 /// progress for `sin_noticias` is told of. Throws ErrorDisco and ErrorAlmacen on what fails before the user is asked.
 [[nodiscard]] bool comprimir_dj(const QString& nro, Dialogo& dialogo, const PedirDestino& pedir,
                                 std::chrono::milliseconds sin_noticias = std::chrono::seconds(30));
-
-/// A word of the shell that stands for exactly this text.
-[[nodiscard]] QString palabra_shell(const QString& texto);

@@ -7,39 +7,18 @@
 #include <QLocale>
 #include <QRegularExpression>
 
-#include <sys/prctl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <csignal>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr mode_t NADIE_MAS = 077;
 constexpr int ENTRE_MIRADAS_MS = 30;
-constexpr int PARA_IRSE_MS = 2000;
-
-// In the child: a group of its own, which can be ended as one, and which ends with the program. Another packer makes
-// its files for the user alone, too.
-void preparar_proceso()
-{
-    setpgid(0, 0);
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
-    umask(NADIE_MAS);
-}
 
 }  // namespace
 
 LoteEnMarcha::LoteEnMarcha(TrabajoEmpaquetador trabajo, std::chrono::milliseconds sin_noticias)
     : trabajo_(std::move(trabajo)), sin_noticias_(sin_noticias)
 {
-    proceso_.setStandardInputFile(QProcess::nullDevice());
-    proceso_.setChildProcessModifier(preparar_proceso);
-    proceso_.start(u"/bin/sh"_s, {trabajo_.lote});
-    // The group can be ended once the child has made it.
-    proceso_.waitForStarted();
+    proceso_.iniciar(trabajo_.orden, trabajo_.carpeta);
     callado_.start();
 }
 
@@ -52,19 +31,20 @@ LoteEnMarcha::~LoteEnMarcha()
 
 bool LoteEnMarcha::termino()
 {
-    return proceso_.state() == QProcess::NotRunning || proceso_.waitForFinished(0);
+    return proceso_.proceso().state() == QProcess::NotRunning || proceso_.proceso().waitForFinished(0);
 }
 
 bool LoteEnMarcha::esperar(Dialogo& dialogo, const QString& titulo)
 {
-    while (proceso_.state() != QProcess::NotRunning) {
-        proceso_.waitForFinished(ENTRE_MIRADAS_MS);
+    while (proceso_.proceso().state() != QProcess::NotRunning) {
+        proceso_.proceso().waitForFinished(ENTRE_MIRADAS_MS);
         oir();
         if (!dialogo.seguir(avance(), bytesHechos_ + bytesDeEste_, trabajo_.bytes)) {
             terminar();
             return false;
         }
-        if (proceso_.state() == QProcess::NotRunning || std::chrono::milliseconds(callado_.elapsed()) < sin_noticias_)
+        if (proceso_.proceso().state() == QProcess::NotRunning
+            || std::chrono::milliseconds(callado_.elapsed()) < sin_noticias_)
             continue;
         if (dialogo.preguntar({u"El empaquetador no avanza desde hace %1 segundos.\n\n¿Desea esperarlo, o terminarlo y "
                                u"cancelar la emisión?"_s.arg(callado_.elapsed() / 1000),
@@ -79,35 +59,24 @@ bool LoteEnMarcha::esperar(Dialogo& dialogo, const QString& titulo)
 
 bool LoteEnMarcha::bien() const
 {
-    return proceso_.exitStatus() == QProcess::NormalExit && proceso_.exitCode() == 0;
+    return proceso_.proceso().exitStatus() == QProcess::NormalExit && proceso_.proceso().exitCode() == 0;
 }
 
 QString LoteEnMarcha::queja()
 {
-    const QStringList lineas = QString::fromUtf8(proceso_.readAllStandardError()).split(u'\n');
+    const QStringList lineas = QString::fromUtf8(proceso_.proceso().readAllStandardError()).split(u'\n');
     return lineas.filter(QRegularExpression(u"^rar: "_s)).join(u'\n');
 }
 
-// The shell and the packer that it runs, first asked, then made to.
 void LoteEnMarcha::terminar()
 {
-    if (proceso_.state() == QProcess::NotRunning)
-        return;
-    const auto grupo = pid_t(-proceso_.processId());
-    ::kill(grupo, SIGTERM);
-    ::kill(grupo, SIGCONT);  // one that was stopped hears the other signals only then
-    QElapsedTimer desde;
-    desde.start();
-    while (::kill(grupo, 0) == 0 && desde.elapsed() < PARA_IRSE_MS)
-        proceso_.waitForFinished(ENTRE_MIRADAS_MS);
-    ::kill(grupo, SIGKILL);
-    proceso_.waitForFinished();
+    proceso_.terminar();
 }
 
 // Any word of the packer and any growth of the archive are progress; only this program's own packer tells how far it is.
 void LoteEnMarcha::oir()
 {
-    const QByteArray salida = proceso_.readAllStandardOutput();
+    const QByteArray salida = proceso_.proceso().readAllStandardOutput();
     const qint64 largo = QFileInfo(trabajo_.archivo).size();
     if (!salida.isEmpty() || largo != largo_)
         callado_.start();

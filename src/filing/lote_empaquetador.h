@@ -3,9 +3,9 @@
 #pragma once
 
 #include "core/dialogo.h"
+#include "filing/proceso_lote.h"
 
 #include <QElapsedTimer>
-#include <QProcess>
 #include <QString>
 
 #include <chrono>
@@ -13,7 +13,8 @@
 /// What the batch file packs.
 struct TrabajoEmpaquetador
 {
-    QString lote;     ///< the batch file
+    QString orden;    ///< what the shell is to carry out, see GuionLote
+    QString carpeta;  ///< the program's folder, where it works
     QString archivo;  ///< the archive that it builds
     qsizetype ficheros = 0;
     qint64 bytes = 0;
@@ -47,7 +48,7 @@ private:
 
     TrabajoEmpaquetador trabajo_;
     std::chrono::milliseconds sin_noticias_;
-    QProcess proceso_;
+    ProcesoLote proceso_;
     QElapsedTimer callado_;  // since the last sign of progress
     qint64 largo_ = -1;      // of the archive, when it was last looked at
     QByteArray dicho_;       // by the packer, of its last line so far

@@ -55,8 +55,8 @@ constexpr std::array BOTONES{
 // The pictures are in a library, which does not load them by itself.
 void iniciar_recursos()
 {
-    Q_INIT_RESOURCE(recursos);
-    Q_INIT_RESOURCE(iconos_oscuros);
+    Q_INIT_RESOURCE(iconos_claro);
+    Q_INIT_RESOURCE(iconos_oscuro);
 }
 
 BarraHerramientas::BarraHerramientas(QWidget* padre) : QToolBar(padre)

@@ -4,6 +4,7 @@
 
 #include "widgets/colores.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -12,11 +13,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+// One drawing, or, where the toolkit draws none, its pictures.
+QIcon leer(const QString& nombre)
+{
+    const QDir imagenes(nombre);
+    if (!imagenes.exists())
+        return QIcon(nombre + u".svg"_s);
+    QIcon icono;
+    for (const QString& imagen : imagenes.entryList(QDir::Files))
+        icono.addFile(imagenes.filePath(imagen));
+    return icono;
+}
+
 class MotorIcono : public QIconEngine
 {
 public:
     explicit MotorIcono(const QString& nombre)
-        : claro_(u":/iconos/%1.svg"_s.arg(nombre)), oscuro_(u":/iconos/oscuro/%1.svg"_s.arg(nombre))
+        : claro_(leer(u":/iconos/"_s + nombre)), oscuro_(leer(u":/iconos/oscuro/"_s + nombre))
     {
     }
 

@@ -4,7 +4,7 @@
 #include "campania/ingles.h"
 #include "core/arranque.h"
 #include "core/cuidado.h"
-#include "core/motivo_sistema.h"
+#include "system/motivo_sistema.h"
 
 #include <set>
 

@@ -5,6 +5,7 @@
 #include "filing/archivo_dj.h"
 #include "filing/carpetas_dj.h"
 #include "filing/empaquetado.h"
+#include "filing/guion_lote.h"
 
 #include <rar5.h>
 
@@ -18,6 +19,13 @@
 #include <set>
 
 namespace {
+
+// The program's folder has blanks, quotes, accents and what the shells read otherwise in its name.
+#ifdef Q_OS_WIN
+const QString NOMBRE_BASE = "mi 'base' & %TEMP% ñ^q"_u;
+#else
+const QString NOMBRE_BASE = "mi 'base' $x ñ\"q"_u;
+#endif
 
 class Empaquetado : public ConProcesos
 {
@@ -159,10 +167,9 @@ protected:
     void SetUp() override
     {
         ConAlmacen::SetUp();
-        // The program's folder has blanks, quotes, dollar signs and accents in its name.
-        base = carpeta.path() + "/mi 'base' $x ñ\"q"_u;
+        base = carpeta.path() + u'/' + NOMBRE_BASE;
         ASSERT_TRUE(QDir().mkpath(base));
-        ASSERT_TRUE(QFile::copy(QStringLiteral(RTN_RAR), base + "/rar"_u));
+        ASSERT_TRUE(QFile::copy(QStringLiteral(RTN_RAR), ruta_herramienta("rar"_u, base)));
         fijar_carpeta_programa(base);
         destino = carpeta.path() + "/destino"_u;
         QDir().mkpath(destino);
@@ -191,8 +198,8 @@ protected:
     /// A script in the packer's place: $3 is the archive.
     void otroEmpaquetador(const QByteArray& guion) const
     {
-        QFile::remove(base + "/rar"_u);
-        QFile::setPermissions(archivo("mi 'base' $x ñ\"q/rar"_u, "#!/bin/sh\n" + guion + "\n"),
+        QFile::remove(ruta_herramienta("rar"_u, base));
+        QFile::setPermissions(archivo(NOMBRE_BASE + "/rar"_u, "#!/bin/sh\n" + guion + "\n"),
                               QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     [[nodiscard]] bool vive(const QString& pid) const { return QFile::exists("/proc/"_u + pid); }
@@ -211,7 +218,7 @@ TEST_F(EmpaquetadoDJ, ConTestimoniosYSinEllos)
     escritura(2, archivo("dos.doc"_u, "dos"));
     nueva_escritura(dj, 3, 3, 3, 1);
     cnRtn.ejecutar("update SEL_TB_RTN_DETDJ set SEDD_FNAME_TESTIMONIO='' where SEDD_ID=3"_u);
-    archivo("mi 'base' $x ñ\"q/data/%1/testimonios/viejo.pdf"_u.arg(dj), "viejo");
+    archivo(NOMBRE_BASE + "/data/%1/testimonios/viejo.pdf"_u.arg(dj), "viejo");
     EXPECT_TRUE(emitir());
     const QString sale = extraer(final_);
     EXPECT_EQ(QDir(sale).entryList(QDir::Files),
@@ -278,10 +285,11 @@ TEST_F(EmpaquetadoDJ, LoQueNoSePuede)
     EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
     cancelar = false;
     EXPECT_EQ(oyente.detalles, QStringList(QString()));
-    QFile::remove(base + "/rar"_u);
+    QFile::remove(ruta_herramienta("rar"_u, base));
     EXPECT_FALSE(emitir());  // without the packer there is no archive
     EXPECT_EQ(oyente.textos, QStringList(cancelada));
-    EXPECT_EQ(oyente.detalles.last(), "No se puede ejecutar "_u + base + "/rar"_u);
+    EXPECT_EQ(oyente.detalles.last(),
+              "No se puede ejecutar "_u + QDir::toNativeSeparators(ruta_herramienta("rar"_u, base)));
     EXPECT_FALSE(QFile::exists(final_));
 }
 
@@ -321,7 +329,7 @@ TEST_F(EmpaquetadoDJ, UnEmpaquetadorQueNoEsElNuestro)
 TEST_F(EmpaquetadoDJ, SoloParaElUsuario)
 {
     escritura(1, archivo("uno.pdf"_u, "uno"));
-    const QString vieja = "mi 'base' $x ñ\"q/"_u;
+    const QString vieja = NOMBRE_BASE + u'/';
     for (const mode_t mascara : {0, 0077, 0177})
         for (const bool cancela : {false, true}) {
             SCOPED_TRACE(testing::Message() << "umask " << std::oct << mascara << (cancela ? " cancela" : ""));
@@ -360,6 +368,24 @@ TEST_F(EmpaquetadoDJ, SoloParaElUsuario)
         EXPECT_EQ(modo_de(propio), 0600U);
         chmod(QFile::encodeName(propio).constData(), 0666);
     }
+}
+
+// The shell of Windows: names within the program's folder without it, a folder of the network with its own page of codes.
+TEST(GuionLote, DeWindows)
+{
+    GuionLote propio("C:/Ñandú & Cía 50%"_u, Interprete::cmd);
+    propio.empaquetar("C:/Ñandú & Cía 50%/data/1/SRTN1.txt"_u);
+    propio.empaquetar("D:/d'a^b 5%.pdf"_u);
+    EXPECT_EQ(propio.texto(), "\"del .\\dj.rar\"\r\n"
+                              "\".\\rar.exe\" a -y \".\\dj.rar\" \".\\data\\1\\SRTN1.txt\"\r\n"
+                              "\".\\rar.exe\" a -y \".\\dj.rar\" \"D:\\d'a^b 5%%.pdf\"\r\n\r\n");
+    EXPECT_EQ(propio.orden("C:/Ñandú & Cía 50%/comprimir.bat"_u), "/d /v:off /c .\\comprimir.bat"_u);
+    GuionLote red("//srv/ñ"_u, Interprete::cmd);
+    red.empaquetar("//srv/ñ/data/1-0001.pdf"_u);
+    EXPECT_EQ(QString::fromUtf8(red.texto()),
+              "@chcp 65001 >nul\r\n\"del \\\\srv\\ñ\\dj.rar\"\r\n"
+              "\"\\\\srv\\ñ\\rar.exe\" a -y \"\\\\srv\\ñ\\dj.rar\" \"\\\\srv\\ñ\\data\\1-0001.pdf\"\r\n\r\n"_u);
+    EXPECT_EQ(red.orden("//srv/ñ/comprimir.bat"_u), "/d /v:off /s /c \"\"\\\\srv\\ñ\\comprimir.bat\"\""_u);
 }
 
 }  // namespace

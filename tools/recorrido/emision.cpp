@@ -47,7 +47,8 @@ void Mes::emitir(const QString& nro, const QString& nombre)
         if (QFileInfo(guardado).size() == 0)
             throw Inesperado(u"no está el archivo "_s + guardado);
         QProcess lector;
-        lector.start(QCoreApplication::applicationDirPath() + u"/leer_dj"_s, {guardado, u"--codigo"_s, codigo(nro)});
+        lector.start(ruta_herramienta(u"leer_dj"_s, QCoreApplication::applicationDirPath()),
+                     {guardado, u"--codigo"_s, codigo(nro)});
         if (!lector.waitForFinished() || lector.exitCode() != 0)
             throw Inesperado(u"leer_dj no acepta lo emitido:\n"_s + QString::fromUtf8(lector.readAllStandardOutput()));
         const QString archivo = carpeta_programa() + u"/data/"_s + nro + u"/SRTN"_s + nro + u".txt"_s;

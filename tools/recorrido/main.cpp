@@ -35,8 +35,8 @@ void preparar(const QString& carpeta)
     QFile cfg(carpeta + u"/vedra_rtn.cfg"_s);
     if (!cfg.open(QIODevice::WriteOnly) || cfg.write("vedra_rtn.db\n") < 0)
         throw Inesperado(u"no se pudo escribir "_s + cfg.fileName());
-    const QString rar = QCoreApplication::applicationDirPath() + u"/rar"_s;
-    if (!QFile::copy(rar, carpeta + u"/rar"_s))
+    const QString rar = ruta_herramienta(u"rar"_s);
+    if (!QFile::copy(rar, ruta_herramienta(u"rar"_s, carpeta)))
         throw Inesperado(u"no se pudo copiar "_s + rar);
     fijar_carpeta_programa(carpeta);
     // What is chosen on the way is not what the user chose, nor what the last month did.

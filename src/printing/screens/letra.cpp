@@ -3,6 +3,7 @@
 #include "printing/screens/letra.h"
 
 #include "printing/screens/rptPagina.h"
+#include "widgets/letras.h"
 
 #include <QFontMetricsF>
 
@@ -37,7 +38,8 @@ Letra& letra(double puntos, bool negrita)
     const int clave = int(puntos * 100) * 2 + negrita;
     auto it = letras.find(clave);
     if (it == letras.end()) {
-        QFont f(u"DejaVu Sans"_s);
+        iniciar_letras();
+        QFont f(LETRA_PROPIA.toString());
         f.setStyleHint(QFont::SansSerif);
         f.setPixelSize(int(puntos * MM_POR_PUNTO * UNIDADES + 0.5));
         f.setBold(negrita);

@@ -2,7 +2,7 @@
 // A desktop that asks for dark colours by its portal, before the program starts and while it runs.
 
 #include "apoyo/apoyo.h"
-#include "application/tema_escritorio.h"
+#include "application/tema_escritorio_posix.h"
 #include "widgets/colores.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "application/tema_escritorio.h"
+#include "application/tema_escritorio_posix.h"
 
 #include "widgets/colores.h"
 

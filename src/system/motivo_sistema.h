@@ -10,7 +10,9 @@
 {
     switch (numero) {
     case ENOSPC: return "no queda lugar en el disco";
+#ifdef EDQUOT
     case EDQUOT: return "no queda lugar en la parte del disco que tiene asignada";
+#endif
     case EIO: return "el disco no pudo leer o escribir";
     case EFBIG: return "el archivo es demasiado grande";
     case EROFS: return "el disco es de solo lectura";
