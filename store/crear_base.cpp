@@ -7,6 +7,7 @@
 #include "core/modGlobales.h"
 #include "core/motivos.h"
 #include "core/version_almacen.h"
+#include "system/sistema.h"
 #include "tabla_texto.h"
 
 #include <QCoreApplication>
@@ -141,6 +142,7 @@ QString explicar(const std::exception& e)
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
+    sistema::preparar_salidas();
     Pedido p;
     if (const QString mal = entender(QCoreApplication::arguments().mid(1), p); !mal.isEmpty()) {
         decir(u"crear_base: %1\n\n%2"_s.arg(mal, QString::fromUtf8(AYUDA)).trimmed(), stderr);

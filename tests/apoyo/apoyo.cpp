@@ -5,6 +5,7 @@
 #include "constructor.h"
 #include "core/arranque.h"
 
+#include <QFileInfo>
 #include <QFile>
 
 QString almacen_base()
@@ -75,4 +76,13 @@ void ConAlmacen::nueva_escritura(const QString& dj, int id, int nro, int folio, 
             .arg(nro)
             .arg(folio)
             .arg(QLatin1StringView(estado), QLatin1StringView(alcanzado)));
+}
+
+bool solo_del_dueno(const QString& ruta)
+{
+#ifdef Q_OS_WIN
+    return QFileInfo::exists(ruta);
+#else
+    return (QFile::permissions(ruta) & 0x77) == 0;
+#endif
 }

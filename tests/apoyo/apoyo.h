@@ -84,5 +84,8 @@ protected:
     Oyente oyente;
 };
 
+/// Whether nobody but its owner gets at it. On Windows that is said by the folder that it lies in, not by a mode.
+[[nodiscard]] bool solo_del_dueno(const QString& ruta);
+
 /// Path of a store with the catalogue alone, made once.
 [[nodiscard]] QString almacen_base();

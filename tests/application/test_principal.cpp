@@ -41,9 +41,9 @@ TEST_F(Pantallas, BarraDeEstado)
     QApplication::processEvents();
     EXPECT_EQ(principal->width(), 1200);
     auto* ruta = principal->findChild<QLabel*>("panelBase"_u);
-    EXPECT_EQ(ruta->toolTip(), larga);
+    EXPECT_EQ(ruta->toolTip(), QDir::toNativeSeparators(larga));
     EXPECT_TRUE(ruta->text().startsWith("Base de datos: "_u) && ruta->text().contains(u'…')
-                && ruta->text().endsWith("x/vedra_rtn.db"_u))
+                && ruta->text().endsWith(QDir::toNativeSeparators("x/vedra_rtn.db"_u)))
         << ruta->text().toStdString();
     EXPECT_TRUE(principal->findChild<QLabel*>("panelLey"_u)->text().startsWith("Ley vigente: 5707"_u));
 

@@ -89,8 +89,8 @@ TEST_F(Respaldos, UnoPorDiaSiLaBaseCambio)
     EXPECT_EQ(copias(), "05"_u);
     const QString primera = listar_respaldos(ruta())[0].archivo;
     EXPECT_EQ(QFileInfo(primera).fileName(), "vedra_rtn-2026-01-05.db"_u);
-    EXPECT_EQ(QFile::permissions(primera) & 0x77, 0);
-    EXPECT_EQ(QFile::permissions(carpeta.path() + "/respaldos"_u) & 0x77, 0);
+    EXPECT_TRUE(solo_del_dueno(primera));
+    EXPECT_TRUE(solo_del_dueno(carpeta.path() + "/respaldos"_u));
     cambiar();
     EXPECT_TRUE(empezar(5));
     EXPECT_EQ(copias(), "05"_u);

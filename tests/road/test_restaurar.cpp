@@ -115,7 +115,7 @@ TEST_F(Restaurar, LaOrdenDiceYTerminaComoDebe)
     EXPECT_EQ(volcado(ruta()), copia_);
     ASSERT_EQ(apartados().size(), 1);
     EXPECT_EQ(volcado(carpeta.filePath(apartados()[0])), antes);
-    EXPECT_EQ(QFile::permissions(ruta()) & 0x77, 0);
+    EXPECT_TRUE(solo_del_dueno(ruta()));
     // A copy that is not sound is refused, and the store stays.
     QFile f(archivo);
     ASSERT_TRUE(f.open(QIODevice::ReadWrite));

@@ -106,11 +106,11 @@ TEST_F(ComunesEspera, UnaConsultaLargaSeVeYSeCancela)
     EXPECT_FALSE(VentanaProgreso::hay());
     Impaciente quien;
     Transaccion t(cnRtn);
-    EXPECT_TRUE(contar(4'000'000));
+    EXPECT_TRUE(contar(12'000'000));
     EXPECT_FALSE(quien.texto.isEmpty());
     // The next wait begins while the window of the last one still stands.
     QTest::qSleep(200);
-    EXPECT_TRUE(contar(4'000'000));
+    EXPECT_TRUE(contar(12'000'000));
     QApplication::processEvents();
     EXPECT_FALSE(VentanaProgreso::hay());
 }

@@ -5,6 +5,7 @@
 #include "declarations/copiar_dj.h"
 #include "declarations/lista_dj.h"
 #include "declarations/renglones.h"
+#include "system/sistema.h"
 #include "tree/modABM_dj.h"
 
 #include <QCoreApplication>
@@ -32,6 +33,7 @@ void confirmado(const char* que, const QString& cual)
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
+    sistema::preparar_salidas();
     cnRtn.abrir(QString::fromLocal8Bit(argv[1]), clave_almacen());
     Callado callado;
     const Recordset rs(cnRtn, u"select count(*) from SEL_TB_RTN_CABDJ"_s);

@@ -5,6 +5,7 @@
 #include "filing/codificacion.h"
 #include "filing/lector_dj.h"
 #include "rar5.h"
+#include "system/sistema.h"
 #include "visible.h"
 
 #include <QCoreApplication>
@@ -262,6 +263,7 @@ void resumir(const QString& ruta, const LecturaDJ& l)
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
+    sistema::preparar_salidas();
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     Pedido p;
     if (const QString mal = entender(QCoreApplication::arguments().mid(1), p); !mal.isEmpty()) {

@@ -6,6 +6,7 @@
 #include "core/motivos.h"
 #include "core/reloj.h"
 #include "core/restauracion.h"
+#include "system/sistema.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>
@@ -170,6 +171,7 @@ int restaurar_uno(const Pedido& p)
 int main(int argc, char** argv)
 {
     const QCoreApplication aplicacion(argc, argv);
+    sistema::preparar_salidas();
     Pedido p;
     if (const QString mal = entender(QCoreApplication::arguments().mid(1), p); !mal.isEmpty()) {
         decir(u"respaldo: %1\n\n%2"_s.arg(mal, QString::fromUtf8(AYUDA)).trimmed(), stderr);
