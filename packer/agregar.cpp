@@ -75,7 +75,7 @@ void poner_archivo(Archivo& a, IndiceRar& indice, const std::string& ruta, const
     Archivo origen(ruta, sistema::Apertura::leer);
     const sistema::Ficha ficha = origen.ficha();
     EntradaRar e;
-    e.nombre = nombre_base(ruta);
+    e.nombre = sistema::nombre_sin_camino(ruta);
     e.largo = e.almacenado = ficha.largo;
     e.modificado = uint32_t(ficha.modificado);
     e.permisos = ficha.permisos;
@@ -144,7 +144,7 @@ void rehacer(const std::string& archivo, std::unique_ptr<Archivo> anterior, cons
     std::vector<EntradaRar> quedan = listar_rar(archivo);
     std::set<std::string> nombres;
     for (const std::string& ruta : archivos)
-        nombres.insert(nombre_base(ruta));
+        nombres.insert(sistema::nombre_sin_camino(ruta));
     std::erase_if(quedan, [&](const EntradaRar& e) { return nombres.contains(nombre_base(e.nombre)); });
     const bool propio = std::all_of(quedan.begin(), quedan.end(),
                                     [&](const EntradaRar& e) { return e.propia && nombres.insert(e.nombre).second; });
@@ -194,7 +194,7 @@ void sin_repetidos(const std::vector<std::string>& archivos)
 {
     std::set<std::string> nombres;
     for (const std::string& ruta : archivos)
-        if (!nombres.insert(nombre_base(ruta)).second)
+        if (!nombres.insert(sistema::nombre_sin_camino(ruta)).second)
             throw std::runtime_error(ruta + ": otro fichero del mismo pedido tiene ese nombre");
 }
 
@@ -208,7 +208,7 @@ void agregar_rar(const std::string& archivo, const std::vector<std::string>& arc
         return crear(archivo, archivos, avance);
     const auto indice = leer_indice(*a);
     const bool nuevos = indice && std::all_of(archivos.begin(), archivos.end(), [&](const std::string& ruta) {
-                            const auto b = buscar_rar(*a, *indice, nombre_base(ruta));
+                            const auto b = buscar_rar(*a, *indice, sistema::nombre_sin_camino(ruta));
                             return b && !b->esta;
                         });
     if (!nuevos)

@@ -55,7 +55,7 @@ constexpr size_t LARGO_FIN = 20;
 /// does not hold, and where the file ends.
 [[nodiscard]] CabeceraRar leer_cabecera(Archivo& a);
 
-/// The name behind the last slash.
+/// What is behind the last slash of an entry's name.
 [[nodiscard]] std::string nombre_base(const std::string& ruta);
 /// CRC-32 of so many bytes, going on from an earlier one.
 [[nodiscard]] uint32_t crc_de(const char* datos, size_t largo, uint32_t antes = 0);

@@ -71,6 +71,8 @@ constexpr bool SE_REEMPLAZA_ABIERTO = true;
 bool borrar(const std::string& ruta);
 /// A second name for a file.
 [[nodiscard]] bool otro_nombre(const std::string& de, const std::string& a);
+/// What is behind the last separator of a path.
+[[nodiscard]] std::string nombre_sin_camino(const std::string& ruta);
 /// Whether something has that name.
 [[nodiscard]] bool existe(const std::string& ruta);
 /// Makes a folder for the user alone, or narrows the one that stands there, where its owner lets it be narrowed. Gives

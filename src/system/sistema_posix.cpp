@@ -118,6 +118,11 @@ bool otro_nombre(const std::string& de, const std::string& a)
     return ::link(de.c_str(), a.c_str()) == 0;
 }
 
+std::string nombre_sin_camino(const std::string& ruta)
+{
+    return ruta.substr(ruta.rfind('/') + 1);
+}
+
 bool existe(const std::string& ruta)
 {
     struct stat s = {};

@@ -276,6 +276,11 @@ bool otro_nombre(const std::string& de, const std::string& a)
     return CreateHardLinkW(camino(a).c_str(), camino(de).c_str(), nullptr) || fallar();
 }
 
+std::string nombre_sin_camino(const std::string& ruta)
+{
+    return ruta.substr(ruta.find_last_of("/\\:") + 1);
+}
+
 bool existe(const std::string& ruta)
 {
     return GetFileAttributesW(camino(ruta).c_str()) != INVALID_FILE_ATTRIBUTES || fallar();

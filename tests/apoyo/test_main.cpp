@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "application/aplicacion.h"
+#include "application/escritorio.h"
+#include "core/preferencias.h"
 
 #include <QLocale>
 #include <QTemporaryDir>
@@ -17,7 +19,12 @@ int main(int argc, char** argv)
     QApplication aplicacion(argc, argv);
     // What tests prefer is not what the user of this machine prefers, nor what the next test does.
     const QTemporaryDir preferencias;
+#ifdef Q_OS_WIN
+    seguir_escritorio(&aplicacion);
+    fijar_preferencias(preferencias.filePath(QStringLiteral("preferencias.ini")));
+#else
     qputenv("XDG_CONFIG_HOME", preferencias.path().toLocal8Bit());
+#endif
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Argentina));
     return RUN_ALL_TESTS();
 }

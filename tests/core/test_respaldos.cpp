@@ -119,8 +119,8 @@ TEST_F(Respaldos, SinLugarSeDiceYSeSigue)
     EXPECT_TRUE(empezar(5));
     EXPECT_TRUE(oyente.ultimo().startsWith("No se pudo hacer el respaldo de hoy"_u));
     EXPECT_EQ(oyente.detalles.last(),
-              "No se pudo crear %1/respaldos: en el camino hay un archivo donde debe haber una carpeta"_u.arg(
-                  carpeta.path()));
+              "No se pudo crear %1: en el camino hay un archivo donde debe haber una carpeta"_u.arg(
+                  QDir::toNativeSeparators(carpeta.path() + "/respaldos"_u)));
     const QString dj = nueva_dj();
     auto* lista = cargar<frmDJ_buscar>();
     lista->mostrar();

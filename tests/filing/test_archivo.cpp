@@ -305,7 +305,8 @@ TEST_F(Archivo, LoQueNoSePuedeEscribir)
     EXPECT_EQ(sin_carpeta.codigo, QString());
     EXPECT_EQ(
         sin_carpeta.motivo,
-        "No se pudo crear %1/data: en el camino hay un archivo donde debe haber una carpeta"_u.arg(carpeta.path()));
+        "No se pudo crear %1: en el camino hay un archivo donde debe haber una carpeta"_u.arg(
+            QDir::toNativeSeparators(carpeta.path() + "/data"_u)));
     obstaculo.remove();
     const QByteArray antes = emitir(dj);
     const QString codigo = emision.codigo;
@@ -324,7 +325,7 @@ TEST_F(Archivo, LoQueNoSePuedeEscribir)
     todo_igual();
     ASSERT_TRUE(QFile::remove(emision.archivo));
     ASSERT_TRUE(QDir().mkdir(emision.archivo));
-    EXPECT_EQ(falla_al_emitir(dj), "No se pudo copiar %1: hay una carpeta con ese nombre"_u.arg(emision.archivo));
+    EXPECT_EQ(falla_al_emitir(dj), "No se pudo copiar %1: hay una carpeta con ese nombre"_u.arg(QDir::toNativeSeparators(emision.archivo)));
     EXPECT_EQ(dato("select SEDJ_MD5 from SEL_TB_RTN_CABDJ"_u), codigo);
 }
 

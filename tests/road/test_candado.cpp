@@ -62,7 +62,11 @@ TEST_F(UnoSolo, ElSegundoSeNiegaYElPrimeroSigue)
     f.close();
     QTemporaryDir otra(carpeta.path() + "/otra-XXXXXX"_u);
     QFile::link(ruta(), otra.filePath("enlace.db"_u));
-    for (const QByteArray& cfg : {QByteArray("enlace.db\n"), QByteArray("../vedra_rtn.db\n")}) {
+    QList<QByteArray> caminos{"../vedra_rtn.db\n"};
+#ifndef Q_OS_WIN  // what Qt calls a link there is a shortcut of the desktop
+    caminos << "enlace.db\n";
+#endif
+    for (const QByteArray& cfg : caminos) {
         escribir(otra.filePath("vedra_rtn.cfg"_u), cfg);
         EXPECT_EQ(arrancar(segundo, otra.path()), RECHAZO.arg(QSysInfo::machineHostName())
                                                       .arg(primero.processId())

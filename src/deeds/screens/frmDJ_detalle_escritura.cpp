@@ -11,6 +11,7 @@
 #include "widgets/enlaces.h"
 #include "widgets/mensajes.h"
 
+#include <QDir>
 #include <QFileDialog>
 
 using namespace Qt::StringLiterals;
@@ -96,7 +97,7 @@ void frmDJ_detalle::examinar()
     if (archivo.isEmpty())
         return;
     recordar_carpeta(u"testimonio"_s, archivo);
-    ui->txtTestimonio->setText(archivo);
+    ui->txtTestimonio->setText(QDir::toNativeSeparators(archivo));
     ui->txtTestimonio->end(false);
 }
 

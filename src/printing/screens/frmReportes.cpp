@@ -155,8 +155,11 @@ void frmReportes::imprimir()
     dialogo.setMinMax(1, paginas);
     dialogo.setOption(QAbstractPrintDialog::PrintPageRange);
     // Named beforehand on the printer itself, a file would take the place of the user's own printer.
+    // Only the toolkit's own dialog has that field, and prints into a file; that of the system needs a printer.
     if (auto* archivo = dialogo.findChild<QLineEdit*>(u"filename"_s))
         archivo->setText(archivoPropuesto());
+    else if (impresora.outputFormat() != QPrinter::NativeFormat)
+        return avisar(u"No hay ninguna impresora instalada. Use \"Guardar PDF\"."_s, windowTitle(), Icono::informacion);
     if (dialogo.exec() != QDialog::Accepted)
         return;
     const bool rango = impresora.printRange() == QPrinter::PageRange;
