@@ -28,6 +28,8 @@ constexpr DWORD COMPARTIDO = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DEL
 constexpr size_t LARGO_SIN_PREFIJO = 240;
 // What a lock takes lies behind every byte: all of these can be read.
 constexpr DWORD LUGAR_DE_LA_TRABA = 0x40000000;
+// The system's own numbers, above those of errno.
+constexpr int SIN_PALABRAS = 10000;
 constexpr uint32_t PERMISOS = 0100644;
 constexpr int64_t SEGUNDOS_HASTA_1970 = 11644473600;
 constexpr int64_t POR_SEGUNDO = 10'000'000;
@@ -96,7 +98,7 @@ bool fallar(DWORD error = GetLastError())
                                                              {ERROR_IO_DEVICE, EIO},
                                                              {ERROR_WRITE_FAULT, EIO}}};
     const auto* m = std::find_if(MOTIVOS.begin(), MOTIVOS.end(), [error](const auto& p) { return p.first == error; });
-    errno = m == MOTIVOS.end() ? int(error) : m->second;
+    errno = m == MOTIVOS.end() ? SIN_PALABRAS + int(error) : m->second;
     return false;
 }
 
