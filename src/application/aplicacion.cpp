@@ -27,7 +27,7 @@ Aplicacion::Aplicacion(int& argc, char** argv) : QApplication((preparar_escritor
     setApplicationVersion(QString::fromLatin1(RTN_VERSION));
     iniciar_recursos();
     setWindowIcon(icono(u"programa"_s));
-    setPalette(con_deshabilitados_legibles(palette()));
+    setPalette(con_estados_legibles(palette()));
     instalar_espanol(this);
     new VigiaPantalla(this);
     seguir_escritorio(this);
@@ -38,7 +38,7 @@ bool Aplicacion::event(QEvent* evento)
     const bool hecho = QApplication::event(evento);
     if (evento->type() == QEvent::ApplicationPaletteChange && !pintando_) {
         const QScopedValueRollback una_vez(pintando_, true);
-        setPalette(con_deshabilitados_legibles(palette()));
+        setPalette(con_estados_legibles(palette()));
     }
     return hecho;
 }

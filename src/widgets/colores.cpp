@@ -103,7 +103,7 @@ const Colores& colores_de(Tono tono, const QPalette& paleta)
     return c.colores;
 }
 
-QPalette con_deshabilitados_legibles(QPalette paleta)
+QPalette con_estados_legibles(QPalette paleta)
 {
     for (const auto& [papel, fondo] :
          {std::pair(QPalette::Text, QPalette::Base), std::pair(QPalette::WindowText, QPalette::Window),
@@ -112,6 +112,8 @@ QPalette con_deshabilitados_legibles(QPalette paleta)
         const QColor claro = mezclar(paleta.color(QPalette::Active, papel), debajo, PARTE_APAGADA);
         paleta.setColor(QPalette::Disabled, papel, legible(claro, paleta.color(QPalette::Active, QPalette::Button)));
     }
+    for (const auto papel : {QPalette::Highlight, QPalette::HighlightedText})
+        paleta.setColor(QPalette::Inactive, papel, paleta.color(QPalette::Active, papel));
     return paleta;
 }
 

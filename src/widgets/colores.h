@@ -29,7 +29,8 @@ struct Colores
 [[nodiscard]] const Colores& colores_de(Tono tono, const QPalette& paleta);
 
 /// The palette with the texts of what is disabled readable: a form that is only read shows most of its fields so.
-[[nodiscard]] QPalette con_deshabilitados_legibles(QPalette paleta);
+/// What is chosen looks in a window behind a question as it does in the active one: it is what the question is about.
+[[nodiscard]] QPalette con_estados_legibles(QPalette paleta);
 
 /// Light letters on dark ground, for desktops that ask for it and bring no palette of their own.
 [[nodiscard]] QPalette paleta_oscura();

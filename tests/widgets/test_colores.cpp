@@ -17,10 +17,15 @@ namespace {
 const QList<QPalette> ESCRITORIOS{QPalette(QColor(239, 239, 239)), paleta_oscura(), paleta_contraste(true),
                                   paleta_contraste(false)};
 
-TEST(ComunesColores, TonosYDeshabilitadosSeLeenEnCadaEscritorio)
+TEST(ComunesColores, TonosYEstadosSeLeenEnCadaEscritorio)
 {
-    for (const QPalette& original : ESCRITORIOS) {
-        const QPalette p = con_deshabilitados_legibles(original);
+    for (QPalette original : ESCRITORIOS) {
+        // Some desktops choose in the colour of the window's face where the window is not the active one.
+        original.setColor(QPalette::Inactive, QPalette::Highlight, original.color(QPalette::AlternateBase));
+        const QPalette p = con_estados_legibles(original);
+        for (const auto debajo : {QPalette::Base, QPalette::AlternateBase, QPalette::HighlightedText})
+            EXPECT_GE(contraste(p.color(QPalette::Inactive, QPalette::Highlight), p.color(QPalette::Inactive, debajo)),
+                      2);
         for (const Tono tono : {Tono::alerta, Tono::destacado, Tono::apagado}) {
             const Colores& c = colores_de(tono, p);
             for (const auto papel : {QPalette::Base, QPalette::AlternateBase})
