@@ -75,7 +75,7 @@ void anotar_menu(QWidget* campo, Textos& textos)
     });
 }
 
-// All that a notary can see of the toolkit.
+// All that a notary can see of the toolkit but the dialog for printing.
 Textos textos_del_entorno()
 {
     Textos textos;
@@ -88,12 +88,6 @@ Textos textos_del_entorno()
         archivos.setAcceptMode(modo == QFileDialog::AnyFile ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
         anotar(&archivos, textos);
     }
-    QPrinter impresora;
-    QPrintDialog impresion(&impresora);
-    impresion.setOption(QAbstractPrintDialog::PrintPageRange);
-    anotar(&impresion, textos);
-    auto* propiedades = impresion.findChild<QPushButton*>("properties"_u);
-    anotar_modal(&QApplication::activeModalWidget, textos, [propiedades] { propiedades->click(); });
     QLineEdit linea;
     QSpinBox numero;
     QDateEdit fecha;
@@ -104,27 +98,53 @@ Textos textos_del_entorno()
     return textos;
 }
 
-TEST(Espanol, NadaDelEntornoQuedaEnIngles)
+Textos textos_de_impresion()
 {
-    const Textos original = textos_del_entorno();
-    Textos traducidos;
+    Textos textos;
+    QPrinter impresora;
+    QPrintDialog impresion(&impresora);
+    impresion.setOption(QAbstractPrintDialog::PrintPageRange);
+    anotar(&impresion, textos);
+    auto* propiedades = impresion.findChild<QPushButton*>("properties"_u);
+    anotar_modal(&QApplication::activeModalWidget, textos, [propiedades] { propiedades->click(); });
+    return textos;
+}
+
+// What it says once translated, when none of it is as it was.
+Textos traducidos(Textos (*textos)(), int cuantos)
+{
+    const Textos original = textos();
+    Textos nuevos;
     {
         QObject duenio;
         instalar_espanol(&duenio);
-        traducidos = textos_del_entorno();
+        nuevos = textos();
     }
     // Sizes of paper and units that are called the same in both languages, and words that are.
     const QRegularExpression igual(
         "^(Color|&No|.*(Extra|Plus)|Legal|Folio .*|Quarto|Super .|PRC .*|JIS .*|ANSI .|Didot .*|Cicero .*)$"_u);
     const QRegularExpression palabra("[A-Za-z]{3}"_u);
     QStringList ingles;
-    for (const QString& t : original& traducidos)
+    for (const QString& t : original& nuevos)
         if (palabra.match(t).hasMatch() && !igual.match(t).hasMatch() && !t.contains(u'/'))
             ingles << t;
-    EXPECT_GT(original.size(), 150);
+    EXPECT_GT(original.size(), cuantos);
     EXPECT_EQ(ingles.join(u'\n'), QString());
-    for (const char* t : {"&Sí", "&No", "Aceptar", "Cancelar", "Avanzadas", "Impresión a doble faz", "&Aumentar"})
-        EXPECT_TRUE(traducidos.contains(QString::fromUtf8(t))) << t;
+    return nuevos;
+}
+
+TEST(Espanol, NadaDelEntornoQuedaEnIngles)
+{
+    const Textos textos = traducidos(textos_del_entorno, 30);
+    for (const char* t : {"&Sí", "&No", "Aceptar", "Cancelar", "&Aumentar"})
+        EXPECT_TRUE(textos.contains(QString::fromUtf8(t))) << t;
+}
+
+TEST(Espanol, NadaDeLaImpresionQuedaEnIngles)
+{
+    const Textos textos = traducidos(textos_de_impresion, 100);
+    for (const char* t : {"Avanzadas", "Impresión a doble faz"})
+        EXPECT_TRUE(textos.contains(QString::fromUtf8(t))) << t;
 }
 
 // Months and days too, on a desktop of another language.
