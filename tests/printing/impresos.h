@@ -13,6 +13,8 @@
 
 #include <QProcess>
 
+#include <stdexcept>
+
 /// PAPELES=DIR leaves the PDF of each form that a test makes in DIR, to be looked at.
 class Impresos : public ConAlmacen
 {
@@ -21,6 +23,8 @@ protected:
     {
         QProcess p;
         p.start(programa, argumentos);
+        if (!p.waitForStarted())
+            throw std::runtime_error("no está " + programa.toStdString());
         EXPECT_TRUE(p.waitForFinished(120000)) << programa.toStdString();
         return QString::fromUtf8(p.readAllStandardOutput());
     }
