@@ -30,10 +30,17 @@ VIAddVersionKey "LegalCopyright" "GPL-3.0-or-later"
 !define MUI_UNICON "${PROGRAMAS}\..\windows\programa.ico"
 !define MUI_ABORTWARNING
 !define MUI_COMPONENTSPAGE_SMALLDESC
+!define MUI_COMPONENTSPAGE_TEXT_TOP "Elija con qué base de datos empieza. Después puede instalar otra vez en otra carpeta."
+!define MUI_COMPONENTSPAGE_TEXT_COMPLIST "Una de las dos:"
+!define MUI_WELCOMEPAGE_TEXT "Este programa instala ${NOMBRE} ${VERSION} para su usuario. No hace falta un administrador.$\r$\n$\r$\n\
+Si ${NOMBRE} está abierto, ciérrelo antes de seguir: su base de datos y lo emitido quedan como están.$\r$\n$\r$\n\
+Presione Siguiente para continuar."
 !define MUI_FINISHPAGE_RUN "$INSTDIR\vedra_rtn.exe"
 !define MUI_FINISHPAGE_RUN_TEXT "Abrir ${NOMBRE}"
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_DIRECTORY
+!define MUI_PAGE_HEADER_TEXT "Base de datos"
+!define MUI_PAGE_HEADER_SUBTEXT "Empezar con una vacía o con la de muestra."
 !define MUI_PAGE_CUSTOMFUNCTION_PRE solo_sin_base
 !insertmacro MUI_PAGE_COMPONENTS
 !insertmacro MUI_PAGE_INSTFILES
@@ -146,14 +153,14 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-; One of the two.
+; One of the two; the group itself stands for the first.
 Function .onSelChange
-  ${If} $0 = ${SEC_VACIA}
-    !insertmacro SelectSection ${SEC_VACIA}
-    !insertmacro UnselectSection ${SEC_MUESTRA}
-  ${ElseIf} $0 = ${SEC_MUESTRA}
+  ${If} $0 = ${SEC_MUESTRA}
     !insertmacro SelectSection ${SEC_MUESTRA}
     !insertmacro UnselectSection ${SEC_VACIA}
+  ${Else}
+    !insertmacro SelectSection ${SEC_VACIA}
+    !insertmacro UnselectSection ${SEC_MUESTRA}
   ${EndIf}
 FunctionEnd
 
